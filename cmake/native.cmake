@@ -1,0 +1,14 @@
+# The portable code, its tests and the tools, on the machine that builds.
+target_compile_definitions(lumora_flags INTERFACE LUMORA_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+
+if(LUMORA_TESTS)
+  add_executable(lumora_tests ${test_sources})
+  target_link_libraries(lumora_tests PRIVATE lumora_support gtest_main)
+endif()
+
+file(GLOB tool_sources CONFIGURE_DEPENDS tools/*.cpp)
+foreach(source ${tool_sources})
+  get_filename_component(name ${source} NAME_WE)
+  add_executable(${name} ${source})
+  target_link_libraries(${name} PRIVATE lumora_core)
+endforeach()

@@ -1,0 +1,37 @@
+# Lumora.scr and the tests that need Windows (or Wine).
+set(hardening -fstack-protector-strong)
+set(system_libraries gdi32 user32 kernel32 advapi32 shell32 ole32 oleaut32 windowscodecs comctl32 comdlg32
+    shlwapi uxtheme)
+
+target_compile_definitions(lumora_flags INTERFACE UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX
+                           _WIN32_WINNT=0x0A00 WINVER=0x0A00)
+target_compile_options(lumora_flags INTERFACE ${hardening})
+
+add_library(lumora_win STATIC ${windows_sources})
+target_link_libraries(lumora_win PUBLIC lumora_core ${system_libraries})
+
+add_executable(Lumora WIN32 src/startup/entry_win.cpp)
+file(GLOB resource_scripts CONFIGURE_DEPENDS src/startup/*.rc)
+if(resource_scripts)
+  enable_language(RC)
+  target_sources(Lumora PRIVATE ${resource_scripts})
+endif()
+set_target_properties(Lumora PROPERTIES SUFFIX ".scr")
+target_link_libraries(Lumora PRIVATE lumora_win)
+target_link_options(Lumora PRIVATE -municode -static -s -Wl,--gc-sections
+                    -Wl,--dynamicbase -Wl,--nxcompat -Wl,--high-entropy-va)
+target_compile_options(lumora_flags INTERFACE -ffunction-sections -fdata-sections)
+
+if(LUMORA_TESTS)
+  add_library(lumora_win_support STATIC EXCLUDE_FROM_ALL ${windows_support_sources} tests/support/empty.cpp)
+  target_link_libraries(lumora_win_support PUBLIC lumora_support lumora_win)
+
+  add_executable(lumora_win_tests ${windows_test_sources})
+  target_link_libraries(lumora_win_tests PRIVATE lumora_win_support gtest_main)
+  target_link_options(lumora_win_tests PRIVATE -static)
+
+  file(GLOB e2e_sources CONFIGURE_DEPENDS tests/e2e/*.cpp)
+  add_executable(lumora_e2e ${e2e_sources})
+  target_link_libraries(lumora_e2e PRIVATE lumora_win_support gtest_main)
+  target_link_options(lumora_e2e PRIVATE -static)
+endif()

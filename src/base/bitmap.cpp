@@ -1,0 +1,70 @@
+#include "base/bitmap.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace base {
+
+namespace {
+
+std::size_t PixelCount(PixelSize size) {
+  if (size.isEmpty()) return 0;
+  return static_cast<std::size_t>(size.width) * static_cast<std::size_t>(size.height);
+}
+
+// The part of `from` that lies inside the source and whose place at `to` lies inside the target.
+PixelRect VisiblePart(PixelSize target, PixelPoint to, PixelSize source, PixelRect from) {
+  const int dx = to.x - from.left;
+  const int dy = to.y - from.top;
+  return from.intersected(PixelRect::ofSize(source)).intersected(PixelRect::ofSize(target).movedBy(-dx, -dy));
+}
+
+}  // namespace
+
+Bitmap::Bitmap(PixelSize size, Pixel fill)
+    : size_(size.isEmpty() ? PixelSize{} : size), pixels_(PixelCount(size), fill), opaque_(fill >> 24 == 0xFF) {}
+
+void FillRect(BitmapView target, PixelRect area, Pixel pixel) {
+  const PixelRect part = area.intersected(PixelRect::ofSize(target.size));
+  for (int y = part.top; y < part.bottom(); ++y) {
+    std::fill_n(target.row(y) + part.left, part.width, pixel);
+  }
+}
+
+void CopyRect(BitmapView target, PixelPoint to, const Bitmap& source, PixelRect from) {
+  const PixelRect part = VisiblePart(target.size, to, source.size(), from);
+  const int x = part.left - from.left + to.x;
+  for (int y = part.top; y < part.bottom(); ++y) {
+    std::memcpy(target.row(y - from.top + to.y) + x, source.row(y) + part.left,
+                static_cast<std::size_t>(part.width) * sizeof(Pixel));
+  }
+}
+
+void BlendRect(BitmapView target, PixelPoint to, const Bitmap& source, PixelRect from) {
+  if (source.isOpaque()) {
+    CopyRect(target, to, source, from);
+    return;
+  }
+  const PixelRect part = VisiblePart(target.size, to, source.size(), from);
+  const int x = part.left - from.left + to.x;
+  for (int y = part.top; y < part.bottom(); ++y) {
+    Pixel* below = target.row(y - from.top + to.y) + x;
+    const Pixel* above = source.row(y) + part.left;
+    for (int i = 0; i < part.width; ++i) below[i] = Over(above[i], below[i]);
+  }
+}
+
+Pixel Over(Pixel above, Pixel below) {
+  const Pixel alpha = above >> 24;
+  if (alpha == 0xFF) return above;
+  if (alpha == 0) return below;
+  const Pixel rest = 255 - alpha;
+  Pixel result = 0;
+  for (int shift = 0; shift < 32; shift += 8) {
+    const Pixel part = ((below >> shift) & 0xFF) * rest + 127;
+    result |= std::min<Pixel>(((above >> shift) & 0xFF) + part / 255, 0xFF) << shift;
+  }
+  return result;
+}
+
+}  // namespace base

@@ -1,0 +1,28 @@
+// Packed colours: red + green x 256 + blue x 65536, or a system colour (top bit set, index in the low byte).
+#pragma once
+
+#include <cstdint>
+
+namespace base {
+
+using PackedColor = std::int32_t;
+
+constexpr PackedColor Rgb(int red, int green, int blue) { return red + green * 256 + blue * 65536; }
+constexpr int RedOf(PackedColor color) { return color & 0xFF; }
+constexpr int GreenOf(PackedColor color) { return (color >> 8) & 0xFF; }
+constexpr int BlueOf(PackedColor color) { return (color >> 16) & 0xFF; }
+
+// A colour of the user's theme; the index is the platform's (GetSysColor).
+constexpr PackedColor SystemColor(int index) { return static_cast<PackedColor>(0x80000000U | static_cast<unsigned>(index)); }
+constexpr bool IsSystemColor(PackedColor color) { return color < 0; }
+constexpr int SystemColorIndex(PackedColor color) { return color & 0xFF; }
+
+constexpr PackedColor kWindowBackground = SystemColor(5);
+constexpr PackedColor kButtonFace = SystemColor(15);
+constexpr PackedColor kButtonText = SystemColor(18);
+constexpr PackedColor kThreeDLight = SystemColor(22);
+constexpr PackedColor kBlack = 0;
+constexpr PackedColor kWhite = 0xFFFFFF;
+constexpr PackedColor kHighlight = 0xFF0000;  // pure blue
+
+}  // namespace base

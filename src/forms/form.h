@@ -1,0 +1,62 @@
+// A window of the program, as a model: its place, its controls, its events. A host shows it.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "base/color.h"
+#include "forms/control.h"
+#include "forms/form_host.h"
+
+namespace forms {
+
+class Form {
+ public:
+  explicit Form(std::string name);
+  virtual ~Form() = default;
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  const std::string& name() const { return name_; }
+
+  // The host is set before the form is loaded and reset when its window has gone.
+  FormHost* host() const { return host_; }
+  void setHost(FormHost* host) { host_ = host; }
+  int twipsPerPixel() const { return host_ ? host_->twipsPerPixel() : 15; }
+
+  // In the order in which they were made; children come after their containers.
+  const std::vector<Control*>& controls() const { return controls_; }
+
+  // Outer place in twips.
+  float left = 0;
+  float top = 0;
+  float width = 0;
+  float height = 0;
+
+  // The vertical scale that the form gave itself for drawing, over its whole height; 0 = twips.
+  // It scales the pointer positions that the form reports; controls stay placed in twips.
+  float scaleHeight = 0;
+
+  std::string caption;
+  base::PackedColor backColor() const { return backColor_; }
+  void setBackColor(base::PackedColor color);
+  std::function<void()> onBackColorChanged;  // for the host
+
+  // Events; the host raises them.
+  std::function<void(const MouseEvent&)> onMouseMove;
+  std::function<void(const MouseEvent&)> onMouseDown;
+  std::function<void(int keyCode)> onKeyDown;
+
+ private:
+  friend class Control;
+  void adopt(Control& control) { controls_.push_back(&control); }
+  void release(Control& control) { std::erase(controls_, &control); }
+
+  std::string name_;
+  FormHost* host_ = nullptr;
+  std::vector<Control*> controls_;
+  base::PackedColor backColor_ = base::kButtonFace;
+};
+
+}  // namespace forms

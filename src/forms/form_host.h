@@ -1,0 +1,43 @@
+// What realises a form: the stage of the show, or real windows.
+#pragma once
+
+#include <string>
+
+#include "base/font.h"
+#include "base/geometry.h"
+
+namespace forms {
+
+class Control;
+
+// What a model tells its host has changed. The host reads the new value from the model.
+enum class Change {
+  Place,     // left, top, width or height
+  Visible,
+  Enabled,
+  Text,      // caption or text
+  Colors,    // background or text colour
+  Font,
+  Picture,   // the assigned picture
+  Value,     // value, checked state, selected index
+  Items,     // a list's entries
+  Range,     // minimum, maximum, steps
+  ToolTip,
+};
+
+class FormHost {
+ public:
+  virtual ~FormHost() = default;
+
+  virtual void controlChanged(Control& control, Change change) = 0;
+
+  // A picture box was drawn on inside `area` (its own pixels).
+  virtual void controlDrawn(Control& control, const base::PixelRect& area) = 0;
+
+  // Pixels that one line of text takes in a font.
+  virtual base::PixelSize measureText(const base::Font& font, const std::string& text) = 0;
+
+  virtual int twipsPerPixel() const = 0;
+};
+
+}  // namespace forms

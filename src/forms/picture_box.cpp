@@ -1,0 +1,75 @@
+#include "forms/picture_box.h"
+
+#include <utility>
+
+#include "forms/form.h"
+
+namespace forms {
+
+PictureBox::PictureBox(Form& form, std::string name) : Control(form, std::move(name)) {}
+
+float PictureBox::scaleWidth() const { return static_cast<float>(pixelRect().width); }
+
+float PictureBox::scaleHeight() const { return static_cast<float>(pixelRect().height); }
+
+void PictureBox::setPicture(SharedPicture picture) {
+  picture_ = std::move(picture);
+  drawing_.reset();
+  writable_.reset();
+  if (autoSize_ && picture_) {
+    const base::PixelSize size = picture_->size();
+    const auto perPixel = static_cast<float>(form().twipsPerPixel());
+    move(left(), top(), static_cast<float>(size.width) * perPixel, static_cast<float>(size.height) * perPixel);
+  }
+  changed(Change::Picture);
+}
+
+void PictureBox::cls() {
+  if (!drawing_) return;
+  drawing_.reset();
+  writable_.reset();
+  if (host()) host()->controlDrawn(*this, base::PixelRect::ofSize(pixelRect().size()));
+}
+
+void PictureBox::paintPicture(const Picture& source, base::PixelSize size) {
+  base::SharedBitmap drawn = source.drawnAt(size);
+  if (!drawn) return;
+  if (!drawing_ && size == pixelRect().size()) {
+    drawing_ = std::move(drawn);  // the whole box: no second copy of the pixels
+  } else {
+    base::CopyRect(writableDrawing().view(), {0, 0}, *drawn, base::PixelRect::ofSize(size));
+  }
+  if (host()) host()->controlDrawn(*this, base::PixelRect::ofSize(size));
+}
+
+void PictureBox::paintPart(const base::Bitmap& source, const base::PixelRect& area) {
+  base::CopyRect(writableDrawing().view(), {area.left, area.top}, source, area);
+  if (host()) host()->controlDrawn(*this, area);
+}
+
+base::SharedBitmap PictureBox::image() const {
+  const base::PixelSize size = pixelRect().size();
+  if (drawing_ && !picture_ && drawing_->size() == size) return drawing_;
+  auto image = std::make_shared<base::Bitmap>(size);
+  if (picture_) {
+    if (base::SharedBitmap assigned = picture_->drawnAt(picture_->size())) {
+      base::CopyRect(image->view(), {0, 0}, *assigned, base::PixelRect::ofSize(assigned->size()));
+    }
+  }
+  if (drawing_) base::BlendRect(image->view(), {0, 0}, *drawing_, base::PixelRect::ofSize(drawing_->size()));
+  return image;
+}
+
+base::Bitmap& PictureBox::writableDrawing() {
+  // Pixels that were handed out as an image, or taken over from a picture, are not ours to change.
+  const bool ours = writable_ && writable_ == drawing_ && writable_.use_count() == 2;
+  if (!ours) {
+    writable_ = drawing_ ? std::make_shared<base::Bitmap>(*drawing_)
+                         : std::make_shared<base::Bitmap>(pixelRect().size());
+    writable_->setOpaque(false);
+    drawing_ = writable_;
+  }
+  return *writable_;
+}
+
+}  // namespace forms

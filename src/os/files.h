@@ -1,0 +1,38 @@
+// Files by their UTF-8 paths.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace os {
+
+class Files {
+ public:
+  virtual ~Files() = default;
+
+  // The whole file, or nothing when it cannot be read.
+  virtual std::optional<std::string> read(const std::string& path) = 0;
+
+  // Puts `content` in the file's place in one step: it is written beside it, flushed, and renamed over it, so
+  // that at every instant the file is the old one or the new one, whole. False when it did not succeed; the
+  // old file then stands as it was and nothing is left beside it.
+  virtual bool replace(const std::string& path, std::string_view content) = 0;
+
+  virtual bool exists(const std::string& path) = 0;
+
+  // Copies a file over another (made anew). False when it did not succeed.
+  virtual bool copy(const std::string& from, const std::string& to) = 0;
+
+  // True when a file can be made in the folder.
+  virtual bool canWriteIn(const std::string& folder) = 0;
+
+  // Names (not paths) of the files in a folder, in the folder's own order; empty when it cannot be read.
+  virtual std::vector<std::string> filesIn(const std::string& folder) = 0;
+
+  // The short (8.3) form of a path where the file system has one, else the path itself.
+  virtual std::string shortPath(const std::string& path) = 0;
+};
+
+}  // namespace os

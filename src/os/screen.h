@@ -1,0 +1,28 @@
+// The screens of the machine.
+#pragma once
+
+#include <vector>
+
+#include "base/bitmap.h"
+#include "base/geometry.h"
+
+namespace os {
+
+class Screen {
+ public:
+  virtual ~Screen() = default;
+
+  // The primary screen in physical pixels; its top-left corner is (0, 0).
+  virtual base::PixelSize primarySize() const = 0;
+
+  // Dots per inch of the primary screen.
+  virtual int dpi() const = 0;
+
+  // The places of the further screens relative to the primary one; empty with a single screen.
+  virtual std::vector<base::PixelRect> otherScreens() const = 0;
+
+  // What the primary screen shows at this moment, opaque. Black where it cannot be read.
+  virtual base::Bitmap copyDesktop() const = 0;
+};
+
+}  // namespace os

@@ -1,0 +1,42 @@
+// The show's one reader of the settings file.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "os/ansi_code_page.h"
+#include "os/files.h"
+#include "settings/settings_record.h"
+
+namespace settings {
+
+// Everything that the show knows of the settings file.
+struct SaverSettings {
+  SettingsRecord record;
+
+  // Indices 0 to `total`; the last entry stays empty.
+  std::vector<std::string> imageFiles;
+  std::vector<std::string> imageCaptions;
+
+  std::int16_t lastImageIndex = -1;  // number of paths read minus one
+  float pictureScale = 0;            // picturePercent divided by 100
+  std::string countdownTarget;       // "month/day/year 12:00:00 AM", only with a countdown
+
+  // Names of the keys whose text was no number and was replaced by the default, in the order of reading.
+  std::vector<std::string> mended;
+};
+
+// What to do with text that a strict conversion refuses.
+enum class Conversion {
+  Mend,    // go on with the key's default, whose text replaces the field, and report the key
+  Strict,  // throw base::TypeMismatch at the first, with the fields read so far set and the rest untouched
+};
+
+// Reads `zbfaone.ini` in `programFolder` into `into`, seeding the sample pictures first when the file carries
+// the first-run marker. A missing file, section or key reads as empty text. Throws base::Overflow for more
+// than 32767 pictures in either mode.
+void LoadSettings(SaverSettings& into, os::Files& files, const os::AnsiCodePage& ansi,
+                  const std::string& programFolder, Conversion conversion = Conversion::Mend);
+
+}  // namespace settings

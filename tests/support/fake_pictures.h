@@ -1,0 +1,31 @@
+// Picture files of one colour, or broken ones, by path.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "os/pictures.h"
+
+namespace support {
+
+class FakePictures : public os::PictureLoader {
+ public:
+  std::shared_ptr<const os::PictureFile> open(const std::string& path) override;
+
+  void add(const std::string& path, base::PixelSize size, base::PackedColor color);
+
+  // A picture whose header can be read and whose pixels cannot be decoded.
+  void addBroken(const std::string& path, base::PixelSize size);
+
+  // A picture with pixels of its own; drawn at another size it is resampled.
+  void add(const std::string& path, base::Bitmap pixels);
+
+  std::vector<std::string> opened;                // paths in the order of opening
+  std::vector<base::PixelSize> drawnSizes;        // sizes in the order of drawing
+
+ private:
+  std::map<std::string, std::shared_ptr<const os::PictureFile>> files_;
+};
+
+}  // namespace support

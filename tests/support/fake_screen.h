@@ -1,0 +1,25 @@
+// Screens of any size, with a desktop of a chosen picture.
+#pragma once
+
+#include "os/screen.h"
+
+namespace support {
+
+class FakeScreen : public os::Screen {
+ public:
+  base::PixelSize primarySize() const override { return size; }
+  int dpi() const override { return dotsPerInch; }
+  std::vector<base::PixelRect> otherScreens() const override { return others; }
+  base::Bitmap copyDesktop() const override {
+    ++desktopCopies;
+    return desktop.isEmpty() ? base::Bitmap(size, 0xFF204060) : desktop;
+  }
+
+  base::PixelSize size{1024, 768};
+  int dotsPerInch = 96;
+  std::vector<base::PixelRect> others;
+  base::Bitmap desktop;
+  mutable int desktopCopies = 0;
+};
+
+}  // namespace support
