@@ -1,0 +1,91 @@
+# What the doors share: packages, builds, the display, the Wine prefix. Sourced by bash scripts at the root.
+set -euo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+cd "$root"
+
+say() { printf '%s\n' "$*" >&2; }
+
+as_root() {
+  if [ "$(id -u)" = 0 ]; then "$@"; else sudo -n "$@"; fi
+}
+
+# Installs the Debian packages that are missing, asking nothing. $1: what they are for; the rest: names.
+need_packages() {
+  local purpose=$1 missing=() name
+  shift
+  for name in "$@"; do
+    dpkg-query -W -f='${Status}' "$name" 2>/dev/null | grep -q 'install ok installed' || missing+=("$name")
+  done
+  [ ${#missing[@]} = 0 ] && return 0
+  say "installing for $purpose: ${missing[*]}"
+  as_root apt-get update -q >/dev/null
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+build_packages=(cmake ninja-build g++ googletest libgtest-dev)
+windows_packages=(g++-mingw-w64-x86-64-posix)
+show_packages=(wine wine64 xvfb xauth xdotool imagemagick x11-utils x11-apps fonts-liberation)
+
+# $1: preset; the rest: targets (none = all).
+build_preset() {
+  local preset=$1
+  shift
+  local log="$root/out/build-$preset.log"
+  mkdir -p "$root/out"
+  if ! { cmake --preset "$preset" && cmake --build --preset "$preset" ${1:+--target "$@"}; } >"$log" 2>&1; then
+    tail -n 60 "$log" >&2
+    say "the build of '$preset' failed; all of its output: $log"
+    return 1
+  fi
+}
+
+# The program folder, ready to run from anywhere.
+lay_program_folder() {
+  local folder="$root/out/Lumora"
+  mkdir -p "$folder"
+  cp "$root/build-windows/Lumora.scr" "$folder/Lumora.scr"
+  cp "$root/assets/zbfaone.ini" "$root/assets/image1.gif" "$root/assets/image2.gif" "$folder/"
+  [ -f "$root/assets/lumoraHelp.htm" ] && cp "$root/assets/lumoraHelp.htm" "$folder/"
+  return 0
+}
+
+export WINEDEBUG=-all
+export WINEDLLOVERRIDES="mscoree=;mshtml="
+export WINEPREFIX="${LUMORA_WINEPREFIX:-$root/.wine}"
+
+# A display of our own. $1: WIDTHxHEIGHT. Sets DISPLAY and xvfb_pid.
+start_display() {
+  local size=$1 pipe
+  pipe=$(mktemp -u)
+  mkfifo "$pipe"
+  Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp 3>"$pipe" >/dev/null 2>&1 &
+  xvfb_pid=$!
+  local number
+  read -r -t 30 number <"$pipe"
+  rm -f "$pipe"
+  export DISPLAY=":$number"
+}
+
+# Makes the project's own Wine prefix once. Needs a display: a session that starts without one stays without.
+prepare_wine() {
+  [ -f "$WINEPREFIX/.lumora-ready" ] && return 0
+  say "making the Wine prefix (once)"
+  mkdir -p "$(dirname "$WINEPREFIX")"
+  wine wineboot -i >/dev/null 2>&1
+  # No window manager is needed, a crash ends a program instead of asking, colours are true.
+  wine reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null 2>&1
+  wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null 2>&1
+  wineserver -w
+  touch "$WINEPREFIX/.lumora-ready"
+}
+
+# Stops the Wine server of our prefix and our own display.
+stop_show_machine() {
+  wineserver -k 2>/dev/null || true
+  wineserver -w 2>/dev/null || true
+  if [ -n "${xvfb_pid:-}" ]; then
+    kill "$xvfb_pid" 2>/dev/null || true
+    wait "$xvfb_pid" 2>/dev/null || true
+    xvfb_pid=
+  fi
+}

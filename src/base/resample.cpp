@@ -1,0 +1,2 @@
+#include "base/resample.h"
+namespace base { Bitmap Resample(const Bitmap& source, PixelSize) { return source; } }

@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# Fails on an include between rooms that the table does not allow, and on <windows.h> outside a _win file.
+# Reports in GoogleTest's form, so that the test run can count it.
+set -u
+cd "$(dirname "$0")/../.."
+declare -A may=(
+  [base]="base"
+  [os]="base os"
+  [forms]="base os forms"
+  [settings]="base os settings"
+  [startup]="base os forms settings startup saver dialog auxwin"
+  [saver]="base os forms settings saver"
+  [dialog]="base os forms settings auxwin dialog"
+  [auxwin]="base os forms auxwin"
+)
+bad=0
+for room in "${!may[@]}"; do
+  while IFS=: read -r file _ include; do
+    target=$(sed -E 's/.*#include "([^"]+)".*/\1/' <<<"$include")
+    case " ${may[$room]} " in
+      *" ${target%%/*} "*) ;;
+      *) echo "Failure"; echo "$file: $target: '$room' may not include from '${target%%/*}'"; bad=$((bad + 1)) ;;
+    esac
+  done < <(grep -rnE '^#include "' "src/$room" 2>/dev/null)
+done
+while IFS= read -r file; do
+  echo "Failure"; echo "$file: only _win files include the Windows API"; bad=$((bad + 1))
+done < <(grep -rlE '#[[:space:]]*include[[:space:]]*<(windows|commctrl|commdlg|wincodec|shellapi|shlobj|windowsx|objbase)\.h>' src |
+         grep -vE '_win\.(h|cpp)$')
+if [ $bad = 0 ]; then
+  echo "[  PASSED  ] 1 test."
+else
+  echo "[  FAILED  ] Arrows.PointOnlyWhereTheTableAllows (0 ms)"
+  exit 1
+fi
