@@ -22,7 +22,9 @@ PixelRect VisiblePart(PixelSize target, PixelPoint to, PixelSize source, PixelRe
 }  // namespace
 
 Bitmap::Bitmap(PixelSize size, Pixel fill)
-    : size_(size.isEmpty() ? PixelSize{} : size), pixels_(PixelCount(size), fill), opaque_(fill >> 24 == 0xFF) {}
+    : size_(size.isEmpty() ? PixelSize{} : size),
+      pixels_(PixelCount(size), fill),
+      opaque_(fill >> 24 == 0xFF) {}
 
 void FillRect(BitmapView target, PixelRect area, Pixel pixel) {
   const PixelRect part = area.intersected(PixelRect::ofSize(target.size));

@@ -62,7 +62,8 @@ void FillRect(BitmapView target, PixelRect area, Pixel pixel);
 // Puts source pixels `from` at `to` of the target, replacing what was there (alpha too). Cut to both.
 void CopyRect(BitmapView target, PixelPoint to, const Bitmap& source, PixelRect from);
 
-// Lays source pixels `from` over the target at `to` (source over). Cut to both; copies when the source is opaque.
+// Lays source pixels `from` over the target at `to` (source over). Cut to both; copies when the source is
+// opaque.
 void BlendRect(BitmapView target, PixelPoint to, const Bitmap& source, PixelRect from);
 
 // One pixel over another.

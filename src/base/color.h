@@ -13,7 +13,9 @@ constexpr int GreenOf(PackedColor color) { return (color >> 8) & 0xFF; }
 constexpr int BlueOf(PackedColor color) { return (color >> 16) & 0xFF; }
 
 // A colour of the user's theme; the index is the platform's (GetSysColor).
-constexpr PackedColor SystemColor(int index) { return static_cast<PackedColor>(0x80000000U | static_cast<unsigned>(index)); }
+constexpr PackedColor SystemColor(int index) {
+  return static_cast<PackedColor>(0x80000000U | static_cast<unsigned>(index));
+}
 constexpr bool IsSystemColor(PackedColor color) { return color < 0; }
 constexpr int SystemColorIndex(PackedColor color) { return color & 0xFF; }
 

@@ -34,9 +34,7 @@ struct PixelRect {
   bool isEmpty() const { return width <= 0 || height <= 0; }
   PixelSize size() const { return {width, height}; }
   long long area() const { return isEmpty() ? 0 : static_cast<long long>(width) * height; }
-  bool contains(PixelPoint p) const {
-    return p.x >= left && p.x < right() && p.y >= top && p.y < bottom();
-  }
+  bool contains(PixelPoint p) const { return p.x >= left && p.x < right() && p.y >= top && p.y < bottom(); }
   PixelRect movedBy(int dx, int dy) const { return {left + dx, top + dy, width, height}; }
 
   // The common part; empty (all zero) when the two do not meet.

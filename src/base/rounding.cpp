@@ -45,7 +45,8 @@ std::int32_t WholeDivide(double dividend, double divisor) {
 
 std::int32_t MultiplyInt32(std::int32_t a, std::int32_t b) {
   const std::int64_t product = static_cast<std::int64_t>(a) * b;
-  if (product < std::numeric_limits<std::int32_t>::min() || product > std::numeric_limits<std::int32_t>::max()) {
+  if (product < std::numeric_limits<std::int32_t>::min() ||
+      product > std::numeric_limits<std::int32_t>::max()) {
     throw Overflow();
   }
   return static_cast<std::int32_t>(product);

@@ -12,16 +12,16 @@ class Control;
 
 // What a model tells its host has changed. The host reads the new value from the model.
 enum class Change {
-  Place,     // left, top, width or height
+  Place,  // left, top, width or height
   Visible,
   Enabled,
-  Text,      // caption or text
-  Colors,    // background or text colour
+  Text,    // caption or text
+  Colors,  // background or text colour
   Font,
-  Picture,   // the assigned picture
-  Value,     // value, checked state, selected index
-  Items,     // a list's entries
-  Range,     // minimum, maximum, steps
+  Picture,  // the assigned picture
+  Value,    // value, checked state, selected index
+  Items,    // a list's entries
+  Range,    // minimum, maximum, steps
   ToolTip,
 };
 

@@ -42,7 +42,9 @@ class FilePicture final : public Picture {
 
 }  // namespace
 
-SharedPicture MakePicture(base::SharedBitmap bitmap) { return std::make_shared<MemoryPicture>(std::move(bitmap)); }
+SharedPicture MakePicture(base::SharedBitmap bitmap) {
+  return std::make_shared<MemoryPicture>(std::move(bitmap));
+}
 
 SharedPicture MakePicture(std::shared_ptr<const os::PictureFile> file) {
   return std::make_shared<FilePicture>(std::move(file));

@@ -19,7 +19,8 @@ void PictureBox::setPicture(SharedPicture picture) {
   if (autoSize_ && picture_) {
     const base::PixelSize size = picture_->size();
     const auto perPixel = static_cast<float>(form().twipsPerPixel());
-    move(left(), top(), static_cast<float>(size.width) * perPixel, static_cast<float>(size.height) * perPixel);
+    move(left(), top(), static_cast<float>(size.width) * perPixel,
+         static_cast<float>(size.height) * perPixel);
   }
   changed(Change::Picture);
 }

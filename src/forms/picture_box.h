@@ -30,7 +30,8 @@ class PictureBox : public Control {
   // Draws the whole of a picture, stretched to `size` pixels at (0, 0).
   void paintPicture(const Picture& source, base::PixelSize size);
 
-  // Copies the pixels `area` of `source` to the same place of the drawing surface; cut to both. Shown at once.
+  // Copies the pixels `area` of `source` to the same place of the drawing surface; cut to both. Shown at
+  // once.
   void paintPart(const base::Bitmap& source, const base::PixelRect& area);
 
   // Everything drawn so far on top of the assigned picture, at the box's size in pixels. Shares the pixels
@@ -45,7 +46,7 @@ class PictureBox : public Control {
 
   SharedPicture picture_;
   bool autoSize_ = false;
-  base::SharedBitmap drawing_;            // shared with whoever asked for the image
+  base::SharedBitmap drawing_;              // shared with whoever asked for the image
   std::shared_ptr<base::Bitmap> writable_;  // the same bitmap while nobody else may hold it
 };
 

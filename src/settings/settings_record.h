@@ -9,7 +9,8 @@ namespace settings {
 struct SettingsRecord {
   std::string total;
   // [image]
-  std::string randomPick, picSpeed, timeInterval, picRandom, picChange, mouseSensitivity, picturePercent, timeDisplay;
+  std::string randomPick, picSpeed, timeInterval, picRandom, picChange, mouseSensitivity, picturePercent,
+      timeDisplay;
   // [background]
   std::string newBackColor, backEffect, backgroundImage, backgroundDisplay, redBackground, greenBackground,
       blueBackground;

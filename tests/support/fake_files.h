@@ -24,11 +24,11 @@ class FakeFiles : public os::Files {
   // Path to content; paths are compared letter for letter, with backslashes between folders.
   std::map<std::string, std::string> content;
 
-  bool writable = true;                      // false: every write fails
-  std::set<std::string> locked;              // paths that cannot be read or replaced
+  bool writable = true;          // false: every write fails
+  std::set<std::string> locked;  // paths that cannot be read or replaced
   std::map<std::string, std::string> shortPaths;
-  std::vector<std::string> reads;            // paths in the order of reading
-  std::vector<std::string> writes;           // paths in the order of writing
+  std::vector<std::string> reads;   // paths in the order of reading
+  std::vector<std::string> writes;  // paths in the order of writing
 };
 
 }  // namespace support

@@ -38,9 +38,8 @@ std::shared_ptr<const os::PictureFile> FakePictures::open(const std::string& pat
 }
 
 void FakePictures::add(const std::string& path, base::PixelSize size, base::PackedColor color) {
-  files_[path] = std::make_shared<FakePictureFile>(*this, size, [color](base::PixelSize drawn) {
-    return base::Bitmap(drawn, base::OpaquePixel(color));
-  });
+  files_[path] = std::make_shared<FakePictureFile>(
+      *this, size, [color](base::PixelSize drawn) { return base::Bitmap(drawn, base::OpaquePixel(color)); });
 }
 
 void FakePictures::addBroken(const std::string& path, base::PixelSize size) {
@@ -50,8 +49,8 @@ void FakePictures::addBroken(const std::string& path, base::PixelSize size) {
 
 void FakePictures::add(const std::string& path, base::Bitmap pixels) {
   const base::PixelSize size = pixels.size();
-  files_[path] = std::make_shared<FakePictureFile>(
-      *this, size, [pixels = std::move(pixels)](base::PixelSize drawn) {
+  files_[path] =
+      std::make_shared<FakePictureFile>(*this, size, [pixels = std::move(pixels)](base::PixelSize drawn) {
         return drawn == pixels.size() ? pixels : base::Resample(pixels, drawn);
       });
 }

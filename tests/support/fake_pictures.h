@@ -21,8 +21,8 @@ class FakePictures : public os::PictureLoader {
   // A picture with pixels of its own; drawn at another size it is resampled.
   void add(const std::string& path, base::Bitmap pixels);
 
-  std::vector<std::string> opened;                // paths in the order of opening
-  std::vector<base::PixelSize> drawnSizes;        // sizes in the order of drawing
+  std::vector<std::string> opened;          // paths in the order of opening
+  std::vector<base::PixelSize> drawnSizes;  // sizes in the order of drawing
 
  private:
   std::map<std::string, std::shared_ptr<const os::PictureFile>> files_;

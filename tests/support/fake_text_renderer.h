@@ -10,7 +10,8 @@ namespace support {
 class FakeTextRenderer : public os::TextRenderer {
  public:
   base::PixelSize measure(const base::Font& font, const std::string& text) override {
-    return {static_cast<int>(text.size()) * widthOf(font), static_cast<int>(std::lround(font.sizePoints * 1.2F))};
+    return {static_cast<int>(text.size()) * widthOf(font),
+            static_cast<int>(std::lround(font.sizePoints * 1.2F))};
   }
 
   os::TextMask draw(const base::Font& font, const std::string& text) override {

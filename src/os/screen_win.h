@@ -1,0 +1,16 @@
+// The screens of this machine.
+#pragma once
+
+#include "os/screen.h"
+
+namespace os {
+
+class ScreenWin : public Screen {
+ public:
+  base::PixelSize primarySize() const override;
+  int dpi() const override;
+  std::vector<base::PixelRect> otherScreens() const override;
+  base::Bitmap copyDesktop() const override;
+};
+
+}  // namespace os
