@@ -15,4 +15,8 @@ int TwipsToPixels(double twips, int twipsPerPixel) {
   return static_cast<int>(RoundHalfToEven(twips / twipsPerPixel));
 }
 
+int PixelAtTwips(double twips, int twipsPerPixel) {
+  return static_cast<int>(Int(RoundHalfToEven(twips) / twipsPerPixel));
+}
+
 }  // namespace base

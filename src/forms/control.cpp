@@ -41,7 +41,7 @@ void Control::move(float left, float top, float width, float height) {
 
 base::PixelRect Control::pixelRect() const {
   const int perPixel = form_.twipsPerPixel();
-  return {base::TwipsToPixels(left_, perPixel), base::TwipsToPixels(top_, perPixel),
+  return {base::PixelAtTwips(left_, perPixel), base::PixelAtTwips(top_, perPixel),
           base::TwipsToPixels(width_, perPixel), base::TwipsToPixels(height_, perPixel)};
 }
 

@@ -44,7 +44,7 @@ class Control {
   virtual void setHeight(float twips);
   void move(float left, float top, float width, float height);
 
-  // The place in whole pixels, each value rounded by itself (halves to even).
+  // The place in whole pixels: the pixel in which the top-left corner lies, and the nearest whole size.
   base::PixelRect pixelRect() const;
 
   bool visible() const { return visible_; }

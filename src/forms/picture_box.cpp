@@ -50,7 +50,7 @@ void PictureBox::paintPart(const base::Bitmap& source, const base::PixelRect& ar
 
 base::SharedBitmap PictureBox::image() const {
   const base::PixelSize size = pixelRect().size();
-  if (drawing_ && !picture_ && drawing_->size() == size) return drawing_;
+  if (drawing_ && drawing_->size() == size && (!picture_ || drawing_->isOpaque())) return drawing_;
   auto image = std::make_shared<base::Bitmap>(size);
   if (picture_) {
     if (base::SharedBitmap assigned = picture_->drawnAt(picture_->size())) {

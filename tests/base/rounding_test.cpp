@@ -44,6 +44,14 @@ TEST(Twips, AreOneWholeNumberForEachResolution) {
   EXPECT_EQ(base::TwipsPerPixelForDpi(192), 8);
 }
 
+TEST(Twips, APositionLiesInOnePixelOnBothSidesOfTheOrigin) {
+  EXPECT_EQ(base::PixelAtTwips(2550, 15), 170);
+  EXPECT_EQ(base::PixelAtTwips(2549, 15), 169);
+  EXPECT_EQ(base::PixelAtTwips(-1, 15), -1);
+  EXPECT_EQ(base::PixelAtTwips(-15, 15), -1);
+  EXPECT_EQ(base::PixelAtTwips(-16, 15), -2);
+}
+
 TEST(Random, StartsWithTheKnownSequence) {
   base::Random random;
   EXPECT_FLOAT_EQ(random.next(), 0.7055475F);

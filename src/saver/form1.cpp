@@ -1,0 +1,179 @@
+#include "saver/form1.h"
+
+#include <utility>
+
+#include "base/color.h"
+#include "base/number_text.h"
+#include "base/rounding.h"
+#include "saver/floating.h"
+
+namespace saver {
+
+namespace {
+
+constexpr int kStartDelayMs = 500;
+constexpr int kChangeHoldMs = 60000;  // no tick of the picture's timer is wanted while a change is under way
+constexpr int kFloatIntervalMs = 100;
+constexpr int kClockIntervalMs = 100;
+
+}  // namespace
+
+Form1::Form1(const ShowServices& services, const os::SystemFacts& facts, std::string programFolder)
+    : Form("Form1"),
+      BgrImage(*this, "BgrImage"),
+      PreBgrImage(*this, "PreBgrImage"),
+      IntialPicture(*this, "IntialPicture"),
+      PictureReduce(*this, "PictureReduce"),
+      DisplayingPicture(*this, "DisplayingPicture"),
+      Label1(*this, "Label1"),
+      time(*this, "time"),
+      StartSaver(services.loop),
+      ImageChangeTimer(services.loop),
+      FloatTimer(services.loop, kFloatIntervalMs),
+      ScrollerTimer(services.loop),
+      timeTimer(services.loop, kClockIntervalMs),
+      services_(services),
+      facts_(facts),
+      programFolder_(std::move(programFolder)) {
+  setHost(&services_.stage);
+  setBackColor(base::kBlack);
+  IntialPicture.setAutoSize(true);
+  PreBgrImage.setAutoSize(true);
+  for (forms::Control* control : controls()) control->setVisible(false);
+  BgrImage.setVisible(true);
+  Label1.setTransparent(true);
+  Label1.setCaption(" ");
+  Label1.setAutoSize(true);
+  time.setTransparent(true);
+  time.setFont({.name = "MS Sans Serif", .sizePoints = 13.5F});
+  time.setAutoSize(true);
+  wireTimers();
+  services_.stage.show(*this, BgrImage, DisplayingPicture, {&Label1, &time});
+}
+
+void Form1::wireTimers() {
+  StartSaver.onTimer = [this] { handle(&Form1::StartSaver_Timer); };
+  ImageChangeTimer.onTimer = [this] { handle(&Form1::ImageChangeTimer_Timer); };
+  FloatTimer.onTimer = [this] { handle(&Form1::FloatTimer_Timer); };
+  ScrollerTimer.onTimer = [this] { handle(&Form1::ScrollerTimer_Timer); };
+  timeTimer.onTimer = [this] { handle(&Form1::timeTimer_Timer); };
+}
+
+void Form1::handle(void (Form1::*handler)()) {
+  if (isOver()) return;
+  (this->*handler)();
+  if (!isOver()) services_.stage.flush();
+}
+
+void Form1::unload() {
+  unloaded_ = true;
+  for (forms::Timer* timer : {&StartSaver, &ImageChangeTimer, &FloatTimer, &ScrollerTimer, &timeTimer}) {
+    timer->setEnabled(false);
+  }
+}
+
+void Form1::Form_Load() {
+  takeDesktopForBackground();
+  coverScreen();
+  if (facts_.guardsPassword()) services_.flags.setScreenSaverRunning(true);
+  LoadSettings();
+  PrepareDisplay();
+  services_.stage.flush();
+}
+
+void Form1::coverScreen() {
+  const base::PixelSize screen = services_.screen.primarySize();
+  width = screenWidth();
+  height = screenHeight();
+  services_.window.cover(base::PixelRect::ofSize(screen));
+  services_.stage.invalidateAll();
+}
+
+void Form1::LoadSettings() {
+  settings::LoadSettings(settings_, services_.files, services_.ansi, programFolder_);
+}
+
+void Form1::PrepareDisplay() {
+  PrepareCaption();
+  DrawBackground();
+  Label1.setTop(0);
+  PrepareClock();
+  StartSaver.setInterval(kStartDelayMs);
+  StartSaver.setEnabled(true);
+}
+
+void Form1::StartSaver_Timer() {
+  // The first change yields to events, and this timer is still enabled then.
+  if (changing_) return;
+  reseed();
+  currentImageIndex_ = -1;
+  AdvancePictureIndex();
+  if (floats()) {
+    if (const std::optional<int> interval = FloatIntervalMs(settings_.record.picSpeed)) FloatTimer.setInterval(*interval);
+  } else if (changeIntervalMs() == 0) {
+    ShowNextPicture();
+    if (isOver()) return;
+    ShowCaption();
+    StartSaver.setEnabled(false);
+    return;
+  }
+  startPictureCycle();
+}
+
+void Form1::startPictureCycle() {
+  ShowNextPicture();
+  if (isOver()) return;
+  ShowCaption();
+  AdvancePictureIndex();
+  ImageChangeTimer.setEnabled(true);
+  ImageChangeTimer.setInterval(changeIntervalMs());
+  if (floats()) PickFloatDirection();
+  StartSaver.setEnabled(false);
+}
+
+void Form1::ImageChangeTimer_Timer() {
+  if (changing_) return;
+  reseed();
+  if (floats()) FloatTimer_Timer();
+  if (currentImageIndex_ > settings_.lastImageIndex) currentImageIndex_ = 0;
+  ImageChangeTimer.setInterval(kChangeHoldMs);
+  ShowNextPicture();
+  if (isOver()) return;
+  ShowCaption();
+  AdvancePictureIndex();
+  ImageChangeTimer.setInterval(changeIntervalMs());
+}
+
+void Form1::AdvancePictureIndex() {
+  reseed();
+  if (base::LeadingNumber(settings_.record.randomPick) == 1) {
+    const double drawn = (static_cast<double>(settings_.lastImageIndex) + 1) * static_cast<double>(random_.next());
+    currentImageIndex_ = base::ToInt16(base::Int(drawn));
+  } else {
+    currentImageIndex_ = base::ToInt16(currentImageIndex_ + 1);
+  }
+}
+
+bool Form1::floats() const { return settings_.record.picRandom != "cent"; }
+
+int Form1::changeIntervalMs() const {
+  return base::ToInt32(base::StrictDouble(settings_.record.timeInterval) * 1000);
+}
+
+void Form1::reseed() { random_.reseed(os::SecondsSinceMidnight(services_.clock.now())); }
+
+float Form1::screenWidth() const {
+  return static_cast<float>(services_.screen.primarySize().width * twipsPerPixel());
+}
+
+float Form1::screenHeight() const {
+  return static_cast<float>(services_.screen.primarySize().height * twipsPerPixel());
+}
+
+bool Form1::yield(std::int64_t untilMs) {
+  services_.stage.flush();
+  services_.loop.waitUntil(untilMs);
+  return !isOver();
+}
+
+}  // namespace saver

@@ -1,0 +1,128 @@
+// The full-screen window in which the show runs.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "base/random.h"
+#include "forms/form.h"
+#include "forms/label.h"
+#include "forms/picture_box.h"
+#include "forms/timer.h"
+#include "os/ansi_code_page.h"
+#include "os/clock.h"
+#include "os/date_text.h"
+#include "os/event_loop.h"
+#include "os/files.h"
+#include "os/pictures.h"
+#include "os/screen.h"
+#include "os/system_facts.h"
+#include "os/system_flags.h"
+#include "saver/countdown.h"
+#include "saver/stage.h"
+#include "saver/stage_window.h"
+#include "settings/load_settings.h"
+
+namespace saver {
+
+// What the show needs of the machine.
+struct ShowServices {
+  os::Files& files;
+  const os::AnsiCodePage& ansi;
+  os::PictureLoader& pictures;
+  const os::Clock& clock;
+  os::EventLoop& loop;
+  const os::Screen& screen;
+  os::SystemFlags& flags;
+  const os::DateText& dates;
+  Stage& stage;
+  StageWindow& window;
+};
+
+// Runs on timers from Form_Load on. Waits inside a change let any event run, the end of the show included: after
+// each of them isOver() is asked, and nothing touches a control once it is true. Run-time errors of handlers
+// (base::RunTimeError) go to the event border.
+class Form1 : public forms::Form {
+ public:
+  Form1(const ShowServices& services, const os::SystemFacts& facts, std::string programFolder);
+
+  forms::PictureBox BgrImage;           // the composed background
+  forms::PictureBox PreBgrImage;        // the user's background picture as loaded
+  forms::PictureBox IntialPicture;      // the next picture; the background under the old one while it retires
+  forms::PictureBox PictureReduce;      // where a picture is drawn at the size that is shown
+  forms::PictureBox DisplayingPicture;  // the picture on the screen
+  forms::Label Label1;                  // the caption
+  forms::Label time;                    // the clock or the countdown
+  forms::Timer StartSaver;
+  forms::Timer ImageChangeTimer;
+  forms::Timer FloatTimer;
+  forms::Timer ScrollerTimer;
+  forms::Timer timeTimer;
+
+  // Makes the window cover the screen, reads the settings and prepares the display.
+  void Form_Load();
+
+  // The end of the show: the timers stop, and isOver() is true from now on.
+  void unload();
+  bool isOver() const { return unloaded_ || services_.loop.isQuitting(); }
+
+  const settings::SaverSettings& settings() const { return settings_; }
+  std::int16_t currentImageIndex() const { return currentImageIndex_; }
+  bool pictureShown() const { return pictureShown_; }
+  std::int16_t captionHeight() const { return captionHeight_; }
+
+  // The procedures of the show, in the order in which a run meets them.
+  void LoadSettings();
+  void PrepareDisplay();
+  void DrawBackground();
+  void StartSaver_Timer();
+  void ImageChangeTimer_Timer();
+  void AdvancePictureIndex();
+  void ShowNextPicture();
+  void RetireOldPicture();
+  void LoadCurrentPicture();
+  void ScalePicture();
+  void PlacePicture();
+  void RunTransition();
+  void ShowCaption();
+  void PickFloatDirection();
+  void FloatTimer_Timer();
+  void ScrollerTimer_Timer();
+  void timeTimer_Timer();
+
+ private:
+  void wireTimers();
+  void handle(void (Form1::*handler)());
+  void coverScreen();
+  void PrepareCaption();
+  void PrepareClock();
+  void takeDesktopForBackground();
+  void composeBackground();
+  void startPictureCycle();
+  bool floats() const;
+  bool yield(std::int64_t untilMs);
+  void pauseAfterRetiring();
+  void reseed();
+  float screenWidth() const;
+  float screenHeight() const;
+  int changeIntervalMs() const;
+
+  ShowServices services_;
+  os::SystemFacts facts_;
+  std::string programFolder_;
+  settings::SaverSettings settings_;
+  base::Random random_;
+  base::Bitmap desktop_;
+  Countdown countdown_;
+  std::int16_t currentImageIndex_ = 0;
+  std::int16_t captionHeight_ = 0;
+  std::int16_t floatStepX_ = 0;
+  std::int16_t floatStepY_ = 0;
+  int loadReduction_ = 1;  // by which power of two LoadCurrentPicture divided the picture's size
+  bool pictureShown_ = false;
+  bool changing_ = false;  // a change is under way: timers that tick in its waits must not start another
+  bool unloaded_ = false;
+};
+
+}  // namespace saver

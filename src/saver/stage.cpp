@@ -1,0 +1,193 @@
+#include "saver/stage.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "base/system_colors.h"
+#include "saver/text_layer.h"
+
+namespace saver {
+
+namespace {
+
+// More separate areas than this are composed as one.
+constexpr std::size_t kMostDirtyAreas = 8;
+
+}  // namespace
+
+// A label with the text that was drawn for it last.
+struct Stage::TextLayer {
+  forms::Label* label = nullptr;
+  base::PixelRect was;  // where it was composed last; empty while hidden
+  std::optional<os::TextMask> mask;
+};
+
+Stage::Stage(StageWindow& window, os::TextRenderer& text, int twipsPerPixel)
+    : window_(window), text_(text), twipsPerPixel_(twipsPerPixel) {}
+
+Stage::~Stage() = default;
+
+void Stage::show(forms::Form& form, forms::PictureBox& background, forms::PictureBox& picture,
+                 std::vector<forms::Label*> labels) {
+  form_ = &form;
+  background_ = &background;
+  picture_ = &picture;
+  texts_.clear();
+  for (forms::Label* label : labels) {
+    texts_.push_back(std::make_unique<TextLayer>());
+    texts_.back()->label = label;
+  }
+  form.onBackColorChanged = [this] { invalidateAll(); };
+  invalidateAll();
+}
+
+void Stage::invalidateAll() {
+  dirty_.clear();
+  invalidate(base::PixelRect::ofSize(window_.backBuffer().size));
+}
+
+void Stage::invalidate(const base::PixelRect& area) {
+  const base::PixelRect part = area.intersected(base::PixelRect::ofSize(window_.backBuffer().size));
+  if (part.isEmpty()) return;
+  // Areas that overlap become one, so that no pixel is composed twice.
+  base::PixelRect merged = part;
+  for (auto it = dirty_.begin(); it != dirty_.end();) {
+    if (it->intersected(merged).isEmpty() && dirty_.size() < kMostDirtyAreas) {
+      ++it;
+    } else {
+      merged = merged.united(*it);
+      dirty_.erase(it);
+      it = dirty_.begin();
+    }
+  }
+  dirty_.push_back(merged);
+}
+
+void Stage::flush() {
+  if (!form_) return;
+  const std::vector<base::PixelRect> areas = std::exchange(dirty_, {});
+  for (const base::PixelRect& area : areas) compose(area);
+  for (const base::PixelRect& area : areas) present(area);
+}
+
+void Stage::present(const base::PixelRect& area) {
+  if (area.isEmpty()) return;
+  presentedPixels_ += area.area();
+  window_.present(area);
+}
+
+void Stage::compose(const base::PixelRect& area) {
+  const base::BitmapView target = window_.backBuffer();
+  const base::PixelRect covered = picture_->visible() ? picture_->pixelRect() : base::PixelRect{};
+  const bool hidden = assigned_ && assigned_->isOpaque() && covered.intersected(area) == area &&
+                      assigned_->size() == covered.size();
+  if (!hidden) composeBackground(target, area);
+  composePicture(target, area);
+  for (const auto& layer : texts_) {
+    const forms::Label& label = *layer->label;
+    const base::PixelRect place = shownPlace(label);
+    if (place.intersected(area).isEmpty()) continue;
+    if (!layer->mask) layer->mask = text_.draw(label.font(), label.caption());
+    if (!label.transparent()) {
+      base::FillRect(target, place.intersected(area), base::OpaquePixel(base::PlainColor(label.backColor())));
+    }
+    BlendText(target, {place.left, place.top}, *layer->mask, base::PlainColor(label.foreColor()),
+              place.intersected(area));
+  }
+}
+
+void Stage::composeBackground(const base::BitmapView& target, const base::PixelRect& area) const {
+  const bool covered = backgroundPixels_ && backgroundPixels_->isOpaque() &&
+                       area.intersected(base::PixelRect::ofSize(backgroundPixels_->size())) == area;
+  if (!covered) base::FillRect(target, area, base::OpaquePixel(base::PlainColor(form_->backColor())));
+  if (backgroundPixels_) base::BlendRect(target, {area.left, area.top}, *backgroundPixels_, area);
+}
+
+void Stage::composePicture(const base::BitmapView& target, const base::PixelRect& area) const {
+  if (!picture_->visible()) return;
+  const base::PixelRect place = picture_->pixelRect();
+  const base::PixelRect part = place.intersected(area);
+  if (part.isEmpty()) return;
+  const base::PixelRect inside = part.movedBy(-place.left, -place.top);
+  if (assigned_) base::BlendRect(target, {part.left, part.top}, *assigned_, inside);
+  if (picture_->drawing()) base::BlendRect(target, {part.left, part.top}, *picture_->drawing(), inside);
+}
+
+base::PixelRect Stage::shownPlace(const forms::Control& control) const {
+  return control.visible() ? control.pixelRect() : base::PixelRect{};
+}
+
+Stage::TextLayer* Stage::textLayerOf(const forms::Control& control) {
+  const auto found = std::find_if(texts_.begin(), texts_.end(),
+                                  [&](const auto& layer) { return layer->label == &control; });
+  return found == texts_.end() ? nullptr : found->get();
+}
+
+void Stage::controlChanged(forms::Control& control, forms::Change change) {
+  if (!form_) return;
+  if (&control == background_) {
+    const forms::SharedPicture& picture = background_->picture();
+    backgroundPixels_ = picture ? picture->drawnAt(picture->size()) : nullptr;
+    invalidateAll();
+  } else if (&control == picture_) {
+    pictureBoxChanged(change);
+  } else if (TextLayer* layer = textLayerOf(control)) {
+    if (change == forms::Change::Text || change == forms::Change::Font) layer->mask.reset();
+    const base::PixelRect place = shownPlace(control);
+    invalidate(layer->was.united(place));
+    layer->was = place;
+  }
+}
+
+void Stage::pictureBoxChanged(forms::Change change) {
+  const base::PixelRect place = shownPlace(*picture_);
+  if (change == forms::Change::Visible && picture_->visible()) {
+    // A box that appears shows what is behind it until something is drawn: its old picture belongs to the
+    // place that it has left.
+    assigned_ = nullptr;
+  }
+  if (change == forms::Change::Picture) {
+    const forms::SharedPicture& picture = picture_->picture();
+    assigned_ = picture ? picture->drawnAt(picture->size()) : nullptr;
+  }
+  if (pictureWas_.intersected(place).isEmpty()) {
+    invalidate(pictureWas_);
+    invalidate(place);
+  } else {
+    invalidate(pictureWas_.united(place));
+  }
+  pictureWas_ = place;
+}
+
+void Stage::controlDrawn(forms::Control& control, const base::PixelRect& area) {
+  if (!form_ || &control != picture_ || !picture_->visible()) return;
+  const base::PixelRect place = picture_->pixelRect();
+  invalidate(area.movedBy(place.left, place.top).intersected(place));
+  flush();
+}
+
+base::PixelSize Stage::measureText(const base::Font& font, const std::string& text) {
+  return text_.measure(font, text);
+}
+
+base::Bitmap Stage::backgroundUnder(const base::PixelRect& area) {
+  base::Bitmap copy(area.size());
+  const base::PixelRect part = area.intersected(base::PixelRect::ofSize(window_.backBuffer().size));
+  if (part.isEmpty()) return copy;
+  const base::PixelRect inside = part.movedBy(-area.left, -area.top);
+  base::FillRect(copy.view(), inside, base::OpaquePixel(base::PlainColor(form_->backColor())));
+  if (backgroundPixels_) base::BlendRect(copy.view(), {inside.left, inside.top}, *backgroundPixels_, part);
+  copy.setOpaque(part == area);
+  return copy;
+}
+
+forms::Control* Stage::controlAt(base::PixelPoint place) const {
+  for (auto it = texts_.rbegin(); it != texts_.rend(); ++it) {
+    if (shownPlace(*(*it)->label).contains(place)) return (*it)->label;
+  }
+  if (picture_ && shownPlace(*picture_).contains(place)) return picture_;
+  return nullptr;
+}
+
+}  // namespace saver

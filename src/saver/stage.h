@@ -1,0 +1,75 @@
+// Composes the show: background, picture, caption and clock into the window's back buffer.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "base/bitmap.h"
+#include "forms/form.h"
+#include "forms/label.h"
+#include "forms/picture_box.h"
+#include "os/text_renderer.h"
+#include "saver/stage_window.h"
+
+namespace saver {
+
+// What a model changes is composed and shown by the next flush(), in one piece; what is drawn on a picture box
+// that is on the stage goes to the screen at once.
+class Stage : public forms::FormHost {
+ public:
+  Stage(StageWindow& window, os::TextRenderer& text, int twipsPerPixel);
+  ~Stage() override;
+
+  // The form to show: behind everything its background colour, then the background box's picture, then the
+  // picture box, then the labels in their order. The controls must outlive the stage.
+  void show(forms::Form& form, forms::PictureBox& background, forms::PictureBox& picture,
+            std::vector<forms::Label*> labels);
+
+  // Composes everything that has changed and puts it on the screen.
+  void flush();
+
+  // Composes the whole screen anew at the next flush, for instance after the window took another size.
+  void invalidateAll();
+
+  // What the background layer alone shows in an area of the window: no picture, caption or clock. Transparent
+  // outside the window.
+  base::Bitmap backgroundUnder(const base::PixelRect& area);
+
+  // The topmost visible control of the show at a place, or null over the bare background.
+  forms::Control* controlAt(base::PixelPoint place) const;
+
+  // Pixels put on the screen so far.
+  long long presentedPixels() const { return presentedPixels_; }
+
+  void controlChanged(forms::Control& control, forms::Change change) override;
+  void controlDrawn(forms::Control& control, const base::PixelRect& area) override;
+  base::PixelSize measureText(const base::Font& font, const std::string& text) override;
+  int twipsPerPixel() const override { return twipsPerPixel_; }
+
+ private:
+  struct TextLayer;
+
+  void invalidate(const base::PixelRect& area);
+  void compose(const base::PixelRect& area);
+  void composeBackground(const base::BitmapView& target, const base::PixelRect& area) const;
+  void composePicture(const base::BitmapView& target, const base::PixelRect& area) const;
+  void present(const base::PixelRect& area);
+  base::PixelRect shownPlace(const forms::Control& control) const;
+  TextLayer* textLayerOf(const forms::Control& control);
+  void pictureBoxChanged(forms::Change change);
+
+  StageWindow& window_;
+  os::TextRenderer& text_;
+  int twipsPerPixel_;
+  forms::Form* form_ = nullptr;
+  forms::PictureBox* background_ = nullptr;
+  forms::PictureBox* picture_ = nullptr;
+  std::vector<std::unique_ptr<TextLayer>> texts_;
+  base::SharedBitmap backgroundPixels_;
+  base::SharedBitmap assigned_;         // the picture box's assigned picture, as far as it shows
+  base::PixelRect pictureWas_;          // where the picture box was composed last; empty while hidden
+  std::vector<base::PixelRect> dirty_;  // areas of the window to compose anew
+  long long presentedPixels_ = 0;
+};
+
+}  // namespace saver

@@ -1,0 +1,40 @@
+// The show's window, as the show needs it: a back buffer, a way to the screen, input.
+#pragma once
+
+#include <functional>
+
+#include "base/bitmap.h"
+#include "base/geometry.h"
+
+namespace saver {
+
+// Everything is in pixels of the window, whose top-left corner is the primary screen's.
+class StageWindow {
+ public:
+  virtual ~StageWindow() = default;
+
+  // Places the window over `area` of the screen, above everything, and shows it without taking the focus.
+  virtual void cover(base::PixelRect area) = 0;
+
+  // Shows the window again where it stands, with the keyboard's focus.
+  virtual void activate() = 0;
+
+  // Takes the window from the screen for good.
+  virtual void close() = 0;
+
+  // The pixels that a paint message shows. As large as the area covered; valid until the next cover().
+  virtual base::BitmapView backBuffer() = 0;
+
+  // Puts that part of the back buffer on the screen at once.
+  virtual void present(const base::PixelRect& area) = 0;
+
+  // What the user and the system do to the window.
+  std::function<void(int keyCode)> onKeyDown;
+  std::function<void(base::PixelPoint)> onMouseDown;
+  std::function<void(base::PixelPoint)> onMouseMove;
+  std::function<void()> onCloseRequest;   // somebody asks the window politely to go
+  std::function<void()> onSessionEnd;     // the user's session ends now
+  std::function<void()> onScreenChanged;  // size or arrangement of the screens
+};
+
+}  // namespace saver

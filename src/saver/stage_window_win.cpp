@@ -1,0 +1,118 @@
+#include "saver/stage_window_win.h"
+
+#include <windowsx.h>
+
+#include <utility>
+
+namespace saver {
+
+namespace {
+
+// Other programs look for a running saver under this class name, to close it politely.
+constexpr const wchar_t* kClassName = L"WindowsScreenSaverClass";
+
+}  // namespace
+
+StageWindowWin::StageWindowWin(HINSTANCE instance, Guard guard) : guard_(std::move(guard)) {
+  WNDCLASSEXW description{};
+  description.cbSize = sizeof(description);
+  description.lpfnWndProc = Procedure;
+  description.hInstance = instance;
+  description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+  description.lpszClassName = kClassName;
+  RegisterClassExW(&description);
+  window_.reset(CreateWindowExW(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, kClassName, L"Lumora Screen Saver", WS_POPUP, 0, 0,
+                                0, 0, nullptr, nullptr, instance, this));
+}
+
+StageWindowWin::~StageWindowWin() { close(); }
+
+void StageWindowWin::cover(base::PixelRect area) {
+  if (!(area.size() == size_)) {
+    back_ = os::Dib(area.size());
+    size_ = back_.dc() ? area.size() : base::PixelSize{};
+    base::FillRect(back_.view(), base::PixelRect::ofSize(size_), base::OpaquePixel(base::kBlack));
+  }
+  SetWindowPos(window_.get(), HWND_TOP, area.left, area.top, area.width, area.height, SWP_NOACTIVATE | SWP_SHOWWINDOW);
+}
+
+void StageWindowWin::activate() {
+  ShowWindow(window_.get(), SW_SHOW);
+  SetForegroundWindow(window_.get());
+  SetFocus(window_.get());
+}
+
+void StageWindowWin::close() {
+  if (window_) SetWindowLongPtrW(window_.get(), GWLP_USERDATA, 0);
+  window_.reset();
+}
+
+base::BitmapView StageWindowWin::backBuffer() { return back_.view(); }
+
+void StageWindowWin::present(const base::PixelRect& area) {
+  if (!window_) return;
+  const os::WindowDc dc(window_.get());
+  BitBlt(dc.get(), area.left, area.top, area.width, area.height, back_.dc(), area.left, area.top, SRCCOPY);
+}
+
+void StageWindowWin::paint() {
+  const os::PaintDc dc(window_.get());
+  const RECT& area = dc.area();
+  BitBlt(dc.get(), area.left, area.top, area.right - area.left, area.bottom - area.top, back_.dc(), area.left, area.top,
+         SRCCOPY);
+}
+
+LRESULT CALLBACK StageWindowWin::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_NCCREATE) {
+    const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(creation->lpCreateParams));
+  }
+  auto* self = reinterpret_cast<StageWindowWin*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (!self || !self->window_) return DefWindowProcW(window, message, wParam, lParam);
+  return self->handle(message, wParam, lParam);
+}
+
+LRESULT StageWindowWin::handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  const HWND window = window_.get();
+  const auto raise = [this](const auto& event, auto... values) {
+    if (event) guard_([&] { event(values...); });
+  };
+  switch (message) {
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+      raise(onKeyDown, static_cast<int>(wParam));
+      return 0;
+    case WM_LBUTTONDOWN:
+    case WM_MBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+    case WM_XBUTTONDOWN:
+      raise(onMouseDown, base::PixelPoint{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+      return 0;
+    case WM_MOUSEMOVE:
+      raise(onMouseMove, base::PixelPoint{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+      return 0;
+    case WM_PAINT:
+      paint();
+      return 0;
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_SYSCOMMAND:
+      // A running saver swallows the request to start one; the monitor's power is the system's business.
+      if ((wParam & 0xFFF0) == SC_SCREENSAVE) return 0;
+      break;
+    case WM_CLOSE:
+      raise(onCloseRequest);
+      return 0;
+    case WM_ENDSESSION:
+      if (wParam) raise(onSessionEnd);
+      return 0;
+    case WM_DISPLAYCHANGE:
+      raise(onScreenChanged);
+      return 0;
+    default:
+      break;
+  }
+  return DefWindowProcW(window, message, wParam, lParam);
+}
+
+}  // namespace saver

@@ -1,0 +1,46 @@
+// The show's window in memory: what was presented is on its screen, what was only composed is not.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "saver/stage_window.h"
+
+namespace support {
+
+class FakeStageWindow : public saver::StageWindow {
+ public:
+  explicit FakeStageWindow(base::PixelSize size) { resize(size); }
+
+  void cover(base::PixelRect area) override {
+    calls.push_back("cover");
+    covered = area;
+    if (!(area.size() == back_.size())) resize(area.size());
+  }
+  void activate() override { calls.push_back("activate"); }
+  void close() override {
+    calls.push_back("close");
+    closed = true;
+  }
+  base::BitmapView backBuffer() override { return back_.view(); }
+  void present(const base::PixelRect& area) override {
+    presented.push_back(area);
+    base::CopyRect(screen.view(), {area.left, area.top}, back_, area);
+  }
+
+  std::vector<std::string> calls;
+  base::PixelRect covered;
+  bool closed = false;
+  std::vector<base::PixelRect> presented;
+  base::Bitmap screen;  // what the user sees
+
+ private:
+  void resize(base::PixelSize size) {
+    back_ = base::Bitmap(size, 0xFF000000U);
+    screen = base::Bitmap(size, 0xFF000000U);
+  }
+
+  base::Bitmap back_;
+};
+
+}  // namespace support
