@@ -10,8 +10,9 @@ int TwipsPerPixelForDpi(int dpi);
 // Whole pixels nearest to a length in twips (halves to even).
 int TwipsToPixels(double twips, int twipsPerPixel);
 
-// The pixel in which a position in twips lies: rounded to a whole twip, then divided, the rest dropped. Left of
-// the origin the pixels go on evenly (-1 twip lies in pixel -1), so that a moving control never halts there.
+// The pixel in which a position in twips lies: rounded to a whole twip, then divided, the rest dropped. Left
+// of the origin the pixels go on evenly (-1 twip lies in pixel -1), so that a moving control never halts
+// there.
 int PixelAtTwips(double twips, int twipsPerPixel);
 
 }  // namespace base

@@ -109,8 +109,9 @@ void Form1::StartSaver_Timer() {
   currentImageIndex_ = -1;
   AdvancePictureIndex();
   if (floats()) {
-    if (const std::optional<int> interval = FloatIntervalMs(settings_.record.picSpeed)) FloatTimer.setInterval(*interval);
-  } else if (changeIntervalMs() == 0) {
+    if (const std::optional<int> interval = FloatIntervalMs(settings_.record.picSpeed))
+      FloatTimer.setInterval(*interval);
+  } else if (base::StrictDouble(settings_.record.timeInterval) == 0) {
     ShowNextPicture();
     if (isOver()) return;
     ShowCaption();
@@ -147,7 +148,8 @@ void Form1::ImageChangeTimer_Timer() {
 void Form1::AdvancePictureIndex() {
   reseed();
   if (base::LeadingNumber(settings_.record.randomPick) == 1) {
-    const double drawn = (static_cast<double>(settings_.lastImageIndex) + 1) * static_cast<double>(random_.next());
+    const double drawn =
+        (static_cast<double>(settings_.lastImageIndex) + 1) * static_cast<double>(random_.next());
     currentImageIndex_ = base::ToInt16(base::Int(drawn));
   } else {
     currentImageIndex_ = base::ToInt16(currentImageIndex_ + 1);

@@ -40,9 +40,9 @@ struct ShowServices {
   StageWindow& window;
 };
 
-// Runs on timers from Form_Load on. Waits inside a change let any event run, the end of the show included: after
-// each of them isOver() is asked, and nothing touches a control once it is true. Run-time errors of handlers
-// (base::RunTimeError) go to the event border.
+// Runs on timers from Form_Load on. Waits inside a change let any event run, the end of the show included:
+// after each of them isOver() is asked, and nothing touches a control once it is true. Run-time errors of
+// handlers (base::RunTimeError) go to the event border.
 class Form1 : public forms::Form {
  public:
   Form1(const ShowServices& services, const os::SystemFacts& facts, std::string programFolder);

@@ -50,7 +50,8 @@ void Form1::ShowNextPicture() {
 void Form1::RetireOldPicture() {
   FloatTimer.setEnabled(false);
   // What lies under the old picture is drawn over it, so that it gives way to its background.
-  const auto under = std::make_shared<base::Bitmap>(services_.stage.backgroundUnder(DisplayingPicture.pixelRect()));
+  const auto under =
+      std::make_shared<base::Bitmap>(services_.stage.backgroundUnder(DisplayingPicture.pixelRect()));
   IntialPicture.paintPicture(*forms::MakePicture(under), under->size());
   PictureReduce.setPicture(forms::MakePicture(IntialPicture.image()));
   IntialPicture.setPicture(PictureReduce.picture());

@@ -119,8 +119,8 @@ base::PixelRect Stage::shownPlace(const forms::Control& control) const {
 }
 
 Stage::TextLayer* Stage::textLayerOf(const forms::Control& control) {
-  const auto found = std::find_if(texts_.begin(), texts_.end(),
-                                  [&](const auto& layer) { return layer->label == &control; });
+  const auto found =
+      std::find_if(texts_.begin(), texts_.end(), [&](const auto& layer) { return layer->label == &control; });
   return found == texts_.end() ? nullptr : found->get();
 }
 

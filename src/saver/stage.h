@@ -13,8 +13,8 @@
 
 namespace saver {
 
-// What a model changes is composed and shown by the next flush(), in one piece; what is drawn on a picture box
-// that is on the stage goes to the screen at once.
+// What a model changes is composed and shown by the next flush(), in one piece; what is drawn on a picture
+// box that is on the stage goes to the screen at once.
 class Stage : public forms::FormHost {
  public:
   Stage(StageWindow& window, os::TextRenderer& text, int twipsPerPixel);

@@ -21,8 +21,8 @@ StageWindowWin::StageWindowWin(HINSTANCE instance, Guard guard) : guard_(std::mo
   description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   description.lpszClassName = kClassName;
   RegisterClassExW(&description);
-  window_.reset(CreateWindowExW(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, kClassName, L"Lumora Screen Saver", WS_POPUP, 0, 0,
-                                0, 0, nullptr, nullptr, instance, this));
+  window_.reset(CreateWindowExW(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, kClassName, L"Lumora Screen Saver",
+                                WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, instance, this));
 }
 
 StageWindowWin::~StageWindowWin() { close(); }
@@ -33,7 +33,8 @@ void StageWindowWin::cover(base::PixelRect area) {
     size_ = back_.dc() ? area.size() : base::PixelSize{};
     base::FillRect(back_.view(), base::PixelRect::ofSize(size_), base::OpaquePixel(base::kBlack));
   }
-  SetWindowPos(window_.get(), HWND_TOP, area.left, area.top, area.width, area.height, SWP_NOACTIVATE | SWP_SHOWWINDOW);
+  SetWindowPos(window_.get(), HWND_TOP, area.left, area.top, area.width, area.height,
+               SWP_NOACTIVATE | SWP_SHOWWINDOW);
 }
 
 void StageWindowWin::activate() {
@@ -58,8 +59,8 @@ void StageWindowWin::present(const base::PixelRect& area) {
 void StageWindowWin::paint() {
   const os::PaintDc dc(window_.get());
   const RECT& area = dc.area();
-  BitBlt(dc.get(), area.left, area.top, area.right - area.left, area.bottom - area.top, back_.dc(), area.left, area.top,
-         SRCCOPY);
+  BitBlt(dc.get(), area.left, area.top, area.right - area.left, area.bottom - area.top, back_.dc(), area.left,
+         area.top, SRCCOPY);
 }
 
 LRESULT CALLBACK StageWindowWin::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

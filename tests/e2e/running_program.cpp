@@ -1,0 +1,128 @@
+#include "e2e/running_program.h"
+
+#include <algorithm>
+
+#include "os/dib_win.h"
+#include "os/screen_win.h"
+
+namespace e2e {
+
+bool WaitFor(const std::function<bool()>& condition, int limitMs) {
+  const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(limitMs);
+  for (;;) {
+    if (condition()) return true;
+    if (GetTickCount64() >= end) return false;
+    MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+  }
+}
+
+RunningProgram::RunningProgram(const std::wstring& program, const std::wstring& arguments) {
+  std::wstring line = L"\"" + program + L"\"" + (arguments.empty() ? L"" : L" ") + arguments;
+  STARTUPINFOW start{};
+  start.cb = sizeof(start);
+  PROCESS_INFORMATION info{};
+  if (CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                     &info)) {
+    CloseHandle(info.hThread);
+    process_ = info.hProcess;
+    processId_ = info.dwProcessId;
+  }
+}
+
+RunningProgram::~RunningProgram() {
+  if (isRunning()) {
+    TerminateProcess(process_, 99);
+    WaitForSingleObject(process_, 5000);
+  }
+  if (process_) CloseHandle(process_);
+}
+
+bool RunningProgram::isRunning() const {
+  return process_ && WaitForSingleObject(process_, 0) == WAIT_TIMEOUT;
+}
+
+bool RunningProgram::waitForEnd(int limitMs) {
+  return WaitFor([&] { return !isRunning(); }, limitMs);
+}
+
+DWORD RunningProgram::exitCode() const {
+  DWORD code = 0;
+  GetExitCodeProcess(process_, &code);
+  return code;
+}
+
+HWND RunningProgram::findWindow(const wchar_t* className) const {
+  HWND window = nullptr;
+  while ((window = FindWindowExW(nullptr, window, className, nullptr)) != nullptr) {
+    DWORD owner = 0;
+    GetWindowThreadProcessId(window, &owner);
+    if (owner == processId_ && IsWindowVisible(window)) return window;
+  }
+  return nullptr;
+}
+
+HWND RunningProgram::waitForShow() const {
+  HWND window = nullptr;
+  WaitFor([&] {
+    window = findWindow(L"WindowsScreenSaverClass");
+    return window != nullptr || !isRunning();
+  });
+  return window;
+}
+
+base::Bitmap ReadScreen() { return os::ScreenWin().copyDesktop(); }
+
+base::Pixel ScreenPixel(int x, int y) {
+  const os::WindowDc screen(nullptr);
+  const COLORREF color = GetPixel(screen.get(), x, y);
+  return base::OpaquePixel(static_cast<base::PackedColor>(color & 0xFFFFFF));
+}
+
+base::PixelSize ScreenSize() { return os::ScreenWin().primarySize(); }
+
+void PressKey(WORD virtualKey) {
+  INPUT input[2]{};
+  input[0].type = INPUT_KEYBOARD;
+  input[0].ki.wVk = virtualKey;
+  input[1] = input[0];
+  input[1].ki.dwFlags = KEYEVENTF_KEYUP;
+  SendInput(2, input, sizeof(INPUT));
+}
+
+void ClickMouse() {
+  INPUT input[2]{};
+  input[0].type = INPUT_MOUSE;
+  input[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
+  input[1] = input[0];
+  input[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
+  SendInput(2, input, sizeof(INPUT));
+}
+
+void MoveMouseTo(int x, int y) {
+  const base::PixelSize screen = ScreenSize();
+  INPUT input{};
+  input.type = INPUT_MOUSE;
+  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+  // Absolute positions run from 0 to 65535; half a pixel more lands inside the pixel.
+  input.mi.dx = static_cast<LONG>((static_cast<long long>(x) * 65536 + 32768) / screen.width);
+  input.mi.dy = static_cast<LONG>((static_cast<long long>(y) * 65536 + 32768) / screen.height);
+  SendInput(1, &input, sizeof(INPUT));
+}
+
+base::PixelRect BoundsOf(const base::Bitmap& picture, base::Pixel pixel) {
+  base::PixelRect bounds;
+  for (int y = 0; y < picture.size().height; ++y) {
+    const base::Pixel* row = picture.row(y);
+    const base::Pixel* end = row + picture.size().width;
+    const base::Pixel* first = std::find(row, end, pixel);
+    if (first == end) continue;
+    const base::Pixel* last =
+        std::find(std::make_reverse_iterator(end), std::make_reverse_iterator(first), pixel).base();
+    bounds = bounds.united({static_cast<int>(first - row), y, static_cast<int>(last - first), 1});
+  }
+  return bounds;
+}
+
+}  // namespace e2e

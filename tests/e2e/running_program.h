@@ -1,0 +1,59 @@
+// The program as Windows starts it: a process of its own, its window, the screen, the user's hands.
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <string>
+
+#include "base/bitmap.h"
+#include "base/geometry.h"
+
+namespace e2e {
+
+// Waits until the condition holds, looking every few milliseconds and letting this process's own messages
+// run. False when it does not within the limit.
+bool WaitFor(const std::function<bool()>& condition, int limitMs = 15000);
+
+// A process started with a switch; ended by force at the end of the scope when it still runs.
+class RunningProgram {
+ public:
+  RunningProgram(const std::wstring& program, const std::wstring& arguments);
+  ~RunningProgram();
+  RunningProgram(const RunningProgram&) = delete;
+  RunningProgram& operator=(const RunningProgram&) = delete;
+
+  bool hasStarted() const { return process_ != nullptr; }
+  DWORD processId() const { return processId_; }
+  HANDLE process() const { return process_; }
+  bool isRunning() const;
+
+  // Waits for the end; false when the process still runs after the limit.
+  bool waitForEnd(int limitMs = 15000);
+  DWORD exitCode() const;
+
+  // The process's first visible window of a class, or null.
+  HWND findWindow(const wchar_t* className) const;
+
+  // Waits for the show's window; null when it does not come.
+  HWND waitForShow() const;
+
+ private:
+  HANDLE process_ = nullptr;
+  DWORD processId_ = 0;
+};
+
+// What the primary screen shows now.
+base::Bitmap ReadScreen();
+base::Pixel ScreenPixel(int x, int y);
+base::PixelSize ScreenSize();
+
+// Real input.
+void PressKey(WORD virtualKey);
+void ClickMouse();
+void MoveMouseTo(int x, int y);
+
+// The smallest rectangle around all pixels of one colour; empty when there is none.
+base::PixelRect BoundsOf(const base::Bitmap& picture, base::Pixel pixel);
+
+}  // namespace e2e

@@ -1,0 +1,199 @@
+#include "saver/stage.h"
+
+#include <gtest/gtest.h>
+
+#include "support/fake_stage_window.h"
+#include "support/fake_text_renderer.h"
+
+namespace {
+
+constexpr base::Pixel kRed = 0xFFFF0000U;
+constexpr base::Pixel kGreen = 0xFF00FF00U;
+constexpr base::Pixel kBlue = 0xFF0000FFU;
+constexpr base::Pixel kBlackPixel = 0xFF000000U;
+
+forms::SharedPicture Plain(int width, int height, base::Pixel pixel) {
+  return forms::MakePicture(std::make_shared<base::Bitmap>(base::PixelSize{width, height}, pixel));
+}
+
+// A form of the show's kind on a small screen, at one pixel to 15 twips.
+class StageTest : public testing::Test {
+ protected:
+  StageTest() {
+    form.setHost(&stage);
+    form.setBackColor(base::kBlack);
+    picture.setAutoSize(true);
+    picture.setVisible(false);
+    label.setVisible(false);
+    label.setTransparent(true);
+    label.setFont({.name = "Any", .sizePoints = 10});
+    label.setForeColor(base::kWhite);
+    stage.show(form, background, picture, {&label});
+    stage.flush();
+  }
+
+  void placePicture(int x, int y) {
+    picture.setLeft(static_cast<float>(x * 15));
+    picture.setTop(static_cast<float>(y * 15));
+  }
+
+  base::Pixel screenAt(int x, int y) const { return window.screen.at(x, y); }
+
+  support::FakeStageWindow window{{40, 30}};
+  support::FakeTextRenderer text;
+  saver::Stage stage{window, text, 15};
+  forms::Form form{"Form1"};
+  forms::PictureBox background{form, "BgrImage"};
+  forms::PictureBox picture{form, "DisplayingPicture"};
+  forms::Label label{form, "Label1"};
+};
+
+TEST_F(StageTest, StartsWithTheFormsBackgroundColour) { EXPECT_EQ(screenAt(20, 15), kBlackPixel); }
+
+TEST_F(StageTest, AChangedBackgroundColourFillsTheScreen) {
+  form.setBackColor(base::Rgb(255, 0, 0));
+  stage.flush();
+  EXPECT_EQ(screenAt(0, 0), kRed);
+  EXPECT_EQ(screenAt(39, 29), kRed);
+}
+
+TEST_F(StageTest, ThePictureStandsOverTheBackground) {
+  background.setPicture(Plain(40, 30, kBlue));
+  picture.setPicture(Plain(10, 8, kRed));
+  placePicture(5, 6);
+  picture.setVisible(true);
+  picture.setPicture(picture.picture());
+  stage.flush();
+  EXPECT_EQ(screenAt(4, 6), kBlue);
+  EXPECT_EQ(screenAt(5, 6), kRed);
+  EXPECT_EQ(screenAt(14, 13), kRed);
+  EXPECT_EQ(screenAt(15, 13), kBlue);
+}
+
+TEST_F(StageTest, ABoxThatAppearsShowsWhatIsBehindItUntilSomethingIsDrawn) {
+  background.setPicture(Plain(40, 30, kBlue));
+  picture.setPicture(Plain(10, 8, kRed));
+  picture.setVisible(true);
+  stage.flush();
+  EXPECT_EQ(screenAt(3, 3), kBlue);
+  picture.paintPart(base::Bitmap({10, 8}, kGreen), {2, 2, 3, 3});
+  EXPECT_EQ(screenAt(3, 3), kGreen);
+  EXPECT_EQ(screenAt(6, 3), kBlue);
+}
+
+TEST_F(StageTest, DrawingOnThePictureBoxIsOnTheScreenAtOnceAndOnlyThere) {
+  picture.setPicture(Plain(10, 8, kRed));
+  picture.setVisible(true);
+  picture.setPicture(picture.picture());
+  stage.flush();
+  window.presented.clear();
+  picture.paintPart(base::Bitmap({10, 8}, kGreen), {0, 0, 4, 8});
+  EXPECT_EQ(window.presented, (std::vector<base::PixelRect>{{0, 0, 4, 8}}));
+  EXPECT_EQ(screenAt(3, 7), kGreen);
+  EXPECT_EQ(screenAt(4, 7), kRed);
+}
+
+TEST_F(StageTest, ClearingDropsWhatWasDrawnAndGoesOnShowingTheAssignedPicture) {
+  picture.setPicture(Plain(10, 8, kRed));
+  picture.setVisible(true);
+  picture.setPicture(picture.picture());
+  picture.paintPart(base::Bitmap({10, 8}, kGreen), {0, 0, 4, 8});
+  picture.cls();
+  EXPECT_EQ(screenAt(2, 2), kRed);
+}
+
+TEST_F(StageTest, AMovedPictureUncoversTheBackgroundAndPresentsOneArea) {
+  background.setPicture(Plain(40, 30, kBlue));
+  picture.setPicture(Plain(10, 8, kRed));
+  placePicture(5, 6);
+  picture.setVisible(true);
+  picture.setPicture(picture.picture());
+  stage.flush();
+  window.presented.clear();
+  placePicture(6, 7);
+  stage.flush();
+  EXPECT_EQ(screenAt(5, 6), kBlue);
+  EXPECT_EQ(screenAt(15, 14), kRed);
+  EXPECT_EQ(window.presented, (std::vector<base::PixelRect>{{5, 6, 11, 9}}));
+}
+
+TEST_F(StageTest, ThePaintedTextStandsOverThePictureInItsColour) {
+  picture.setPicture(Plain(40, 30, kRed));
+  picture.setVisible(true);
+  picture.setPicture(picture.picture());
+  label.setAutoSize(true);
+  label.setCaption("A");
+  label.setVisible(true);
+  stage.flush();
+  EXPECT_EQ(screenAt(0, 0), 0xFFFFFFFFU);
+  EXPECT_EQ(screenAt(5, 0), kRed) << "the gap between letters is transparent";
+  EXPECT_EQ(screenAt(0, 12), kRed) << "below the text";
+}
+
+TEST_F(StageTest, AnUnchangedTextIsDrawnOnceHoweverOftenItMoves) {
+  label.setAutoSize(true);
+  label.setCaption("Moving");
+  label.setVisible(true);
+  for (int i = 0; i < 20; ++i) {
+    label.setLeft(static_cast<float>(i * 100));
+    stage.flush();
+  }
+  EXPECT_EQ(text.drawn, 1);
+}
+
+TEST_F(StageTest, TheBackgroundUnderAPictureHasNoPictureAndNoText) {
+  background.setPicture(Plain(40, 30, kBlue));
+  picture.setPicture(Plain(10, 8, kRed));
+  picture.setVisible(true);
+  picture.setPicture(picture.picture());
+  label.setCaption("XX");
+  label.setAutoSize(true);
+  label.setVisible(true);
+  stage.flush();
+  const base::Bitmap under = stage.backgroundUnder({0, 0, 10, 8});
+  EXPECT_EQ(under, base::Bitmap({10, 8}, kBlue));
+  EXPECT_TRUE(under.isOpaque());
+}
+
+TEST_F(StageTest, TheBackgroundOutsideTheWindowIsTransparent) {
+  const base::Bitmap under = stage.backgroundUnder({35, -2, 10, 5});
+  EXPECT_EQ(under.at(0, 1), base::kTransparent);
+  EXPECT_EQ(under.at(0, 2), kBlackPixel);
+  EXPECT_EQ(under.at(5, 2), base::kTransparent);
+  EXPECT_FALSE(under.isOpaque());
+}
+
+TEST_F(StageTest, TransparentPartsOfAPictureShowTheBackground) {
+  background.setPicture(Plain(40, 30, kBlue));
+  auto pixels = std::make_shared<base::Bitmap>(base::PixelSize{4, 4});
+  pixels->row(1)[1] = 0x80400000U;  // half-transparent dark red
+  picture.setPicture(forms::MakePicture(pixels));
+  picture.setVisible(true);
+  picture.setPicture(picture.picture());
+  stage.flush();
+  EXPECT_EQ(screenAt(0, 0), kBlue);
+  EXPECT_EQ(screenAt(1, 1), 0xFF40007FU);
+}
+
+TEST_F(StageTest, ThePointerMeetsTheTopmostVisibleControl) {
+  picture.setPicture(Plain(10, 8, kRed));
+  label.setAutoSize(true);
+  label.setCaption("A");
+  EXPECT_EQ(stage.controlAt({1, 1}), nullptr);
+  picture.setVisible(true);
+  EXPECT_EQ(stage.controlAt({1, 1}), &picture);
+  label.setVisible(true);
+  EXPECT_EQ(stage.controlAt({1, 1}), &label);
+  EXPECT_EQ(stage.controlAt({9, 7}), &picture);
+  EXPECT_EQ(stage.controlAt({10, 7}), nullptr);
+}
+
+TEST_F(StageTest, NothingIsPresentedWhenNothingChanged) {
+  window.presented.clear();
+  stage.flush();
+  label.setCaption("hidden");
+  stage.flush();
+  EXPECT_TRUE(window.presented.empty());
+}
+
+}  // namespace
