@@ -1,0 +1,24 @@
+// Dates and times as text, by the user's regional settings.
+#pragma once
+
+#include <string>
+
+#include "os/clock.h"
+
+namespace os {
+
+class DateText {
+ public:
+  virtual ~DateText() = default;
+
+  // The short date, for example "6/15/2026".
+  virtual std::string date(const LocalTime& moment) const = 0;
+
+  // The time with seconds, for example "1:05:09 PM".
+  virtual std::string time(const LocalTime& moment) const = 0;
+};
+
+// The general date form: the date, a blank, the time; the date alone at midnight.
+std::string GeneralDate(const DateText& form, const LocalTime& moment);
+
+}  // namespace os

@@ -1,0 +1,41 @@
+// Draws a plan's steps onto a picture box.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+#include "base/bitmap.h"
+#include "forms/picture_box.h"
+#include "os/clock.h"
+#include "os/event_loop.h"
+#include "saver/transitions/plan.h"
+
+namespace saver {
+
+// Both ways of running let events run in between, a key that ends the show among them, but also timers: the
+// caller guards against a second change while one is under way. Once `isOver` says so, no control is touched
+// any more.
+class TransitionRunner {
+ public:
+  TransitionRunner(const os::Clock& clock, os::EventLoop& loop, std::function<bool()> isOver);
+
+  // Draws from `source`, where every pixel goes to its own place in the box; rectangles are cut to both. With
+  // a time the steps are paced over it, without one they follow each other as fast as they can be drawn.
+  // False when the show ended on the way.
+  bool run(const TransitionPlan& plan, forms::PictureBox& destination, const base::Bitmap& source,
+           std::optional<int> transitionTimeMs);
+
+ private:
+  bool runTight(const TransitionPlan& plan, forms::PictureBox& destination, const base::Bitmap& source);
+  bool runPaced(const TransitionPlan& plan, forms::PictureBox& destination, const base::Bitmap& source,
+                int transitionTimeMs);
+  bool waitUntil(std::int64_t deadlineMs);
+  bool hasEnded() const { return isOver_() || loop_.isQuitting(); }
+
+  const const os::Clock& clock_;
+  os::EventLoop& loop_;
+  std::function<bool()> isOver_;
+};
+
+}  // namespace saver

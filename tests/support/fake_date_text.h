@@ -1,0 +1,26 @@
+// Dates in the form of the United States: 6/15/2026 1:05:09 PM.
+#pragma once
+
+#include <string>
+
+#include "os/date_text.h"
+
+namespace support {
+
+class FakeDateText : public os::DateText {
+ public:
+  std::string date(const os::LocalTime& t) const override {
+    return std::to_string(t.month) + '/' + std::to_string(t.day) + '/' + std::to_string(t.year);
+  }
+
+  std::string time(const os::LocalTime& t) const override {
+    const int hour = t.hour % 12 == 0 ? 12 : t.hour % 12;
+    return std::to_string(hour) + ':' + twoDigits(t.minute) + ':' + twoDigits(t.second) +
+           (t.hour < 12 ? " AM" : " PM");
+  }
+
+ private:
+  static std::string twoDigits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
+};
+
+}  // namespace support
