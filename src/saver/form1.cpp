@@ -109,7 +109,7 @@ void Form1::StartSaver_Timer() {
   currentImageIndex_ = -1;
   AdvancePictureIndex();
   if (floats()) {
-    if (const std::optional<int> interval = FloatIntervalMs(settings_.record.picSpeed))
+    if (const std::optional<int> interval = FloatIntervalMs(base::LeadingNumber(settings_.record.picSpeed)))
       FloatTimer.setInterval(*interval);
   } else if (base::StrictDouble(settings_.record.timeInterval) == 0) {
     ShowNextPicture();

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "base/calendar.h"
 #include "base/random.h"
 #include "forms/form.h"
 #include "forms/label.h"
@@ -19,7 +20,9 @@
 #include "os/screen.h"
 #include "os/system_facts.h"
 #include "os/system_flags.h"
+#include "saver/background.h"
 #include "saver/countdown.h"
+#include "saver/floating.h"
 #include "saver/stage.h"
 #include "saver/stage_window.h"
 #include "settings/load_settings.h"
@@ -31,7 +34,7 @@ struct ShowServices {
   os::Files& files;
   const os::AnsiCodePage& ansi;
   os::PictureLoader& pictures;
-  const os::Clock& clock;
+  os::Clock& clock;
   os::EventLoop& loop;
   const os::Screen& screen;
   os::SystemFlags& flags;
@@ -98,7 +101,11 @@ class Form1 : public forms::Form {
   void PrepareCaption();
   void PrepareClock();
   void takeDesktopForBackground();
-  void composeBackground();
+  base::SharedBitmap composeBackground(BackgroundKind kind);
+  base::SharedBitmap composeCustomImage();
+  base::SharedBitmap composeGradient();
+  base::CalendarDay countdownTarget() const;
+  std::string widestTimeText() const;
   void startPictureCycle();
   bool floats() const;
   bool yield(std::int64_t untilMs);
@@ -114,11 +121,10 @@ class Form1 : public forms::Form {
   settings::SaverSettings settings_;
   base::Random random_;
   base::Bitmap desktop_;
-  Countdown countdown_;
+  Countdown countdown_;  // the last reading; kept when the target has passed
   std::int16_t currentImageIndex_ = 0;
   std::int16_t captionHeight_ = 0;
-  std::int16_t floatStepX_ = 0;
-  std::int16_t floatStepY_ = 0;
+  FloatStep floatStep_;
   int loadReduction_ = 1;  // by which power of two LoadCurrentPicture divided the picture's size
   bool pictureShown_ = false;
   bool changing_ = false;  // a change is under way: timers that tick in its waits must not start another

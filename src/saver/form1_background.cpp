@@ -1,0 +1,71 @@
+// The background of the show: a colour, the desktop, the user's picture or a gradient.
+#include "base/errors.h"
+#include "base/number_text.h"
+#include "saver/form1.h"
+#include "settings/open_settings.h"
+#include "settings/read_ini_value.h"
+
+namespace saver {
+
+void Form1::takeDesktopForBackground() {
+  // The window is about to cover the desktop, and the settings are read after that: so the one setting that
+  // decides whether a copy is needed is looked up ahead.
+  const settings::IniDocument document =
+      settings::OpenSettings(services_.files, services_.ansi, programFolder_);
+  const std::string kind = settings::ReadIniValue(document, "background", "backEffect");
+  if (base::LeadingNumber(kind) == static_cast<int>(BackgroundKind::Desktop))
+    desktop_ = services_.screen.copyDesktop();
+}
+
+void Form1::DrawBackground() {
+  // Whatever is wrong with the chosen background, the show goes on over the window's own.
+  try {
+    const std::optional<BackgroundKind> kind =
+        BackgroundKindNumbered(base::StrictDouble(settings_.record.backEffect));
+    if (!kind) return;
+    if (*kind == BackgroundKind::SolidColor) {
+      const base::PackedColor color = base::StrictInt32(settings_.record.newBackColor);
+      setBackColor(color);
+      DisplayingPicture.setBackColor(color);
+      IntialPicture.setBackColor(color);
+      return;
+    }
+    if (base::SharedBitmap composed = composeBackground(*kind))
+      BgrImage.setPicture(forms::MakePicture(composed));
+  } catch (const base::RunTimeError&) {
+    return;
+  }
+}
+
+base::SharedBitmap Form1::composeBackground(BackgroundKind kind) {
+  if (kind == BackgroundKind::CustomImage) return composeCustomImage();
+  if (kind == BackgroundKind::Gradient) return composeGradient();
+  if (desktop_.isEmpty()) return nullptr;
+  return std::make_shared<base::Bitmap>(std::move(desktop_));
+}
+
+base::SharedBitmap Form1::composeGradient() {
+  // One unit a band from now on, for the pointer positions that the form reports too.
+  scaleHeight = kGradientBands;
+  const settings::SettingsRecord& record = settings_.record;
+  const GradientColor top{.red = base::StrictInt32(record.redBackground),
+                          .green = base::StrictInt32(record.greenBackground),
+                          .blue = base::StrictInt32(record.blueBackground)};
+  return std::make_shared<base::Bitmap>(ComposeGradient(services_.screen.primarySize(), top));
+}
+
+base::SharedBitmap Form1::composeCustomImage() {
+  const std::optional<ImageLayout> layout =
+      ImageLayoutNumbered(base::StrictDouble(settings_.record.backgroundDisplay));
+  const std::shared_ptr<const os::PictureFile> file =
+      services_.pictures.open(settings_.record.backgroundImage);
+  if (!layout || !file) return nullptr;
+  PreBgrImage.setPicture(forms::MakePicture(file));
+  std::optional<base::Bitmap> composed =
+      ComposeImage(*PreBgrImage.picture(), *layout, services_.screen.primarySize(), twipsPerPixel(),
+                   base::OpaquePixel(backColor()));
+  if (!composed) return nullptr;
+  return std::make_shared<base::Bitmap>(std::move(*composed));
+}
+
+}  // namespace saver

@@ -1,0 +1,275 @@
+#include <gtest/gtest.h>
+
+#include "support/show_stage.h"
+
+namespace {
+
+using support::ShowStage;
+
+constexpr base::PackedColor kRed = base::Rgb(255, 0, 0);
+constexpr base::PackedColor kGreen = base::Rgb(0, 255, 0);
+constexpr base::PackedColor kBlue = base::Rgb(0, 0, 255);
+constexpr base::Pixel kRedPixel = base::OpaquePixel(kRed);
+constexpr base::Pixel kGreenPixel = base::OpaquePixel(kGreen);
+constexpr base::Pixel kBluePixel = base::OpaquePixel(kBlue);
+constexpr base::Pixel kBlackPixel = base::OpaquePixel(base::kBlack);
+
+void AddThree(ShowStage& show) {
+  show.addPicture({100, 80}, kRed);
+  show.addPicture({100, 80}, kGreen);
+  show.addPicture({100, 80}, kBlue);
+}
+
+TEST(PictureCycle, TheFirstPictureComesHalfASecondAfterTheBackground) {
+  ShowStage show;
+  AddThree(show);
+  show.start();
+  show.runFor(499);
+  EXPECT_EQ(show.screenAt(512, 384), kBlackPixel);
+  show.runFor(1);
+  EXPECT_EQ(show.screenAt(512, 384), kRedPixel);
+  EXPECT_FALSE(show.form->StartSaver.enabled());
+}
+
+TEST(PictureCycle, ThreePicturesInOrderThenTheFirstAgain) {
+  ShowStage show;
+  AddThree(show);
+  show.start();
+  show.runFor(600);
+  EXPECT_EQ(show.screenAt(512, 384), kRedPixel);
+  EXPECT_EQ(show.form->currentImageIndex(), 1) << "always one step ahead of the screen";
+  show.runFor(1400);
+  EXPECT_EQ(show.screenAt(512, 384), kGreenPixel);
+  show.runFor(1300);
+  EXPECT_EQ(show.screenAt(512, 384), kBluePixel);
+  EXPECT_EQ(show.form->currentImageIndex(), 3) << "the wrap comes with the next tick, not before";
+  show.runFor(1300);
+  EXPECT_EQ(show.screenAt(512, 384), kRedPixel);
+  EXPECT_EQ(show.form->currentImageIndex(), 1);
+}
+
+TEST(PictureCycle, TheNextChangeComesAnIntervalAfterTheEndOfTheOneBefore) {
+  ShowStage show;
+  AddThree(show);
+  show.start();
+  show.runFor(500);
+  show.pictures.opened.clear();
+  show.runFor(999);
+  EXPECT_TRUE(show.pictures.opened.empty());
+  show.runFor(1 + 310);  // the tick, and the pause of the change
+  EXPECT_EQ(show.pictures.opened.size(), 1U);
+  show.pictures.opened.clear();
+  show.runFor(980);
+  EXPECT_TRUE(show.pictures.opened.empty());
+  show.runFor(400);
+  EXPECT_EQ(show.pictures.opened.size(), 1U);
+}
+
+TEST(PictureCycle, OnlyLaterChangesRetireAnOldPictureAndPause) {
+  ShowStage show;
+  AddThree(show);
+  show.start();
+  show.runFor(500);
+  EXPECT_EQ(show.screenAt(512, 384), kRedPixel) << "the first picture needs no pause";
+  show.runFor(1000 + 100);
+  EXPECT_EQ(show.screenAt(512, 384), kBlackPixel) << "the old picture has given way to the background";
+  show.runFor(300);
+  EXPECT_EQ(show.screenAt(512, 384), kGreenPixel);
+}
+
+TEST(PictureCycle, ThePauseEndsAcrossMidnight) {
+  ShowStage show;
+  AddThree(show);
+  show.clock.set({2026, 12, 31, 23, 59, 58, 400});
+  show.start();
+  show.runFor(500 + 1000 + 90);
+  EXPECT_EQ(show.screenAt(512, 384), kBlackPixel) << "in the pause, 10 ms before midnight";
+  show.runFor(400);
+  EXPECT_EQ(show.screenAt(512, 384), kGreenPixel);
+}
+
+TEST(PictureCycle, WithIntervalZeroACentredPictureStaysForEver) {
+  ShowStage show;
+  AddThree(show);
+  show.set("image/timeInterval", "0");
+  show.start();
+  show.runFor(3600 * 1000);
+  EXPECT_EQ(show.pictures.opened.size(), 1U);
+  EXPECT_FALSE(show.form->ImageChangeTimer.enabled());
+  EXPECT_EQ(show.screenAt(512, 384), kRedPixel);
+}
+
+TEST(PictureCycle, WithIntervalZeroAFloatingPictureHasATimerThatNeverTicks) {
+  ShowStage show;
+  AddThree(show);
+  show.set("image/timeInterval", "0");
+  show.set("image/picRandom", "rand");
+  show.start();
+  show.runFor(60 * 1000);
+  EXPECT_TRUE(show.form->ImageChangeTimer.enabled());
+  EXPECT_EQ(show.form->ImageChangeTimer.interval(), 0);
+  EXPECT_EQ(show.pictures.opened.size(), 1U);
+}
+
+TEST(PictureCycle, RandomOrderDrawsWithNoMemory) {
+  ShowStage show;
+  AddThree(show);
+  show.set("image/randomPick", "1");
+  show.start();
+  show.runFor(600 * 1000);
+  std::map<std::string, int> shown;
+  bool twiceInARow = false;
+  for (std::size_t i = 0; i < show.pictures.opened.size(); ++i) {
+    ++shown[show.pictures.opened[i]];
+    twiceInARow |= i > 0 && show.pictures.opened[i] == show.pictures.opened[i - 1];
+  }
+  EXPECT_TRUE(twiceInARow);
+  ASSERT_EQ(shown.size(), 3U);
+  for (const auto& [path, count] : shown) EXPECT_GT(count, 90) << path;
+}
+
+TEST(PictureCycle, TwoDrawsWithinOneTickOfTheClockDiffer) {
+  ShowStage show;
+  for (int i = 0; i < 200; ++i) show.addPicture({10, 10}, kRed);
+  show.set("image/randomPick", "1");
+  show.start();
+  std::map<int, int> drawn;
+  for (int i = 0; i < 50; ++i) {
+    show.form->AdvancePictureIndex();
+    ++drawn[show.form->currentImageIndex()];
+  }
+  EXPECT_GT(drawn.size(), 30U);
+}
+
+TEST(PictureCycle, ATickThatComesWhileItsOwnHandlerRunsStartsNoSecondChange) {
+  ShowStage show;
+  AddThree(show);
+  show.set("transitions/bLeftWipe", "1");
+  show.set("extras/transitionTime", "2000");
+  show.start();
+  show.runFor(2000);
+  EXPECT_EQ(show.pictures.opened.size(), 1U)
+      << "the first change takes longer than the start timer's interval";
+}
+
+TEST(PictureCycle, APictureThatCannotBeLoadedShowsTheBackgroundForItsTurn) {
+  ShowStage show;
+  AddThree(show);
+  show.set("images/1", "C:\\gone.jpg");
+  show.start();
+  show.runFor(2000);
+  EXPECT_EQ(show.screenAt(512, 384), kBlackPixel);
+  EXPECT_TRUE(show.errors.empty());
+  show.runFor(1300);
+  EXPECT_EQ(show.screenAt(512, 384), kBluePixel);
+}
+
+TEST(PictureCycle, APictureThatBreaksWhileItIsDecodedShowsTheBackgroundForItsTurn) {
+  ShowStage show;
+  AddThree(show);
+  show.pictures.addBroken("C:\\pictures\\1.jpg", {100, 80});
+  show.start();
+  show.runFor(2000);
+  EXPECT_EQ(show.screenAt(512, 384), kBlackPixel);
+  EXPECT_TRUE(show.errors.empty());
+}
+
+TEST(PictureCycle, WithNoPictureAtAllTheShowRunsOverItsBackground) {
+  ShowStage show;
+  show.set("background/newBackColor", "255");
+  show.start();
+  show.runFor(10000);
+  EXPECT_EQ(show.screenAt(512, 384), kRedPixel);
+  EXPECT_TRUE(show.errors.empty());
+  EXPECT_FALSE(show.form->isOver());
+}
+
+TEST(PictureCycle, AnIntervalThatIsNoNumberEndsTheShow) {
+  ShowStage show;
+  AddThree(show);
+  show.set("image/timeInterval", "soon");
+  show.start();
+  show.runFor(600);
+  EXPECT_EQ(show.errors, std::vector<std::string>{"type mismatch"});
+  EXPECT_TRUE(show.form->isOver());
+}
+
+TEST(PictureCycle, TheEndOfTheShowInThePauseTouchesNothingAfterwards) {
+  ShowStage show;
+  AddThree(show);
+  show.start();
+  show.runFor(500);
+  show.loop.postAfter(1000 + 150, [&] { show.form->unload(); });
+  show.runFor(1000 + 151);
+  const std::size_t presents = show.window.presented.size();
+  const std::size_t opened = show.pictures.opened.size();
+  show.runFor(60000);
+  EXPECT_EQ(show.window.presented.size(), presents);
+  EXPECT_EQ(show.pictures.opened.size(), opened);
+  EXPECT_EQ(show.loop.timersRunning(), 0);
+}
+
+TEST(PictureCycle, TheShowEndsAtOnceInTheMiddleOfATransition) {
+  ShowStage show;
+  AddThree(show);
+  show.set("transitions/bFade", "1");
+  show.set("extras/transitionTime", "5000");
+  show.start();
+  show.loop.postAfter(1500, [&] { show.form->unload(); });
+  show.runFor(1520);
+  const std::size_t presents = show.window.presented.size();
+  show.runFor(10000);
+  EXPECT_EQ(show.window.presented.size(), presents);
+}
+
+TEST(PictureCycle, AFlagOfTwoAloneLetsTheShowEndWhileNothingIsEverChosen) {
+  ShowStage show;
+  AddThree(show);
+  show.set("transitions/bFade", "2");
+  show.start();
+  show.loop.postAfter(3000, [&] { show.form->unload(); });
+  show.runFor(3100);
+  EXPECT_TRUE(show.form->isOver());
+  EXPECT_EQ(show.screenAt(512, 384), kBlackPixel);
+}
+
+TEST(PictureCycle, OnTheOlderFamilyWithAPasswordTheSystemIsToldThatASaverRuns) {
+  ShowStage guarded;
+  guarded.facts = {.osPlatformId = 1, .usePassword = 1};
+  guarded.start();
+  EXPECT_EQ(guarded.flags.calls, std::vector<bool>{true});
+  ShowStage unguarded;
+  unguarded.facts = {.osPlatformId = 1, .usePassword = 0};
+  unguarded.start();
+  EXPECT_TRUE(unguarded.flags.calls.empty());
+  ShowStage nt;
+  nt.facts = {.osPlatformId = 2, .usePassword = 1};
+  nt.start();
+  EXPECT_TRUE(nt.flags.calls.empty());
+}
+
+TEST(PictureCycle, TheWindowCoversThePrimaryScreen) {
+  ShowStage show({1280, 720});
+  show.start();
+  EXPECT_EQ(show.window.covered, (base::PixelRect{0, 0, 1280, 720}));
+  EXPECT_FLOAT_EQ(show.form->width, 1280 * 15.0F);
+  EXPECT_FLOAT_EQ(show.form->height, 720 * 15.0F);
+}
+
+TEST(PictureCycle, RunsForADayWithoutARunTimeError) {
+  ShowStage show({320, 240});
+  for (int i = 0; i < 5; ++i) show.addPicture({64, 48}, kRed + i, "Picture " + std::to_string(i));
+  for (const char* flag : {"bStandard", "bLeftWipe", "bRightWipe", "bRightandLeftWipe", "bUpAndDown",
+                           "bCenter", "bHorizontalBlinds", "bVerticalBlinds", "bFade"}) {
+    show.set(std::string("transitions/") + flag, "1");
+  }
+  show.set("image/timeInterval", "60");
+  show.set("image/randomPick", "1");
+  show.start();
+  show.runFor(24LL * 3600 * 1000);
+  EXPECT_TRUE(show.errors.empty());
+  EXPECT_GT(show.pictures.opened.size(), 1400U);
+  EXPECT_FALSE(show.form->isOver());
+}
+
+}  // namespace

@@ -1,0 +1,90 @@
+#include "support/show_stage.h"
+
+#include "base/errors.h"
+#include "base/twips.h"
+
+namespace support {
+
+namespace {
+
+const std::map<std::string, std::string> kPlainShow = {
+    {"image/randomPick", "0"},
+    {"image/picSpeed", "2"},
+    {"image/timeInterval", "1"},
+    {"image/picRandom", "cent"},
+    {"image/mouseSensitivity", "23"},
+    {"image/picturePercent", "90"},
+    {"image/timeDisplay", "0"},
+    {"background/newBackColor", "0"},
+    {"background/backEffect", "0"},
+    {"background/backgroundDisplay", "0"},
+    {"background/redBackground", "0"},
+    {"background/greenBackground", "0"},
+    {"background/blueBackground", "0"},
+    {"font/newFontName", "Arial"},
+    {"font/newFontSize", "10"},
+    {"font/newFontBold", "False"},
+    {"font/newFontItalic", "False"},
+    {"font/newFontUnderline", "False"},
+    {"font/newFontFontStrikethru", "False"},
+    {"font/newFontForeColor", "16777215"},
+    {"font/scroll", "1"},
+    {"font/scrollSpeed", "150"},
+    {"transitions/bStandard", "0"},
+    {"transitions/bLeftWipe", "0"},
+    {"transitions/bRightWipe", "0"},
+    {"transitions/bRightandLeftWipe", "0"},
+    {"transitions/bUpAndDown", "0"},
+    {"transitions/bCenter", "0"},
+    {"transitions/bHorizontalBlinds", "0"},
+    {"transitions/bVerticalBlinds", "0"},
+    {"transitions/bFade", "0"},
+    {"date/countdownMonth", "12"},
+    {"date/countdownDay", "25"},
+    {"date/countdownYear", "2026"},
+};
+
+constexpr const char* kFolder = "C:\\Lumora";
+
+}  // namespace
+
+ShowStage::ShowStage(base::PixelSize screenSize, int dpi)
+    : window(screenSize), stage(window, text, base::TwipsPerPixelForDpi(dpi)), settings_(kPlainShow) {
+  screen.size = screenSize;
+  screen.dotsPerInch = dpi;
+}
+
+void ShowStage::addPicture(base::PixelSize size, base::PackedColor color, const std::string& caption) {
+  const std::string number = std::to_string(pictures_++);
+  const std::string path = "C:\\pictures\\" + number + ".jpg";
+  pictures.add(path, size, color);
+  set("images/" + number, path);
+  set("caption/" + number, caption);
+}
+
+void ShowStage::start() {
+  settings_.try_emplace("total/total", std::to_string(pictures_));
+  std::map<std::string, std::string> sections;
+  for (const auto& [where, value] : settings_) {
+    const std::size_t slash = where.find('/');
+    sections[where.substr(0, slash)] += where.substr(slash + 1) + "=" + value + "\r\n";
+  }
+  std::string& file = files.content[std::string(kFolder) + "\\zbfaone.ini"];
+  for (const auto& [section, keys] : sections) file += "[" + section + "]\r\n" + keys;
+
+  form = std::make_unique<saver::Form1>(
+      saver::ShowServices{files, ansi, pictures, clock, loop, screen, flags, dates, stage, window}, facts,
+      kFolder);
+  const auto end = [this](const std::exception& error) {
+    errors.emplace_back(error.what());
+    form->unload();
+  };
+  loop.setErrorHandler(end);
+  try {
+    form->Form_Load();
+  } catch (const base::RunTimeError& error) {
+    end(error);
+  }
+}
+
+}  // namespace support
