@@ -34,7 +34,7 @@ struct ShowServices {
   os::Files& files;
   const os::AnsiCodePage& ansi;
   os::PictureLoader& pictures;
-  os::Clock& clock;
+  const os::Clock& clock;
   os::EventLoop& loop;
   const os::Screen& screen;
   os::SystemFlags& flags;

@@ -48,10 +48,10 @@ base::SharedBitmap Form1::composeGradient() {
   // One unit a band from now on, for the pointer positions that the form reports too.
   scaleHeight = kGradientBands;
   const settings::SettingsRecord& record = settings_.record;
-  const GradientColor top{.red = base::StrictInt32(record.redBackground),
+  const GradientColor color{.red = base::StrictInt32(record.redBackground),
                           .green = base::StrictInt32(record.greenBackground),
                           .blue = base::StrictInt32(record.blueBackground)};
-  return std::make_shared<base::Bitmap>(ComposeGradient(services_.screen.primarySize(), top));
+  return std::make_shared<base::Bitmap>(ComposeGradient(services_.screen.primarySize(), color));
 }
 
 base::SharedBitmap Form1::composeCustomImage() {

@@ -33,7 +33,7 @@ class TransitionRunner {
   bool waitUntil(std::int64_t deadlineMs);
   bool hasEnded() const { return isOver_() || loop_.isQuitting(); }
 
-  const const os::Clock& clock_;
+  const os::Clock& clock_;
   os::EventLoop& loop_;
   std::function<bool()> isOver_;
 };
