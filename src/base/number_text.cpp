@@ -121,7 +121,7 @@ std::string StrictDigits(Cursor& cursor) {
   std::string number;
   AddDigits(number, cursor, true);
   bool digits = !number.empty();
-  if (!digits) number = "0";
+  if (!digits) number += '0';
   if (cursor.take('.')) {
     const std::size_t whole = number.size();
     number += '.';
