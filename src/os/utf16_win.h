@@ -1,4 +1,4 @@
-// Text for and from Windows: UTF-8 inside the program, UTF-16 at its calls.
+// Text for the system's W functions.
 #pragma once
 
 #include <string>
@@ -6,8 +6,10 @@
 
 namespace os {
 
-// Broken sequences become replacement characters.
+// UTF-8 as the system's UTF-16. Broken UTF-8 gives U+FFFD; never fails.
 std::wstring ToWide(std::string_view utf8);
-std::string FromWide(std::wstring_view utf16);
+
+// The system's UTF-16 as UTF-8. Never fails; ToWide gives the same units back.
+std::string FromWide(std::wstring_view wide);
 
 }  // namespace os

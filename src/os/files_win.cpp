@@ -1,0 +1,146 @@
+#include "os/files_win.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <atomic>
+
+#include "os/long_path.h"
+#include "os/utf16_win.h"
+
+namespace os {
+
+namespace {
+
+// An open file, closed at the end of the scope.
+class FileHandle {
+ public:
+  explicit FileHandle(HANDLE handle) : handle_(handle) {}
+  ~FileHandle() {
+    if (isOpen()) CloseHandle(handle_);
+  }
+  FileHandle(const FileHandle&) = delete;
+  FileHandle& operator=(const FileHandle&) = delete;
+
+  bool isOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
+  HANDLE get() const { return handle_; }
+
+ private:
+  HANDLE handle_;
+};
+
+constexpr DWORD kStep = 1U << 26;             // bytes of one read or write
+constexpr LONGLONG kLargestFile = 1LL << 30;  // more is no file of ours, and no picture
+
+std::wstring FullPath(const std::wstring& path) {
+  const DWORD size = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
+  std::wstring full(size, L'\0');
+  full.resize(GetFullPathNameW(path.c_str(), size, full.data(), nullptr));
+  return full.empty() ? path : full;
+}
+
+// The path for the system's functions; `extra` characters can be added to it.
+std::wstring WidePath(const std::string& path, std::size_t extra = 0) {
+  const std::wstring wide = ToWide(path);
+  return wide.size() + extra > kLongestPlainPath ? LongPath(FullPath(wide)) : wide;
+}
+
+bool WriteAll(HANDLE file, std::string_view content) {
+  while (!content.empty()) {
+    const DWORD size = static_cast<DWORD>(std::min<std::size_t>(content.size(), kStep));
+    DWORD written = 0;
+    if (WriteFile(file, content.data(), size, &written, nullptr) == FALSE || written == 0) return false;
+    content.remove_prefix(written);
+  }
+  return true;
+}
+
+bool WriteNew(const std::wstring& path, std::string_view content) {
+  const FileHandle file(
+      CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+  return file.isOpen() && WriteAll(file.get(), content) && FlushFileBuffers(file.get()) != FALSE;
+}
+
+// A name that no other process and no other call of this one uses at the same time.
+std::wstring NameBeside() {
+  static std::atomic<unsigned> count{0};
+  return L".new-" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++count);
+}
+
+}  // namespace
+
+std::optional<std::string> FilesWin::read(const std::string& path) {
+  const FileHandle file(CreateFileW(WidePath(path).c_str(), GENERIC_READ,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                    OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+  LARGE_INTEGER size{};
+  if (!file.isOpen() || GetFileSizeEx(file.get(), &size) == FALSE || size.QuadPart > kLargestFile)
+    return std::nullopt;
+  std::string content(static_cast<std::size_t>(size.QuadPart), '\0');
+  std::size_t filled = 0;
+  while (filled < content.size()) {
+    const DWORD wanted = static_cast<DWORD>(std::min<std::size_t>(content.size() - filled, kStep));
+    DWORD got = 0;
+    if (ReadFile(file.get(), content.data() + filled, wanted, &got, nullptr) == FALSE) return std::nullopt;
+    if (got == 0) break;  // the file became shorter meanwhile
+    filled += got;
+  }
+  content.resize(filled);
+  return content;
+}
+
+// MoveFileEx replaces the name in one step of the file system. ReplaceFile would carry the old file's
+// attributes over, but by its documentation it can fail with the old file gone.
+bool FilesWin::replace(const std::string& path, std::string_view content) {
+  const std::wstring nameBeside = NameBeside();
+  const std::wstring target = WidePath(path, nameBeside.size());
+  const std::wstring beside = target + nameBeside;
+  if (WriteNew(beside, content) && MoveFileExW(beside.c_str(), target.c_str(),
+                                               MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE) {
+    return true;
+  }
+  DeleteFileW(beside.c_str());
+  return false;
+}
+
+bool FilesWin::exists(const std::string& path) {
+  const DWORD attributes = GetFileAttributesW(WidePath(path).c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+bool FilesWin::copy(const std::string& from, const std::string& to) {
+  return CopyFileW(WidePath(from).c_str(), WidePath(to).c_str(), FALSE) != FALSE;
+}
+
+bool FilesWin::canWriteIn(const std::string& folder) {
+  const std::wstring name = L"\\lumora" + NameBeside();
+  const std::wstring path = WidePath(folder, name.size()) + name;
+  const FileHandle file(CreateFileW(path.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
+                                    FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr));
+  return file.isOpen();
+}
+
+std::vector<std::string> FilesWin::filesIn(const std::string& folder) {
+  std::vector<std::string> names;
+  constexpr std::wstring_view kAll = L"\\*";
+  WIN32_FIND_DATAW entry{};
+  const HANDLE search =
+      FindFirstFileExW((WidePath(folder, kAll.size()) + kAll.data()).c_str(), FindExInfoBasic, &entry,
+                       FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
+  if (search == INVALID_HANDLE_VALUE) return names;
+  do {
+    if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) names.push_back(FromWide(entry.cFileName));
+  } while (FindNextFileW(search, &entry) != FALSE);
+  FindClose(search);
+  return names;
+}
+
+std::string FilesWin::shortPath(const std::string& path) {
+  const std::wstring wide = WidePath(path);
+  const DWORD size = GetShortPathNameW(wide.c_str(), nullptr, 0);
+  std::wstring shorter(size, L'\0');
+  shorter.resize(GetShortPathNameW(wide.c_str(), shorter.data(), size));
+  return shorter.empty() ? path : FromWide(shorter);
+}
+
+}  // namespace os

@@ -1,0 +1,19 @@
+// Files of this system. Paths may be longer than 260 characters.
+#pragma once
+
+#include "os/files.h"
+
+namespace os {
+
+class FilesWin : public Files {
+ public:
+  std::optional<std::string> read(const std::string& path) override;
+  bool replace(const std::string& path, std::string_view content) override;
+  bool exists(const std::string& path) override;
+  bool copy(const std::string& from, const std::string& to) override;
+  bool canWriteIn(const std::string& folder) override;
+  std::vector<std::string> filesIn(const std::string& folder) override;
+  std::string shortPath(const std::string& path) override;
+};
+
+}  // namespace os

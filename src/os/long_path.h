@@ -1,0 +1,17 @@
+// Paths of more than 260 characters.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace os {
+
+// Above this many characters a path needs the form of LongPath(): a folder's limit, which leaves room for an
+// 8.3 name in the 260 characters of a path with its end mark (platform documentation, "Maximum Path Length").
+constexpr std::size_t kLongestPlainPath = 247;
+
+// The form of an absolute path that the system takes at any length: "\\?\C:\..." or "\\?\UNC\server\...". A
+// path that has a form of its own ("\\?\", "\\.\") stays as it is.
+std::wstring LongPath(std::wstring_view absolutePath);
+
+}  // namespace os

@@ -1,0 +1,192 @@
+#include "settings/ini_document.h"
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+#include <utility>
+
+#include "base/text.h"
+#include "settings/ini_line.h"
+
+namespace settings {
+
+namespace {
+
+constexpr std::string_view kUtf16Mark = "\xFF\xFE";
+constexpr std::string_view kLineEnd = "\r\n";
+
+std::string Utf8FromLittleEndian(std::string_view bytes) {
+  std::u16string units;
+  units.reserve(bytes.size() / 2);
+  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+    const auto low = static_cast<unsigned char>(bytes[i]);
+    const auto high = static_cast<unsigned char>(bytes[i + 1]);
+    units += static_cast<char16_t>(low | (high << 8));
+  }
+  return base::Utf8FromUtf16(units);
+}
+
+void AppendLittleEndian(std::string& bytes, std::string_view utf8) {
+  for (const char16_t unit : base::Utf16FromUtf8(utf8)) {
+    bytes += static_cast<char>(unit & 0xFF);
+    bytes += static_cast<char>(unit >> 8);
+  }
+}
+
+}  // namespace
+
+IniDocument::IniDocument(std::string_view bytes, const os::AnsiCodePage& ansi) : ansi_(&ansi) {
+  sections_.emplace_back();
+  utf16_ = bytes.starts_with(kUtf16Mark);
+  if (utf16_) {
+    readLines(Utf8FromLittleEndian(bytes.substr(kUtf16Mark.size())), nullptr);
+  } else {
+    readLines(bytes, &ansi);
+  }
+}
+
+void IniDocument::readLines(std::string_view text, const os::AnsiCodePage* ansi) {
+  while (!text.empty()) {
+    const std::size_t length = std::min(text.find_first_of(kLineEnd), text.size());
+    const std::string_view rest = text.substr(length);
+    const std::size_t end = rest.empty() ? 0 : rest.starts_with(kLineEnd) ? 2 : 1;
+    const std::string_view line = text.substr(0, length);
+    const bool decode = ansi != nullptr && !base::IsAscii(line);
+    add({decode ? ansi->decode(line) : std::string(line), std::string(rest.substr(0, end)),
+         decode ? std::string(line) : std::string()});
+    text = rest.substr(end);
+  }
+}
+
+void IniDocument::add(Line line) {
+  const IniLine parsed = ParseIniLine(line.text);
+  const std::string name = base::AsciiLower(parsed.name);
+  if (parsed.kind == IniLine::Kind::Section) index_.emplace(name, &sections_.emplace_back());
+  Section& section = sections_.back();
+  section.lines.push_back(std::move(line));
+  if (parsed.kind == IniLine::Kind::Text) return;
+  section.lastKey = std::prev(section.lines.end());
+  if (parsed.kind == IniLine::Kind::Key) section.keys.emplace(name, section.lastKey);
+}
+
+const IniDocument::Line* IniDocument::find(std::string_view section, std::string_view key) const {
+  const auto found = index_.find(base::AsciiLower(section));
+  if (found == index_.end()) return nullptr;
+  const auto line = found->second->keys.find(base::AsciiLower(key));
+  return line == found->second->keys.end() ? nullptr : &*line->second;
+}
+
+bool IniDocument::has(std::string_view section, std::string_view key) const {
+  return find(section, key) != nullptr;
+}
+
+std::string IniDocument::value(std::string_view section, std::string_view key, std::size_t longest) const {
+  const Line* line = find(section, key);
+  if (line == nullptr) return {};
+  const IniLine parsed = ParseIniLine(line->text);
+  const std::string_view text(line->text);
+  const std::string_view all =
+      ReadableValue(text.substr(parsed.valueBegin, parsed.valueEnd - parsed.valueBegin));
+  if (all.size() <= longest) return std::string(all);
+  std::size_t characters = 0;
+  std::size_t kept = 0;
+  while (kept < all.size()) {
+    const std::size_t bytes = base::Utf8CharacterAt(all, kept).length;
+    characters += lengthOf(all.substr(kept, bytes));
+    if (characters > longest) break;
+    kept += bytes;
+  }
+  return std::string(all.substr(0, kept));
+}
+
+// In the characters of the profile functions; one that the code page lacks counts as the mark for it.
+std::size_t IniDocument::lengthOf(std::string_view character) const {
+  if (utf16_) return base::Utf16FromUtf8(character).size();
+  const std::optional<std::string> bytes = ansi_->encode(character);
+  return bytes ? bytes->size() : 1;
+}
+
+void IniDocument::set(std::string_view section, std::string_view key, std::string_view value) {
+  Section& place = openSection(section);
+  const auto found = place.keys.find(base::AsciiLower(key));
+  if (found == place.keys.end()) {
+    appendKey(place, key, value);
+  } else {
+    replaceValue(*found->second, value);
+  }
+}
+
+IniDocument::Section& IniDocument::openSection(std::string_view name) {
+  const auto found = index_.find(base::AsciiLower(name));
+  if (found != index_.end()) return *found->second;
+  Section& last = sections_.back();
+  if (!last.lines.empty() && last.lines.back().end.empty()) last.lines.back().end = kLineEnd;
+  add({'[' + std::string(name) + ']', std::string(kLineEnd), {}});
+  return sections_.back();
+}
+
+void IniDocument::replaceValue(Line& line, std::string_view value) {
+  const IniLine parsed = ParseIniLine(line.text);
+  const std::size_t length = parsed.valueEnd - parsed.valueBegin;
+  const std::string stored = StorableValue(value);
+  if (ReadableValue(std::string_view(line.text).substr(parsed.valueBegin, length)) == ReadableValue(stored))
+    return;
+  line.text.replace(parsed.valueBegin, length, stored);
+  line.bytes.clear();
+}
+
+void IniDocument::appendKey(Section& section, std::string_view key, std::string_view value) {
+  if (section.lastKey->end.empty()) section.lastKey->end = kLineEnd;
+  Line line{std::string(key) + '=' + StorableValue(value), std::string(kLineEnd), {}};
+  section.lastKey = section.lines.insert(std::next(section.lastKey), std::move(line));
+  section.keys.emplace(base::AsciiLower(key), section.lastKey);
+}
+
+void IniDocument::eraseSection(std::string_view section) {
+  const auto found = index_.find(base::AsciiLower(section));
+  if (found == index_.end() || found->second->keys.empty()) return;
+  Section& place = *found->second;
+  place.keys.clear();
+  bool first = true;
+  for (auto line = std::next(place.lines.begin()); line != place.lines.end();) {
+    if (ParseIniLine(line->text).kind != IniLine::Kind::Key) {
+      ++line;
+      continue;
+    }
+    line = place.lines.erase(line);
+    if (first) place.lastKey = std::prev(line);
+    first = false;
+  }
+}
+
+bool IniDocument::appendAnsi(std::string& bytes, const Line& line) const {
+  if (!line.bytes.empty() || base::IsAscii(line.text)) {
+    bytes += line.bytes.empty() ? line.text : line.bytes;
+  } else if (const std::optional<std::string> encoded = ansi_->encode(line.text)) {
+    bytes += *encoded;
+  } else {
+    return false;
+  }
+  bytes += line.end;
+  return true;
+}
+
+std::string IniDocument::serialise() const {
+  std::string ansi;
+  bool fits = true;
+  for (const Section& section : sections_) {
+    for (const Line& line : section.lines) fits = fits && appendAnsi(ansi, line);
+  }
+  // ANSI text that begins like the mark would be taken for UTF-16.
+  if (fits && !ansi.starts_with(kUtf16Mark)) return ansi;
+  std::string utf16(kUtf16Mark);
+  for (const Section& section : sections_) {
+    for (const Line& line : section.lines) {
+      AppendLittleEndian(utf16, line.text);
+      AppendLittleEndian(utf16, line.end);
+    }
+  }
+  return utf16;
+}
+
+}  // namespace settings

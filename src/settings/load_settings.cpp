@@ -1,0 +1,156 @@
+#include "settings/load_settings.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+
+#include "base/errors.h"
+#include "base/number_text.h"
+#include "base/rounding.h"
+#include "settings/keys.h"
+#include "settings/open_settings.h"
+#include "settings/read_ini_value.h"
+
+namespace settings {
+
+namespace {
+
+using R = SettingsRecord;
+using Field = std::string R::*;
+
+// The keys in the order of reading. The strict conversions that follow some of them may end the reading, and
+// then what stands behind is not touched.
+constexpr Field kUpToSensitivity[] = {&R::newBackColor,     &R::backEffect,       &R::randomPick,
+                                      &R::picSpeed,         &R::timeInterval,     &R::picRandom,
+                                      &R::newFontName,      &R::newFontSize,      &R::newFontBold,
+                                      &R::newFontItalic,    &R::newFontUnderline, &R::newFontFontStrikethru,
+                                      &R::newFontForeColor, &R::backgroundImage,  &R::backgroundDisplay,
+                                      &R::redBackground,    &R::greenBackground,  &R::blueBackground,
+                                      &R::scroll,           &R::mouseSensitivity};
+constexpr Field kUpToTimeDisplay[] = {
+    &R::scrollSpeed, &R::bStandard,      &R::bLeftWipe,         &R::bRightWipe,      &R::bRightandLeftWipe,
+    &R::bUpAndDown,  &R::bCenter,        &R::bHorizontalBlinds, &R::bVerticalBlinds, &R::bFade,
+    &R::timeDisplay, &R::countdownMonth, &R::countdownDay,      &R::countdownYear};
+
+const Key& KeyOf(Field field) {
+  for (const Key& key : WrittenKeys()) {
+    if (key.field == field) return key;
+  }
+  return TotalKey();
+}
+
+// [total] as a number. More pictures than a 16-bit index can count are refused before room is made for them.
+double CheckedTotal(std::string_view text) {
+  const double total = base::StrictDouble(text);
+  if (base::ToInt32(total) > std::numeric_limits<std::int16_t>::max()) throw base::Overflow();
+  return total;
+}
+
+class Loader {
+ public:
+  Loader(SaverSettings& into, const IniDocument& document, Conversion conversion)
+      : into_(into), record_(into.record), document_(document), conversion_(conversion) {}
+
+  void load() {
+    into_.mended.clear();
+    record_.mouseSensitivity = "23";
+    readPictures();
+    for (const Field field : kUpToSensitivity) read(KeyOf(field));
+    turnSensitivityIntoThreshold();
+    read(KeyOf(&R::picturePercent));
+    readPictureScale();
+    for (const Field field : kUpToTimeDisplay) read(KeyOf(field));
+    setCountdownTarget();
+    for (const Key& key : ExtraKeys()) read(key);
+  }
+
+ private:
+  void read(const Key& key) { record_.*key.field = ReadIniValue(document_, key.section, key.name); }
+
+  void mend(const Key& key) {
+    if (conversion_ == Conversion::Strict) throw;
+    record_.*key.field = key.fallback;
+    into_.mended.emplace_back(key.name);
+  }
+
+  // The field's text by a strict conversion; the default's when that refuses it.
+  template <typename Number>
+  Number number(Field field, Number (*convert)(std::string_view)) {
+    try {
+      return convert(record_.*field);
+    } catch (const base::RunTimeError&) {
+      mend(KeyOf(field));
+    }
+    return convert(record_.*field);
+  }
+
+  // As above, but too many pictures are an error in any case.
+  double total() {
+    try {
+      return CheckedTotal(record_.total);
+    } catch (const base::TypeMismatch&) {
+      mend(TotalKey());
+    }
+    return CheckedTotal(record_.total);
+  }
+
+  // Pictures are counted by the whole part of the total, and room is made by the rounded total, which is
+  // never less; so the last entry stays empty.
+  void readPictures() {
+    read(TotalKey());
+    const double wanted = std::max(total(), 0.0);
+    const auto entries = static_cast<std::size_t>(base::ToInt32(wanted)) + 1;
+    const auto count = static_cast<std::int16_t>(base::Int(wanted));
+    into_.imageFiles.assign(entries, {});
+    into_.imageCaptions.assign(entries, {});
+    into_.lastImageIndex = -1;
+    readList(kImagesSection, into_.imageFiles, count);
+    into_.lastImageIndex = static_cast<std::int16_t>(count - 1);
+    readList(kCaptionSection, into_.imageCaptions, count);
+  }
+
+  void readList(std::string_view section, std::vector<std::string>& list, std::int16_t count) const {
+    for (std::int16_t i = 0; i < count; ++i) {
+      list[static_cast<std::size_t>(i)] = ReadIniValue(document_, section, base::NumberText(std::int32_t{i}));
+    }
+  }
+
+  // The slider's ends are on purpose not 30 less the value: the most sensitive setting still needs a step.
+  void turnSensitivityIntoThreshold() {
+    const double sensitivity = number(&R::mouseSensitivity, base::StrictDouble);
+    if (sensitivity == 30) {
+      record_.mouseSensitivity = "1";
+    } else if (sensitivity == 1) {
+      record_.mouseSensitivity = "30";
+    } else {
+      record_.mouseSensitivity = base::NumberText(30 - sensitivity);
+    }
+  }
+
+  void readPictureScale() {
+    if (number(&R::picturePercent, base::StrictDouble) == 100) record_.picturePercent = "99";
+    into_.pictureScale = number(&R::picturePercent, base::StrictSingle) / 100;
+  }
+
+  void setCountdownTarget() {
+    if (number(&R::timeDisplay, base::StrictDouble) != 2) return;
+    into_.countdownTarget =
+        record_.countdownMonth + '/' + record_.countdownDay + '/' + record_.countdownYear + " 12:00:00 AM";
+  }
+
+  SaverSettings& into_;
+  SettingsRecord& record_;
+  const IniDocument& document_;
+  Conversion conversion_;
+};
+
+}  // namespace
+
+void LoadSettings(SaverSettings& into, os::Files& files, const os::AnsiCodePage& ansi,
+                  const std::string& programFolder, Conversion conversion) {
+  const IniDocument document = OpenSettings(files, ansi, programFolder);
+  Loader(into, document, conversion).load();
+}
+
+}  // namespace settings

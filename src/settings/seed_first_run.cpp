@@ -1,0 +1,30 @@
+#include "settings/seed_first_run.h"
+
+#include "settings/keys.h"
+#include "settings/read_ini_value.h"
+#include "settings/settings_path.h"
+
+namespace settings {
+
+namespace {
+
+constexpr std::string_view kSection = "firstrun";
+constexpr std::string_view kMarker = "samples";
+constexpr std::string_view kPresent = "1";
+constexpr std::string_view kCleared = "0";
+
+}  // namespace
+
+bool SeedFirstRun(IniDocument& document, const std::string& programFolder) {
+  if (ReadIniValue(document, kSection, kMarker) != kPresent) return false;
+  document.set(kImagesSection, "0", InProgramFolder(programFolder, "image1.gif"));
+  document.set(kImagesSection, "1", InProgramFolder(programFolder, "image2.gif"));
+  ClearFirstRunMarker(document);
+  return true;
+}
+
+void ClearFirstRunMarker(IniDocument& document) {
+  if (document.has(kSection, kMarker)) document.set(kSection, kMarker, kCleared);
+}
+
+}  // namespace settings

@@ -1,0 +1,117 @@
+#include "os/files_win.h"
+
+#include <windows.h>
+
+#include <list>
+
+#include "os/utf16_win.h"
+#include "support/files_contract.h"
+#include "support/temporary_folder_win.h"
+
+namespace support {
+
+namespace {
+
+// A file that this process keeps open; `sharing` says what others may do with it meanwhile.
+class OpenFile {
+ public:
+  OpenFile(const std::string& path, DWORD sharing)
+      : handle_(CreateFileW(os::ToWide(path).c_str(), GENERIC_READ, sharing, nullptr, OPEN_EXISTING, 0,
+                            nullptr)) {}
+  ~OpenFile() { CloseHandle(handle_); }
+  OpenFile(const OpenFile&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+
+ private:
+  HANDLE handle_;
+};
+
+struct RealPlace {
+  TemporaryFolder temporary;
+  os::FilesWin disk;
+  std::list<OpenFile> open;
+  os::Files& files() { return disk; }
+  std::string folder() { return temporary.path(); }
+  void lock(const std::string& path) { open.emplace_back(path, 0); }
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(System, FilesContract, RealPlace);
+
+TEST(FilesWin, WorkBeyond260Characters) {
+  const TemporaryFolder temporary;
+  os::FilesWin files;
+  std::string folder = temporary.path();
+  while (folder.size() < 400) {
+    folder += "\\a folder with fifty characters in its long name.";
+    folder.back() = 'x';
+    ASSERT_NE(CreateDirectoryW((L"\\\\?\\" + os::ToWide(folder)).c_str(), nullptr), FALSE);
+  }
+  const std::string path = folder + "\\picture.jpg";
+  EXPECT_TRUE(files.replace(path, "old"));
+  EXPECT_TRUE(files.replace(path, "pixels"));
+  EXPECT_EQ(files.read(path), "pixels");
+  EXPECT_TRUE(files.exists(path));
+  EXPECT_TRUE(files.copy(path, folder + "\\copy.jpg"));
+  EXPECT_TRUE(files.canWriteIn(folder));
+  EXPECT_EQ(files.filesIn(folder).size(), 2U);
+}
+
+TEST(FilesWin, ANameThatOnlyJustFitsLeavesRoomForTheFileBeside) {
+  const TemporaryFolder temporary;
+  os::FilesWin files;
+  for (std::size_t length = 235; length < 262; ++length) {
+    std::string path = temporary.path() + '\\';
+    path += std::string(length - path.size(), 'n');
+    EXPECT_TRUE(files.replace(path, "content")) << length;
+    EXPECT_EQ(files.read(path), "content") << length;
+  }
+  EXPECT_EQ(files.filesIn(temporary.path()).size(), 27U);
+}
+
+TEST(FilesWin, AFolderThatIsNotThereCannotBeWritten) {
+  const TemporaryFolder temporary;
+  os::FilesWin files;
+  EXPECT_FALSE(files.canWriteIn(temporary.path() + "\\missing"));
+  EXPECT_FALSE(files.replace(temporary.path() + "\\missing\\a.ini", "x"));
+}
+
+TEST(FilesWin, AFileThatMayOnlyBeReadKeepsItsContentAndNothingIsLeftBeside) {
+  const TemporaryFolder temporary;
+  os::FilesWin files;
+  const std::string path = temporary.path() + "\\a.ini";
+  ASSERT_TRUE(files.replace(path, "old"));
+  ASSERT_NE(SetFileAttributesW(os::ToWide(path).c_str(), FILE_ATTRIBUTE_READONLY), FALSE);
+  EXPECT_FALSE(files.replace(path, "new"));
+  EXPECT_EQ(files.read(path), "old");
+  EXPECT_EQ(files.filesIn(temporary.path()).size(), 1U);
+  SetFileAttributesW(os::ToWide(path).c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+TEST(FilesWin, AReaderThatOpenedTheOldFileReadsItToItsEnd) {
+  const TemporaryFolder temporary;
+  os::FilesWin files;
+  const std::string path = temporary.path() + "\\a.ini";
+  ASSERT_TRUE(files.replace(path, "old content"));
+  const HANDLE reader =
+      CreateFileW(os::ToWide(path).c_str(), GENERIC_READ,
+                  FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING, 0, nullptr);
+  files.replace(path, "new");
+  char buffer[32] = {};
+  DWORD got = 0;
+  ASSERT_NE(ReadFile(reader, buffer, sizeof(buffer), &got, nullptr), FALSE);
+  CloseHandle(reader);
+  EXPECT_EQ(std::string(buffer, got), "old content");
+}
+
+TEST(FilesWin, AFolderInsideAFolderIsNotListed) {
+  const TemporaryFolder temporary;
+  os::FilesWin files;
+  CreateDirectoryW(os::ToWide(temporary.path() + "\\inner").c_str(), nullptr);
+  ASSERT_TRUE(files.replace(temporary.path() + "\\inner\\a.jpg", "x"));
+  EXPECT_TRUE(files.filesIn(temporary.path()).empty());
+  EXPECT_EQ(files.filesIn(temporary.path() + "\\inner\\").size(), 1U);
+}
+
+}  // namespace
+
+}  // namespace support

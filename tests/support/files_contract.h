@@ -1,0 +1,112 @@
+// What every os::Files promises; run on the fake and on the system's, so that the fake cannot lie.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "os/files.h"
+
+namespace support {
+
+// `Place` gives files(), a writable folder() without a closing backslash, and lock(path), which keeps a file
+// from being read or replaced while the Place lives.
+template <typename Place>
+class FilesContract : public testing::Test {
+ protected:
+  os::Files& files() { return place_.files(); }
+  std::string path(const std::string& name) { return place_.folder() + '\\' + name; }
+  std::string folder() { return place_.folder(); }
+  void lock(const std::string& path) { place_.lock(path); }
+
+  std::vector<std::string> sortedNames() {
+    std::vector<std::string> names = files().filesIn(folder());
+    std::sort(names.begin(), names.end());
+    return names;
+  }
+
+ private:
+  Place place_;
+};
+
+TYPED_TEST_SUITE_P(FilesContract);
+
+TYPED_TEST_P(FilesContract, AFileReadsBackAsItWasPut) {
+  const std::string content("a\0b\r\n\xFF\xFE\x1A", 8);
+  EXPECT_TRUE(this->files().replace(this->path("one.ini"), content));
+  EXPECT_EQ(this->files().read(this->path("one.ini")), content);
+  EXPECT_TRUE(this->files().exists(this->path("one.ini")));
+}
+
+TYPED_TEST_P(FilesContract, AnEmptyFileIsNotAMissingOne) {
+  EXPECT_TRUE(this->files().replace(this->path("empty"), ""));
+  EXPECT_EQ(this->files().read(this->path("empty")), "");
+  EXPECT_EQ(this->files().read(this->path("missing")), std::nullopt);
+  EXPECT_FALSE(this->files().exists(this->path("missing")));
+}
+
+TYPED_TEST_P(FilesContract, ReplacingPutsTheNewContentWholeAndLeavesNothingBeside) {
+  EXPECT_TRUE(this->files().replace(this->path("a.ini"), std::string(100'000, 'x')));
+  EXPECT_TRUE(this->files().replace(this->path("a.ini"), "short"));
+  EXPECT_EQ(this->files().read(this->path("a.ini")), "short");
+  EXPECT_EQ(this->sortedNames(), std::vector<std::string>{"a.ini"});
+}
+
+TYPED_TEST_P(FilesContract, AFileThatIsInUseKeepsItsOldContentWhole) {
+  EXPECT_TRUE(this->files().replace(this->path("a.ini"), "old"));
+  this->lock(this->path("a.ini"));
+  EXPECT_EQ(this->files().read(this->path("a.ini")), std::nullopt);
+  EXPECT_FALSE(this->files().replace(this->path("a.ini"), "new"));
+  EXPECT_TRUE(this->files().exists(this->path("a.ini")));
+  EXPECT_EQ(this->sortedNames(), std::vector<std::string>{"a.ini"});
+}
+
+TYPED_TEST_P(FilesContract, ACopyReplacesItsTarget) {
+  EXPECT_TRUE(this->files().replace(this->path("from"), "new"));
+  EXPECT_TRUE(this->files().replace(this->path("to"), "much older"));
+  EXPECT_TRUE(this->files().copy(this->path("from"), this->path("to")));
+  EXPECT_EQ(this->files().read(this->path("to")), "new");
+  EXPECT_EQ(this->files().read(this->path("from")), "new");
+}
+
+TYPED_TEST_P(FilesContract, AMissingFileCannotBeCopied) {
+  EXPECT_FALSE(this->files().copy(this->path("missing"), this->path("to")));
+  EXPECT_FALSE(this->files().exists(this->path("to")));
+}
+
+TYPED_TEST_P(FilesContract, AFolderListsTheNamesOfItsFiles) {
+  EXPECT_TRUE(this->files().filesIn(this->folder()).empty());
+  EXPECT_TRUE(this->files().replace(this->path("b.jpg"), "1"));
+  EXPECT_TRUE(this->files().replace(this->path("\xD0\xBB\xD0\xB5\xD1\x82\xD0\xBE.jpg"), "2"));
+  EXPECT_EQ(this->sortedNames(), (std::vector<std::string>{"b.jpg", "\xD0\xBB\xD0\xB5\xD1\x82\xD0\xBE.jpg"}));
+  EXPECT_TRUE(this->files().filesIn(this->folder() + "\\missing").empty());
+}
+
+TYPED_TEST_P(FilesContract, AFolderIsNoFile) {
+  EXPECT_TRUE(this->files().replace(this->path("a"), "1"));
+  EXPECT_FALSE(this->files().exists(this->folder()));
+  EXPECT_EQ(this->files().read(this->folder()), std::nullopt);
+}
+
+TYPED_TEST_P(FilesContract, AFileCanBeMadeInAWritableFolderAndTheQuestionLeavesNone) {
+  EXPECT_TRUE(this->files().canWriteIn(this->folder()));
+  EXPECT_TRUE(this->files().filesIn(this->folder()).empty());
+}
+
+TYPED_TEST_P(FilesContract, AShortPathLeadsToTheSameFile) {
+  const std::string path = this->path("a picture with a long name.jpeg");
+  EXPECT_TRUE(this->files().replace(path, "pixels"));
+  EXPECT_EQ(this->files().read(this->files().shortPath(path)), "pixels");
+  EXPECT_EQ(this->files().shortPath(this->path("missing")), this->path("missing"));
+}
+
+REGISTER_TYPED_TEST_SUITE_P(FilesContract, AFileReadsBackAsItWasPut, AnEmptyFileIsNotAMissingOne,
+                            ReplacingPutsTheNewContentWholeAndLeavesNothingBeside,
+                            AFileThatIsInUseKeepsItsOldContentWhole, ACopyReplacesItsTarget,
+                            AMissingFileCannotBeCopied, AFolderListsTheNamesOfItsFiles, AFolderIsNoFile,
+                            AFileCanBeMadeInAWritableFolderAndTheQuestionLeavesNone,
+                            AShortPathLeadsToTheSameFile);
+
+}  // namespace support
