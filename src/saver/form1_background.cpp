@@ -49,8 +49,8 @@ base::SharedBitmap Form1::composeGradient() {
   scaleHeight = kGradientBands;
   const settings::SettingsRecord& record = settings_.record;
   const GradientColor color{.red = base::StrictInt32(record.redBackground),
-                          .green = base::StrictInt32(record.greenBackground),
-                          .blue = base::StrictInt32(record.blueBackground)};
+                            .green = base::StrictInt32(record.greenBackground),
+                            .blue = base::StrictInt32(record.blueBackground)};
   return std::make_shared<base::Bitmap>(ComposeGradient(services_.screen.primarySize(), color));
 }
 

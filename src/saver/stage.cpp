@@ -69,6 +69,7 @@ void Stage::flush() {
   const std::vector<base::PixelRect> areas = std::exchange(dirty_, {});
   for (const base::PixelRect& area : areas) compose(area);
   for (const base::PixelRect& area : areas) present(area);
+  if (std::exchange(placesChanged_, false) && onPlacesChanged) onPlacesChanged();
 }
 
 void Stage::present(const base::PixelRect& area) {
@@ -126,6 +127,7 @@ Stage::TextLayer* Stage::textLayerOf(const forms::Control& control) {
 
 void Stage::controlChanged(forms::Control& control, forms::Change change) {
   if (!form_) return;
+  if (change == forms::Change::Place || change == forms::Change::Visible) placesChanged_ = true;
   if (&control == background_) {
     const forms::SharedPicture& picture = background_->picture();
     backgroundPixels_ = picture ? picture->drawnAt(picture->size()) : nullptr;

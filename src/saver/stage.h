@@ -1,6 +1,7 @@
 // Composes the show: background, picture, caption and clock into the window's back buffer.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -38,6 +39,9 @@ class Stage : public forms::FormHost {
   // The topmost visible control of the show at a place, or null over the bare background.
   forms::Control* controlAt(base::PixelPoint place) const;
 
+  // A control of the show has come to another place, appeared or gone; called by the flush() that shows it.
+  std::function<void()> onPlacesChanged;
+
   // Pixels put on the screen so far.
   long long presentedPixels() const { return presentedPixels_; }
 
@@ -69,6 +73,7 @@ class Stage : public forms::FormHost {
   base::SharedBitmap assigned_;         // the picture box's assigned picture, as far as it shows
   base::PixelRect pictureWas_;          // where the picture box was composed last; empty while hidden
   std::vector<base::PixelRect> dirty_;  // areas of the window to compose anew
+  bool placesChanged_ = false;
   long long presentedPixels_ = 0;
 };
 

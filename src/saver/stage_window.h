@@ -1,6 +1,7 @@
 // The show's window, as the show needs it: a back buffer, a way to the screen, input.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 
 #include "base/bitmap.h"
@@ -18,6 +19,9 @@ class StageWindow {
 
   // Shows the window again where it stands, with the keyboard's focus.
   virtual void activate() = 0;
+
+  // The window as the system knows it.
+  virtual std::intptr_t handle() const = 0;
 
   // Takes the window from the screen for good.
   virtual void close() = 0;

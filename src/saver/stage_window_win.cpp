@@ -28,11 +28,8 @@ StageWindowWin::StageWindowWin(HINSTANCE instance, Guard guard) : guard_(std::mo
 StageWindowWin::~StageWindowWin() { close(); }
 
 void StageWindowWin::cover(base::PixelRect area) {
-  if (!(area.size() == size_)) {
-    back_ = os::Dib(area.size());
-    size_ = back_.dc() ? area.size() : base::PixelSize{};
-    base::FillRect(back_.view(), base::PixelRect::ofSize(size_), base::OpaquePixel(base::kBlack));
-  }
+  if (!(area.size() == size_)) back_.reset();
+  size_ = area.size();
   SetWindowPos(window_.get(), HWND_TOP, area.left, area.top, area.width, area.height,
                SWP_NOACTIVATE | SWP_SHOWWINDOW);
 }
@@ -48,19 +45,29 @@ void StageWindowWin::close() {
   window_.reset();
 }
 
-base::BitmapView StageWindowWin::backBuffer() { return back_.view(); }
+base::BitmapView StageWindowWin::backBuffer() {
+  if (!back_) {
+    back_.emplace(size_);
+    base::FillRect(back_->view(), base::PixelRect::ofSize(size_), base::OpaquePixel(base::kBlack));
+  }
+  return back_->view();
+}
 
 void StageWindowWin::present(const base::PixelRect& area) {
-  if (!window_) return;
+  if (!window_ || !back_) return;
   const os::WindowDc dc(window_.get());
-  BitBlt(dc.get(), area.left, area.top, area.width, area.height, back_.dc(), area.left, area.top, SRCCOPY);
+  BitBlt(dc.get(), area.left, area.top, area.width, area.height, back_->dc(), area.left, area.top, SRCCOPY);
 }
 
 void StageWindowWin::paint() {
   const os::PaintDc dc(window_.get());
   const RECT& area = dc.area();
-  BitBlt(dc.get(), area.left, area.top, area.right - area.left, area.bottom - area.top, back_.dc(), area.left,
-         area.top, SRCCOPY);
+  if (!back_) {
+    FillRect(dc.get(), &area, static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
+    return;
+  }
+  BitBlt(dc.get(), area.left, area.top, area.right - area.left, area.bottom - area.top, back_->dc(),
+         area.left, area.top, SRCCOPY);
 }
 
 LRESULT CALLBACK StageWindowWin::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -70,10 +77,10 @@ LRESULT CALLBACK StageWindowWin::Procedure(HWND window, UINT message, WPARAM wPa
   }
   auto* self = reinterpret_cast<StageWindowWin*>(GetWindowLongPtrW(window, GWLP_USERDATA));
   if (!self || !self->window_) return DefWindowProcW(window, message, wParam, lParam);
-  return self->handle(message, wParam, lParam);
+  return self->receive(message, wParam, lParam);
 }
 
-LRESULT StageWindowWin::handle(UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT StageWindowWin::receive(UINT message, WPARAM wParam, LPARAM lParam) {
   const HWND window = window_.get();
   const auto raise = [this](const auto& event, auto... values) {
     if (event) guard_([&] { event(values...); });

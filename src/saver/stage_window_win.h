@@ -1,9 +1,10 @@
-// The show's full-screen window.
+// A full-screen window of the show. It is black until its back buffer is asked for.
 #pragma once
 
 #include <windows.h>
 
 #include <functional>
+#include <optional>
 
 #include "os/dib_win.h"
 #include "saver/stage_window.h"
@@ -19,22 +20,21 @@ class StageWindowWin : public StageWindow {
   StageWindowWin(HINSTANCE instance, Guard guard);
   ~StageWindowWin() override;
 
-  HWND handle() const { return window_.get(); }
-
   void cover(base::PixelRect area) override;
   void activate() override;
+  std::intptr_t handle() const override { return reinterpret_cast<std::intptr_t>(window_.get()); }
   void close() override;
   base::BitmapView backBuffer() override;
   void present(const base::PixelRect& area) override;
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-  LRESULT handle(UINT message, WPARAM wParam, LPARAM lParam);
+  LRESULT receive(UINT message, WPARAM wParam, LPARAM lParam);
   void paint();
 
   Guard guard_;
   os::OwnedWindow window_;
-  os::Dib back_;
+  std::optional<os::Dib> back_;
   base::PixelSize size_;
 };
 

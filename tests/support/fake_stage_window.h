@@ -18,6 +18,7 @@ class FakeStageWindow : public saver::StageWindow {
     if (!(area.size() == back_.size())) resize(area.size());
   }
   void activate() override { calls.push_back("activate"); }
+  std::intptr_t handle() const override { return 4711; }
   void close() override {
     calls.push_back("close");
     closed = true;

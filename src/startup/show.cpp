@@ -1,0 +1,111 @@
+#include "startup/show.h"
+
+#include <utility>
+
+#include "base/number_text.h"
+#include "startup/cursor_rules.h"
+
+namespace startup {
+
+Show::Show(const saver::ShowServices& services, const SaverExit::Services& exit, SystemRestore& restore,
+           const os::SystemFacts& facts, const std::string& programFolder, WindowMaker makeWindow)
+    : services_(services),
+      restore_(restore),
+      facts_(facts),
+      makeWindow_(std::move(makeWindow)),
+      form_(services, facts, programFolder),
+      exit_(facts, exit,
+            {.window = [this] { return services_.window.handle(); },
+             .showFormAgain = [this] { services_.window.activate(); },
+             .unloadForm =
+                 [this] {
+                   form_.unload();
+                   services_.window.close();
+                   for (const auto& cover : covers_) cover->close();
+                 },
+             .endProgram = [this] { services_.loop.quit(); }}) {
+  services_.loop.setErrorHandler([this](const std::exception&) { endWithoutAsking(); });
+  services_.window.onSessionEnd = [this] { endWithoutAsking(); };
+}
+
+Show::~Show() {
+  services_.stage.onPlacesChanged = nullptr;
+  services_.loop.setErrorHandler(nullptr);
+}
+
+void Show::start() {
+  try {
+    form_.Form_Load();
+  } catch (const std::exception&) {
+    endWithoutAsking();
+    return;
+  }
+  watchInput();
+  coverOtherScreens();
+  services_.window.activate();
+}
+
+void Show::watchInput() {
+  const double threshold = base::StrictDouble(form_.settings().record.mouseSensitivity);
+  watch_.emplace(facts_, threshold,
+                 InputWatch::Actions{.showCursor = [this] { ShowCursor(restore_); },
+                                     .exitSaver = [this] { exit_.ExitSaver(); }});
+  saver::StageWindow& window = services_.window;
+  window.onKeyDown = [this](int) { watch_->Form_KeyDown(); };
+  window.onMouseDown = [this](base::PixelPoint) { watch_->Form_MouseDown(); };
+  window.onMouseMove = [this](base::PixelPoint place) { mouseMoved(place); };
+  window.onCloseRequest = [this] { exit_.ExitSaver(); };
+  services_.stage.onPlacesChanged = [this] {
+    watch_->controlsMoved([this](base::PixelPoint place) { return pointedControl(place); });
+  };
+}
+
+void Show::coverOtherScreens() {
+  if (form_.settings().record.otherScreens != "black") return;
+  for (const base::PixelRect& area : services_.screen.otherScreens()) {
+    std::unique_ptr<saver::StageWindow> cover = makeWindow_();
+    cover->onKeyDown = services_.window.onKeyDown;
+    cover->onMouseDown = services_.window.onMouseDown;
+    cover->onMouseMove = [this, area](base::PixelPoint place) {
+      mouseMoved({place.x + area.left, place.y + area.top});
+    };
+    cover->onCloseRequest = services_.window.onCloseRequest;
+    cover->onSessionEnd = services_.window.onSessionEnd;
+    cover->cover(area);
+    covers_.push_back(std::move(cover));
+  }
+}
+
+std::optional<PointedControl> Show::pointedControl(base::PixelPoint onScreen) const {
+  // A caption or a clock has no handler of its own: over them the form sees the pointer.
+  if (services_.stage.controlAt(onScreen) == &form_.DisplayingPicture) {
+    const base::PixelRect place = form_.DisplayingPicture.pixelRect();
+    return PointedControl{WatchedControl::DisplayingPicture, static_cast<float>(onScreen.x - place.left),
+                          static_cast<float>(onScreen.y - place.top)};
+  }
+  const auto perPixel = static_cast<float>(form_.twipsPerPixel());
+  const float x = static_cast<float>(onScreen.x) * perPixel;
+  const float y = static_cast<float>(onScreen.y) * perPixel;
+  return PointedControl{WatchedControl::Form, x,
+                        form_.scaleHeight == 0 ? y : y * form_.scaleHeight / form_.height};
+}
+
+void Show::mouseMoved(base::PixelPoint onScreen) {
+  const std::optional<PointedControl> pointed = pointedControl(onScreen);
+  const MouseMove move{pointed->x, pointed->y, onScreen, os::SecondsSinceMidnight(services_.clock.now())};
+  if (pointed->control == WatchedControl::DisplayingPicture) {
+    watch_->DisplayingPicture_MouseMove(move);
+  } else {
+    watch_->Form_MouseMove(move);
+  }
+}
+
+void Show::endWithoutAsking() {
+  restore_.restore();
+  form_.unload();
+  services_.window.close();
+  for (const auto& cover : covers_) cover->close();
+  services_.loop.quit();
+}
+
+}  // namespace startup

@@ -1,0 +1,50 @@
+// The show as the program runs it: Form1 in its window, with the user's input watched and every way out.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "saver/form1.h"
+#include "startup/exit_saver.h"
+#include "startup/input_watch.h"
+#include "startup/system_restore.h"
+
+namespace startup {
+
+class Show {
+ public:
+  // Makes a window for a further screen.
+  using WindowMaker = std::function<std::unique_ptr<saver::StageWindow>()>;
+
+  // `restore` must be among the seams of `exit` and of `services`, so that it knows what is to be put back.
+  Show(const saver::ShowServices& services, const SaverExit::Services& exit, SystemRestore& restore,
+       const os::SystemFacts& facts, const std::string& programFolder, WindowMaker makeWindow);
+  ~Show();
+
+  // Loads the form and shows it. The show then runs in the event loop until something ends it, which quits
+  // the loop.
+  void start();
+
+  saver::Form1& form() { return form_; }
+
+ private:
+  void watchInput();
+  void coverOtherScreens();
+  void mouseMoved(base::PixelPoint onScreen);
+  std::optional<PointedControl> pointedControl(base::PixelPoint onScreen) const;
+  void endWithoutAsking();
+
+  saver::ShowServices services_;
+  SystemRestore& restore_;
+  os::SystemFacts facts_;
+  WindowMaker makeWindow_;
+  saver::Form1 form_;
+  SaverExit exit_;
+  std::optional<InputWatch> watch_;
+  std::vector<std::unique_ptr<saver::StageWindow>> covers_;  // on the further screens
+};
+
+}  // namespace startup
