@@ -1,4 +1,0 @@
-#include "base/resample.h"
-namespace base {
-Bitmap Resample(const Bitmap& source, PixelSize) { return source; }
-}  // namespace base
