@@ -11,11 +11,11 @@ add_library(lumora_win STATIC ${windows_sources})
 target_link_libraries(lumora_win PUBLIC lumora_core ${system_libraries})
 
 add_executable(Lumora WIN32 src/startup/entry_win.cpp)
-file(GLOB resource_scripts CONFIGURE_DEPENDS src/startup/*.rc)
-if(resource_scripts)
-  enable_language(RC)
-  target_sources(Lumora PRIVATE ${resource_scripts})
-endif()
+enable_language(RC)
+configure_file(src/startup/lumora.rc.in ${CMAKE_BINARY_DIR}/lumora.rc @ONLY)
+target_sources(Lumora PRIVATE ${CMAKE_BINARY_DIR}/lumora.rc)
+set_source_files_properties(${CMAKE_BINARY_DIR}/lumora.rc PROPERTIES OBJECT_DEPENDS
+  "${CMAKE_SOURCE_DIR}/assets/lumora.ico;${CMAKE_SOURCE_DIR}/src/startup/lumora.manifest")
 set_target_properties(Lumora PROPERTIES SUFFIX ".scr")
 target_link_libraries(Lumora PRIVATE lumora_win)
 target_link_options(Lumora PRIVATE -municode -static -s -Wl,--gc-sections

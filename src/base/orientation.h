@@ -1,0 +1,31 @@
+// The eight ways in which a camera can have been held, and turning its pictures upright.
+#pragma once
+
+#include "base/bitmap.h"
+
+namespace base {
+
+// Numbered as in the Exif standard (tag 0x0112): where the upright picture's top-left corner is to be found.
+enum class Orientation {
+  upright = 1,
+  mirrored = 2,             // left and right exchanged
+  upsideDown = 3,           // turned by 180 degrees
+  mirroredUpsideDown = 4,   // top and bottom exchanged
+  mirroredTurnedLeft = 5,   // rows are columns: mirrored at the main diagonal
+  turnedLeft = 6,           // to be turned right by 90 degrees
+  mirroredTurnedRight = 7,  // mirrored at the other diagonal
+  turnedRight = 8,          // to be turned left by 90 degrees
+};
+
+// True for the four in which width and height change places.
+constexpr bool SwapsSides(Orientation orientation) { return orientation >= Orientation::mirroredTurnedLeft; }
+
+// The size of the upright picture, from the stored one; and the other way round, for the two are the same.
+constexpr PixelSize UprightSize(PixelSize stored, Orientation orientation) {
+  return SwapsSides(orientation) ? PixelSize{stored.height, stored.width} : stored;
+}
+
+// The stored picture turned upright. Cheap after shrinking, so shrink first.
+Bitmap TurnUpright(Bitmap stored, Orientation orientation);
+
+}  // namespace base

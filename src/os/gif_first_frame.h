@@ -1,0 +1,50 @@
+// The first picture of a GIF file (GIF87a, GIF89a), composed on its screen as the file says.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "base/bitmap.h"
+#include "base/geometry.h"
+
+namespace os {
+
+bool BeginsLikeGif(std::string_view head);
+
+// The size of the picture: the file's logical screen, made larger where the first frame leaves it. Nothing
+// when the first frame is not described within these bytes.
+std::optional<base::PixelSize> ReadGifSize(std::string_view head);
+
+// The bytes from which a first frame on such a screen can be decoded whole: colour indices with a code each,
+// and as many clear codes between them, take less than three bytes a pixel.
+std::size_t GifBytesNeeded(base::PixelSize screen, std::size_t headBytes);
+
+// Holds one byte for each pixel that the file really gave.
+class GifFirstFrame {
+ public:
+  // The rows that could be decoded are kept where the data breaks off or turns bad. Nothing when there are
+  // none, or when the frame is larger than any picture may be.
+  static std::optional<GifFirstFrame> decode(std::string_view file);
+
+  base::PixelSize size() const { return size_; }
+
+  // False when every pixel is opaque for certain.
+  bool mayBeTransparent() const;
+
+  // One row of the screen; straight alpha, 0 or 255. What the frame does not cover is transparent: the
+  // background index of the header is left alone, as viewers do.
+  void row(int y, base::Pixel* pixels) const;
+
+ private:
+  base::PixelSize size_;
+  base::PixelRect frame_;
+  bool interlaced_ = false;
+  std::array<base::Pixel, 256> palette_{};
+  bool hasTransparentIndex_ = false;
+  std::vector<std::uint8_t> indices_;  // of the frame, row after row as the file has them
+};
+
+}  // namespace os

@@ -1,0 +1,34 @@
+// Walks the marker segments at the head of a JPEG file (ITU-T T.81, annex B).
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+#include "os/byte_reader.h"
+
+namespace os {
+
+struct JpegSegment {
+  std::uint8_t marker = 0;   // the byte after 0xFF
+  std::string_view content;  // after the length; cut short where the bytes end
+};
+
+class JpegSegments {
+ public:
+  // The bytes of the file's beginning, as many as have been read.
+  explicit JpegSegments(std::string_view head) : bytes_(head, ByteOrder::bigEndian) {}
+
+  // The next segment; nothing at the start of the image data, at the end of the bytes, or at something that
+  // is no marker.
+  std::optional<JpegSegment> next();
+
+ private:
+  ByteReader bytes_;
+  std::size_t at_ = 2;  // after the start-of-image marker
+};
+
+// True when the bytes begin as a JPEG file does.
+bool BeginsLikeJpeg(std::string_view head);
+
+}  // namespace os

@@ -1,0 +1,69 @@
+#include "os/picture_header.h"
+
+#include <cstdint>
+#include <limits>
+
+#include "os/byte_reader.h"
+#include "os/gif_first_frame.h"
+#include "os/jpeg_segments.h"
+
+namespace os {
+
+namespace {
+
+constexpr std::string_view kPngSignature("\x89PNG\r\n\x1A\n", 8);
+
+// Sides are 31-bit numbers in the widest of these formats, and none may be 0.
+std::optional<base::PixelSize> Sides(std::optional<std::uint32_t> width,
+                                     std::optional<std::uint32_t> height) {
+  constexpr std::uint32_t kMost = std::numeric_limits<std::int32_t>::max();
+  if (!width || !height || *width == 0 || *height == 0 || *width > kMost || *height > kMost)
+    return std::nullopt;
+  return base::PixelSize{static_cast<int>(*width), static_cast<int>(*height)};
+}
+
+// A height below 0 says that the top row comes first.
+std::optional<base::PixelSize> BitmapSize(std::string_view head) {
+  const ByteReader bytes(head, ByteOrder::littleEndian);
+  constexpr std::size_t kInfo = 14;
+  const auto infoSize = bytes.u32(kInfo);
+  if (!infoSize) return std::nullopt;
+  if (*infoSize == 12) return Sides(bytes.u16(kInfo + 4), bytes.u16(kInfo + 6));
+  if (*infoSize < 16) return std::nullopt;
+  auto height = bytes.u32(kInfo + 8);
+  if (height && *height > 0x80000000U) height = 0U - *height;
+  return Sides(bytes.u32(kInfo + 4), height);
+}
+
+// Every start-of-frame marker: C0 to CF but for the tables among them.
+bool IsStartOfFrame(std::uint8_t marker) {
+  return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
+}
+
+std::optional<base::PixelSize> JpegSize(std::string_view head) {
+  JpegSegments segments(head);
+  while (const auto segment = segments.next()) {
+    if (!IsStartOfFrame(segment->marker)) continue;
+    const ByteReader frame(segment->content, ByteOrder::bigEndian);
+    return Sides(frame.u16(3), frame.u16(1));
+  }
+  return std::nullopt;
+}
+
+std::optional<base::PixelSize> PngSize(std::string_view head) {
+  const ByteReader bytes(head, ByteOrder::bigEndian);
+  if (bytes.part(12, 4) != "IHDR") return std::nullopt;
+  return Sides(bytes.u32(16), bytes.u32(20));
+}
+
+}  // namespace
+
+std::optional<PictureHeader> ReadPictureHeader(std::string_view head) {
+  if (head.starts_with("BM")) return PictureHeader{PictureKind::bitmap, BitmapSize(head)};
+  if (BeginsLikeGif(head)) return PictureHeader{PictureKind::gif, ReadGifSize(head)};
+  if (BeginsLikeJpeg(head)) return PictureHeader{PictureKind::jpeg, JpegSize(head)};
+  if (head.starts_with(kPngSignature)) return PictureHeader{PictureKind::png, PngSize(head)};
+  return std::nullopt;
+}
+
+}  // namespace os

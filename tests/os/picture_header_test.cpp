@@ -1,0 +1,88 @@
+#include "os/picture_header.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "support/gif_builder.h"
+#include "support/jpeg_builder.h"
+
+namespace os {
+namespace {
+
+std::string BitmapHead(const std::string& info) { return "BM" + std::string(12, '\0') + info; }
+
+TEST(PictureHeader, ABitmapTellsItsSize) {
+  const auto header = ReadPictureHeader(BitmapHead(std::string("\x28\0\0\0\x80\2\0\0\xE0\1\0\0", 12)));
+  ASSERT_TRUE(header);
+  EXPECT_EQ(header->kind, PictureKind::bitmap);
+  EXPECT_EQ(header->size, (base::PixelSize{640, 480}));
+}
+
+TEST(PictureHeader, ABitmapWithItsTopRowFirstHasANegativeHeight) {
+  const auto header = ReadPictureHeader(BitmapHead(std::string("\x28\0\0\0\x80\2\0\0\x20\xFE\xFF\xFF", 12)));
+  EXPECT_EQ(header->size, (base::PixelSize{640, 480}));
+}
+
+TEST(PictureHeader, TheOldestBitmapsHaveSixteenBitSizes) {
+  const auto header = ReadPictureHeader(BitmapHead(std::string("\x0C\0\0\0\x40\1\xC8\0", 8)));
+  EXPECT_EQ(header->size, (base::PixelSize{320, 200}));
+}
+
+TEST(PictureHeader, ABitmapWithoutASizeHasNone) {
+  for (const std::string& info :
+       {std::string("\x28\0\0\0\0\0\0\0\xE0\1\0\0", 12), std::string("\x28\0\0\0\x80\2\0\0\0\0\0\x80", 12),
+        std::string("\x28\0\0\0\0\0\0\x80\xE0\1\0\0", 12), std::string("\x28\0\0", 3), std::string()}) {
+    const auto header = ReadPictureHeader(BitmapHead(info));
+    ASSERT_TRUE(header);
+    EXPECT_FALSE(header->size);
+  }
+}
+
+TEST(PictureHeader, AJpegTellsItsSizeBehindOtherSegments) {
+  const auto header = ReadPictureHeader(support::JpegHead(
+      support::ExifSegment(6, true) + support::JpegSegmentBytes(0xC4, "tables"), {4000, 3000}));
+  ASSERT_TRUE(header);
+  EXPECT_EQ(header->kind, PictureKind::jpeg);
+  EXPECT_EQ(header->size, (base::PixelSize{4000, 3000}));
+}
+
+TEST(PictureHeader, AJpegCutShortBeforeItsFrameHasNoSizeYet) {
+  const std::string whole =
+      support::JpegHead(support::JpegSegmentBytes(0xE2, std::string(5000, 'p')), {64, 48});
+  for (const std::size_t length : {std::size_t{3}, std::size_t{1000}, whole.size() - 12}) {
+    const auto header = ReadPictureHeader(whole.substr(0, length));
+    ASSERT_TRUE(header) << length;
+    EXPECT_FALSE(header->size) << length;
+  }
+}
+
+TEST(PictureHeader, APngTellsItsSize) {
+  const std::string png("\x89PNG\r\n\x1A\n\0\0\0\x0DIHDR\0\0\4\0\0\0\3\0", 24);
+  const auto header = ReadPictureHeader(png);
+  ASSERT_TRUE(header);
+  EXPECT_EQ(header->kind, PictureKind::png);
+  EXPECT_EQ(header->size, (base::PixelSize{1024, 768}));
+  EXPECT_FALSE(ReadPictureHeader(png.substr(0, 23))->size);
+}
+
+TEST(PictureHeader, AGifTellsItsSize) {
+  support::GifBuilder gif;
+  gif.screen = {320, 200};
+  gif.frame = {10, 10, 20, 20};
+  const auto header = ReadPictureHeader(gif.file());
+  ASSERT_TRUE(header);
+  EXPECT_EQ(header->kind, PictureKind::gif);
+  EXPECT_EQ(header->size, (base::PixelSize{320, 200}));
+}
+
+TEST(PictureHeader, EverythingElseIsNoPicture) {
+  for (const std::string& bytes :
+       {std::string(), std::string("B"), std::string("GIF88a"), std::string("\xFF\xD8"),
+        std::string("PK\3\4"), std::string("<svg/>"), std::string(100, '\0')}) {
+    EXPECT_FALSE(ReadPictureHeader(bytes));
+  }
+}
+
+}  // namespace
+}  // namespace os

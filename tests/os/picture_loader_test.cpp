@@ -1,0 +1,287 @@
+#include "os/picture_loader.h"
+
+#include <gtest/gtest.h>
+
+#include <numeric>
+
+#include "base/resample.h"
+#include "support/fake_picture_decoder.h"
+#include "support/gif_builder.h"
+#include "support/jpeg_builder.h"
+
+namespace os {
+namespace {
+
+using Read = support::FakeStoredPicture::Read;
+
+base::Bitmap Gradient(base::PixelSize size) {
+  base::Bitmap picture(size);
+  for (int y = 0; y < size.height; ++y) {
+    for (int x = 0; x < size.width; ++x) {
+      picture.row(y)[x] = base::OpaquePixel(base::Rgb(x * 255 / size.width, y * 255 / size.height, 77));
+    }
+  }
+  picture.setOpaque(true);
+  return picture;
+}
+
+class PictureLoader : public testing::Test {
+ protected:
+  // A JPEG file with these pixels, turned by an orientation when that is not 0.
+  support::FakeStoredPicture& addJpeg(const std::string& path, base::Bitmap pixels, int orientation = 0) {
+    const std::string segments = orientation == 0 ? "" : support::ExifSegment(orientation, true);
+    heads.content[path] = support::JpegHead(segments, pixels.size());
+    decoder.pictures[path].pixels = std::move(pixels);
+    return decoder.pictures[path];
+  }
+
+  support::FakeFileHead heads;
+  support::FakePictureDecoder decoder;
+  FilePictureLoader loader{heads, decoder};
+};
+
+TEST_F(PictureLoader, APictureAtItsOwnSizeIsThePicture) {
+  addJpeg("a.jpg", Gradient({40, 30}));
+  const auto picture = loader.open("a.jpg");
+  ASSERT_TRUE(picture);
+  EXPECT_EQ(picture->size(), (base::PixelSize{40, 30}));
+  const auto drawn = picture->draw({40, 30});
+  EXPECT_EQ(drawn, Gradient({40, 30}));
+  EXPECT_TRUE(drawn->isOpaque());
+}
+
+TEST_F(PictureLoader, ASmallerDrawingIsTheAverageOverArea) {
+  addJpeg("a.jpg", Gradient({401, 307}));
+  EXPECT_EQ(loader.open("a.jpg")->draw({100, 77}), base::Resample(Gradient({401, 307}), {100, 77}));
+}
+
+TEST_F(PictureLoader, ALargerDrawingIsEnlarged) {
+  addJpeg("a.jpg", Gradient({4, 3}));
+  const auto drawn = loader.open("a.jpg")->draw({13, 11});
+  EXPECT_EQ(drawn, base::Resample(Gradient({4, 3}), {13, 11}));
+  EXPECT_TRUE(drawn->isOpaque());
+}
+
+TEST_F(PictureLoader, RowsAreReadInBandsFromTheTopDown) {
+  auto& stored = addJpeg("a.jpg", Gradient({2000, 100}));
+  ASSERT_TRUE(loader.open("a.jpg")->draw({50, 30}));
+  EXPECT_EQ(stored.reads, (std::vector<Read>{{1, 0, 32}, {1, 32, 32}, {1, 64, 32}, {1, 96, 4}}));
+}
+
+TEST_F(PictureLoader, TheDecoderReducesAsFarAsThePictureStaysLargeEnough) {
+  const auto reductionFor = [this](base::PixelSize drawn) {
+    auto& stored = addJpeg("a.jpg", Gradient({800, 600}));
+    stored.reductions = {1, 2, 4, 8};
+    stored.reads.clear();
+    EXPECT_TRUE(loader.open("a.jpg")->draw(drawn));
+    return stored.reads.front().reduction;
+  };
+  EXPECT_EQ(reductionFor({800, 600}), 1);
+  EXPECT_EQ(reductionFor({401, 300}), 1);
+  EXPECT_EQ(reductionFor({400, 300}), 2);
+  EXPECT_EQ(reductionFor({200, 151}), 2);
+  EXPECT_EQ(reductionFor({200, 150}), 4);
+  EXPECT_EQ(reductionFor({30, 20}), 8);
+  EXPECT_EQ(reductionFor({1600, 20}), 1);
+}
+
+TEST_F(PictureLoader, AReductionThatFailsIsDoneWithout) {
+  auto& stored = addJpeg("a.jpg", Gradient({80, 60}));
+  stored.reductions = {1, 2, 4};
+  stored.brokenReductions = {4};
+  EXPECT_EQ(loader.open("a.jpg")->draw({20, 15}), base::Resample(Gradient({80, 60}), {20, 15}));
+  EXPECT_EQ(stored.reads, (std::vector<Read>{{4, 0, 15}, {1, 0, 60}}));
+}
+
+TEST_F(PictureLoader, ATurnedPictureIsShrunkBeforeItIsTurned) {
+  auto& stored = addJpeg("a.jpg", Gradient({400, 300}), 6);
+  stored.reductions = {1, 2, 4};
+  const auto picture = loader.open("a.jpg");
+  EXPECT_EQ(picture->size(), (base::PixelSize{300, 400}));
+  const auto drawn = picture->draw({75, 100});
+  ASSERT_TRUE(drawn);
+  EXPECT_EQ(drawn->size(), (base::PixelSize{75, 100}));
+  EXPECT_EQ(stored.reads.front().reduction, 4);
+  const base::Bitmap stillLying = base::Resample(Gradient({400, 300}), {100, 75});
+  for (int y = 0; y < 100; ++y) {
+    for (int x = 0; x < 75; ++x) ASSERT_EQ(drawn->at(x, y), stillLying.at(y, 74 - x));
+  }
+  EXPECT_TRUE(drawn->isOpaque());
+}
+
+TEST_F(PictureLoader, EveryOrientationPutsTheStoredCornerInItsPlace) {
+  const base::PixelPoint corners[] = {{0, 0}, {3, 0}, {3, 2}, {0, 2}, {0, 0}, {2, 0}, {2, 3}, {0, 3}};
+  for (int orientation = 1; orientation <= 8; ++orientation) {
+    base::Bitmap stored({4, 3}, 0xFF000000U);
+    stored.row(0)[0] = 0xFFFFFFFFU;
+    addJpeg("a.jpg", stored, orientation);
+    const auto picture = loader.open("a.jpg");
+    const auto drawn = picture->draw(picture->size());
+    const base::PixelPoint corner = corners[orientation - 1];
+    EXPECT_EQ(drawn->at(corner.x, corner.y), 0xFFFFFFFFU) << orientation;
+  }
+}
+
+TEST_F(PictureLoader, TransparentPixelsAreMultipliedBeforeTheyAreAveraged) {
+  base::Bitmap pixels(base::PixelSize{2, 1});
+  pixels.row(0)[0] = 0xFFFF0000U;
+  pixels.row(0)[1] = 0x0000FF00U;  // a green that nobody can see
+  auto& stored = addJpeg("a.jpg", pixels);
+  stored.hasAlpha = true;
+  const auto drawn = loader.open("a.jpg")->draw({1, 1});
+  EXPECT_EQ(drawn->at(0, 0), 0x80800000U);
+  EXPECT_FALSE(drawn->isOpaque());
+}
+
+TEST_F(PictureLoader, APictureThatCouldBeTransparentAndIsNotIsMarkedOpaque) {
+  auto& stored = addJpeg("a.jpg", Gradient({5, 5}));
+  stored.hasAlpha = true;
+  EXPECT_TRUE(loader.open("a.jpg")->draw({5, 5})->isOpaque());
+}
+
+TEST_F(PictureLoader, TheAlphaOfAnOpaquePictureMeansNothing) {
+  base::Bitmap pixels(base::PixelSize{1, 1});
+  pixels.row(0)[0] = 0x00112233U;
+  addJpeg("a.jpg", pixels);
+  EXPECT_EQ(loader.open("a.jpg")->draw({1, 1})->at(0, 0), 0xFF112233U);
+}
+
+TEST_F(PictureLoader, APictureBrokenHalfWayDrawsNothing) {
+  addJpeg("a.jpg", Gradient({2000, 100})).brokenFromRow = 50;
+  const auto picture = loader.open("a.jpg");
+  ASSERT_TRUE(picture);
+  EXPECT_EQ(picture->size(), (base::PixelSize{2000, 100}));
+  EXPECT_FALSE(picture->draw({50, 30}));
+  EXPECT_FALSE(picture->draw({50, 30}));
+}
+
+TEST_F(PictureLoader, NothingIsKeptOpenAfterADrawing) {
+  addJpeg("a.jpg", Gradient({20, 20}));
+  const auto picture = loader.open("a.jpg");
+  EXPECT_TRUE(picture->draw({10, 10}));
+  EXPECT_EQ(decoder.openSources, 0);
+  EXPECT_EQ(decoder.opened.size(), 1U);
+  EXPECT_TRUE(picture->draw({20, 10}));
+  EXPECT_EQ(decoder.openSources, 0);
+  EXPECT_EQ(decoder.opened.size(), 2U);
+}
+
+TEST_F(PictureLoader, AFileThatHasBecomeAnotherPictureDrawsNothing) {
+  addJpeg("a.jpg", Gradient({20, 20}));
+  const auto picture = loader.open("a.jpg");
+  EXPECT_TRUE(picture->draw({10, 10}));
+  addJpeg("a.jpg", Gradient({30, 20}));
+  EXPECT_FALSE(picture->draw({10, 10}));
+  heads.content.clear();
+  EXPECT_FALSE(picture->draw({10, 10}));
+}
+
+TEST_F(PictureLoader, WhatIsNoPictureIsNull) {
+  EXPECT_FALSE(loader.open(""));
+  EXPECT_FALSE(loader.open("missing.jpg"));
+  heads.content["empty.jpg"] = "";
+  EXPECT_FALSE(loader.open("empty.jpg"));
+  heads.content["text.jpg"] = "no picture at all";
+  EXPECT_FALSE(loader.open("text.jpg"));
+  EXPECT_TRUE(decoder.opened.empty());
+}
+
+TEST_F(PictureLoader, APictureThatTheDecoderRefusesIsNull) {
+  heads.content["a.jpg"] = support::JpegHead("", {4, 3});
+  EXPECT_FALSE(loader.open("a.jpg"));
+  EXPECT_EQ(decoder.opened.size(), 1U);
+}
+
+TEST_F(PictureLoader, HugeClaimsAreRefusedBeforeTheDecoderSeesThem) {
+  const auto png = [](const char* size) {
+    return std::string("\x89PNG\r\n\x1A\n\0\0\0\x0DIHDR", 16) + std::string(size, 8);
+  };
+  heads.content["a.jpg"] = support::JpegHead("", {65535, 65535});
+  heads.content["b.png"] = png("\0\0\xFF\xFF\0\0\xFF\xFF");
+  heads.content["c.png"] = png("\0\1\0\0\0\0\0\1");  // 65,536 x 1
+  heads.content["d.png"] = png("\x7F\xFF\xFF\xFF\x7F\xFF\xFF\xFF");
+  support::GifBuilder gif;
+  gif.screen = {65535, 65535};
+  gif.frame = {0, 0, 1, 1};
+  gif.indices = {0};
+  heads.content["e.gif"] = gif.file();
+  for (const auto& [path, bytes] : heads.content) EXPECT_FALSE(loader.open(path)) << path;
+  EXPECT_TRUE(decoder.opened.empty());
+}
+
+TEST_F(PictureLoader, ADrawingOfMoreThanTheBoundIsRefused) {
+  auto& stored = addJpeg("a.jpg", Gradient({4, 3}));
+  const auto picture = loader.open("a.jpg");
+  EXPECT_FALSE(picture->draw({1 << 14, (1 << 13) + 1}));
+  EXPECT_FALSE(picture->draw({2000000000, 2000000000}));
+  EXPECT_TRUE(stored.reads.empty());
+}
+
+TEST_F(PictureLoader, ADrawingWithoutAreaIsEmpty) {
+  addJpeg("a.jpg", Gradient({4, 3}));
+  const auto drawn = loader.open("a.jpg")->draw({0, 7});
+  ASSERT_TRUE(drawn);
+  EXPECT_TRUE(drawn->isEmpty());
+}
+
+TEST_F(PictureLoader, ASizeFarInsideTheFileIsFoundByALongerLook) {
+  std::string profiles;
+  for (int i = 0; i < 10; ++i) profiles += support::JpegSegmentBytes(0xE2, std::string(60000, 'p'));
+  addJpeg("a.jpg", Gradient({8, 6}));
+  heads.content["a.jpg"] = support::JpegHead(profiles, {8, 6});
+  ASSERT_TRUE(loader.open("a.jpg"));
+  EXPECT_EQ(heads.limits, (std::vector<std::size_t>{256 << 10, 16 << 20}));
+}
+
+support::GifBuilder SmallGif() {
+  support::GifBuilder gif;
+  gif.screen = {3, 2};
+  gif.frame = {0, 0, 2, 2};
+  gif.globalColors = std::string("\xFF\0\0\0\xFF\0", 6);
+  gif.indices = {0, 1, 1, 0};
+  return gif;
+}
+
+TEST_F(PictureLoader, TheKindIsDecidedByContentWhateverTheNameSays) {
+  heads.content["photo.jpg"] = SmallGif().file();
+  const auto picture = loader.open("photo.jpg");
+  ASSERT_TRUE(picture);
+  EXPECT_EQ(picture->size(), (base::PixelSize{3, 2}));
+  EXPECT_TRUE(decoder.opened.empty());
+}
+
+TEST_F(PictureLoader, AGifIsComposedOnItsScreen) {
+  heads.content["a.gif"] = SmallGif().file();
+  const auto picture = loader.open("a.gif");
+  for (int round = 0; round < 2; ++round) {
+    const auto drawn = picture->draw({3, 2});
+    ASSERT_TRUE(drawn);
+    EXPECT_EQ(drawn->at(0, 0), 0xFFFF0000U);
+    EXPECT_EQ(drawn->at(1, 0), 0xFF00FF00U);
+    EXPECT_EQ(drawn->at(2, 0), 0U);
+    EXPECT_FALSE(drawn->isOpaque());
+  }
+}
+
+TEST_F(PictureLoader, AGifLargerThanItsHeadIsReadAsFarAsItsFrameMayNeed) {
+  support::GifBuilder gif;
+  gif.screen = {700, 600};
+  gif.frame = {0, 0, 700, 600};
+  gif.indices.resize(700 * 600);
+  std::iota(gif.indices.begin(), gif.indices.end(), std::uint8_t{0});
+  heads.content["a.gif"] = gif.file() + std::string(5 << 20, 'x');  // further frames
+  const auto drawn = loader.open("a.gif")->draw({700, 600});
+  ASSERT_TRUE(drawn);
+  EXPECT_TRUE(drawn->isOpaque());
+  const base::Pixel last = (700 * 600 - 1) % 256;
+  EXPECT_EQ(drawn->at(699, 599) & 0xFF, last);
+  EXPECT_EQ(heads.limits.back(), (256U << 10) + 3U * 700 * 600);
+}
+
+TEST_F(PictureLoader, AGifWithoutOnePixelIsNull) {
+  heads.content["a.gif"] = SmallGif().beforeData();
+  EXPECT_FALSE(loader.open("a.gif"));
+}
+
+}  // namespace
+}  // namespace os
