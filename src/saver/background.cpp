@@ -19,15 +19,14 @@ std::optional<Kind> Numbered(double number, Kind last) {
 }
 
 base::Pixel BandPixel(const GradientColor& top, int band) {
-  const auto component = [band](int value) { return std::clamp(value - band, 0, 255); };
-  return base::OpaquePixel(base::Rgb(component(std::min(top.red, 255)), component(std::min(top.green, 255)),
-                                     component(std::min(top.blue, 255))));
+  const auto component = [band](int value) { return std::max(std::clamp(value, 0, 255) - band, 0); };
+  return base::OpaquePixel(base::Rgb(component(top.red), component(top.green), component(top.blue)));
 }
 
 // Pixels before an image of `length` in the middle of `room`.
 int Margin(int room, int length, int twipsPerPixel) {
   const double difference = (static_cast<double>(room) - length) * twipsPerPixel;
-  return base::TwipsToPixels(base::WholeDivide(difference, 2), twipsPerPixel);
+  return base::PixelAtTwips(base::WholeDivide(difference, 2), twipsPerPixel);
 }
 
 }  // namespace

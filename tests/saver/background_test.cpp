@@ -1,0 +1,148 @@
+#include "saver/background.h"
+
+#include <gtest/gtest.h>
+
+#include "support/fake_pictures.h"
+
+namespace saver {
+namespace {
+
+using base::Bitmap;
+using base::OpaquePixel;
+using base::Pixel;
+using base::Rgb;
+
+constexpr Pixel kGround = 0xFF102030;
+
+// Every pixel tells where it stood in the image.
+Bitmap Numbered(base::PixelSize size) {
+  Bitmap bitmap(size);
+  for (int y = 0; y < size.height; ++y) {
+    for (int x = 0; x < size.width; ++x) bitmap.row(y)[x] = 0xFF000000U | static_cast<Pixel>(x * 256 + y);
+  }
+  bitmap.setOpaque(true);
+  return bitmap;
+}
+
+Bitmap Composed(base::PixelSize image, ImageLayout layout, base::PixelSize screen, int twipsPerPixel = 15) {
+  const auto picture = forms::MakePicture(std::make_shared<Bitmap>(Numbered(image)));
+  return ComposeImage(*picture, layout, screen, twipsPerPixel, kGround).value();
+}
+
+TEST(BackgroundKinds, AreNumberedFromZeroToThree) {
+  EXPECT_EQ(BackgroundKindNumbered(0), BackgroundKind::SolidColor);
+  EXPECT_EQ(BackgroundKindNumbered(1), BackgroundKind::Desktop);
+  EXPECT_EQ(BackgroundKindNumbered(2), BackgroundKind::CustomImage);
+  EXPECT_EQ(BackgroundKindNumbered(3), BackgroundKind::Gradient);
+  for (const double other : {-1.0, 4.0, 0.5}) EXPECT_EQ(BackgroundKindNumbered(other), std::nullopt);
+}
+
+TEST(ImageLayouts, AreNumberedFromZeroToTwo) {
+  EXPECT_EQ(ImageLayoutNumbered(0), ImageLayout::Centered);
+  EXPECT_EQ(ImageLayoutNumbered(1), ImageLayout::Stretched);
+  EXPECT_EQ(ImageLayoutNumbered(2), ImageLayout::Tiled);
+  EXPECT_EQ(ImageLayoutNumbered(3), std::nullopt);
+}
+
+TEST(Gradient, RunsFromTheColourAtTheTopToBlack) {
+  const Bitmap gradient = ComposeGradient({4, 768}, {255, 0, 0});
+  EXPECT_EQ(gradient.at(0, 0), OpaquePixel(Rgb(255, 0, 0)));
+  EXPECT_EQ(gradient.at(3, 767), OpaquePixel(base::kBlack));
+  EXPECT_TRUE(gradient.isOpaque());
+}
+
+TEST(Gradient, WithoutColourIsBlackAllOver) {
+  EXPECT_EQ(ComposeGradient({7, 300}, {0, 0, 0}), Bitmap({7, 300}, OpaquePixel(base::kBlack)));
+}
+
+TEST(Gradient, StopsEachComponentAtZeroByItself) {
+  const Bitmap gradient = ComposeGradient({1, 256}, {100, 200, 10});
+  EXPECT_EQ(gradient.at(0, 10), OpaquePixel(Rgb(90, 190, 0)));
+  EXPECT_EQ(gradient.at(0, 50), OpaquePixel(Rgb(50, 150, 0)));
+  EXPECT_EQ(gradient.at(0, 150), OpaquePixel(Rgb(0, 50, 0)));
+  EXPECT_EQ(gradient.at(0, 200), OpaquePixel(base::kBlack));
+}
+
+TEST(Gradient, GivesEveryBandItsRowsWithoutAGap) {
+  for (const int height : {256, 600, 768, 1080, 1440, 2160}) {
+    EXPECT_EQ(GradientBandOfRow(0, height), 0);
+    EXPECT_EQ(GradientBandOfRow(height - 1, height), 255);
+    std::vector<int> rows(256, 0);
+    for (int row = 0; row < height; ++row) ++rows[static_cast<std::size_t>(GradientBandOfRow(row, height))];
+    for (const int count : rows) {
+      EXPECT_GE(count, height / 256);
+      EXPECT_LE(count, height / 256 + 1);
+    }
+  }
+}
+
+TEST(Gradient, OfALowScreenStillBeginsWithTheFullColour) {
+  EXPECT_EQ(ComposeGradient({1, 1}, {255, 255, 255}).at(0, 0), OpaquePixel(base::kWhite));
+  EXPECT_EQ(GradientBandOfRow(1, 2), 128);
+}
+
+TEST(Gradient, CutsComponentsToTheirRange) {
+  EXPECT_EQ(ComposeGradient({1, 256}, {300, -2147483647 - 1, 0}).at(0, 1), OpaquePixel(Rgb(254, 0, 0)));
+}
+
+TEST(CenteredImage, StandsInTheMiddleAtItsOwnSize) {
+  const Bitmap composed = Composed({4, 2}, ImageLayout::Centered, {10, 8});
+  EXPECT_EQ(composed.size(), (base::PixelSize{10, 8}));
+  EXPECT_EQ(composed.at(3, 3), 0xFF000000U);
+  EXPECT_EQ(composed.at(6, 4), 0xFF000301U);
+  EXPECT_EQ(composed.at(2, 3), kGround);
+  EXPECT_EQ(composed.at(7, 4), kGround);
+  EXPECT_EQ(composed.at(3, 2), kGround);
+  EXPECT_EQ(composed.at(3, 5), kGround);
+}
+
+TEST(CenteredImage, WithAnOddMarginStandsInThePixelInWhichItsHalfLies) {
+  const Bitmap composed = Composed({5, 5}, ImageLayout::Centered, {10, 10});  // half of 75 twips is 37
+  EXPECT_EQ(composed.at(2, 2), 0xFF000000U);
+  EXPECT_EQ(composed.at(1, 2), kGround);
+}
+
+TEST(CenteredImage, LargerThanTheScreenShowsItsMiddle) {
+  EXPECT_EQ(Composed({20, 12}, ImageLayout::Centered, {10, 8}).at(0, 0), 0xFF000502U);
+}
+
+TEST(StretchedImage, CoversTheWholeScreen) {
+  support::FakePictures files;
+  files.add("sky.bmp", {3, 2}, Rgb(1, 2, 3));
+  const auto picture = forms::MakePicture(files.open("sky.bmp"));
+  const auto composed = ComposeImage(*picture, ImageLayout::Stretched, {50, 40}, 15, kGround);
+  EXPECT_EQ(composed, Bitmap({50, 40}, OpaquePixel(Rgb(1, 2, 3))));
+  EXPECT_EQ(files.drawnSizes, (std::vector<base::PixelSize>{{50, 40}}));
+}
+
+TEST(TiledImage, RepeatsFromTheTopLeftCornerAndIsCutAtTheEdges) {
+  const Bitmap composed = Composed({4, 3}, ImageLayout::Tiled, {10, 8});
+  for (int y = 0; y < 8; ++y) {
+    for (int x = 0; x < 10; ++x) {
+      EXPECT_EQ(composed.at(x, y), 0xFF000000U | static_cast<Pixel>(x % 4 * 256 + y % 3));
+    }
+  }
+}
+
+TEST(TiledImage, LargerThanTheScreenIsOneTileCutAtTheEdges) {
+  const Bitmap composed = Composed({40, 30}, ImageLayout::Tiled, {10, 8});
+  EXPECT_EQ(composed.at(0, 0), 0xFF000000U);
+  EXPECT_EQ(composed.at(9, 7), 0xFF000907U);
+}
+
+TEST(CustomImage, ThatCannotBeDecodedComposesNothing) {
+  support::FakePictures files;
+  files.addBroken("bad.jpg", {30, 20});
+  const auto picture = forms::MakePicture(files.open("bad.jpg"));
+  for (const ImageLayout layout : {ImageLayout::Centered, ImageLayout::Stretched, ImageLayout::Tiled}) {
+    EXPECT_EQ(ComposeImage(*picture, layout, {50, 40}, 15, kGround), std::nullopt);
+  }
+}
+
+TEST(CustomImage, ShowsTheBackgroundThroughItsTransparentParts) {
+  const auto clear = forms::MakePicture(std::make_shared<Bitmap>(base::PixelSize{4, 4}));
+  EXPECT_EQ(ComposeImage(*clear, ImageLayout::Tiled, {10, 8}, 15, kGround), Bitmap({10, 8}, kGround));
+}
+
+}  // namespace
+}  // namespace saver

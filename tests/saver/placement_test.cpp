@@ -1,0 +1,35 @@
+#include "saver/placement.h"
+
+#include <gtest/gtest.h>
+
+namespace saver {
+namespace {
+
+TEST(CenteredPlacement, CutsTheHalvesTowardZero) {
+  EXPECT_EQ(Centered(15360, 11520, 7360, 3520), (Placement{4000, 4000}));
+  EXPECT_EQ(Centered(15360, 11520, 7361, 3523), (Placement{3999, 3998}));
+}
+
+TEST(CenteredPlacement, OfAPictureLargerThanTheScreenIsNegative) {
+  EXPECT_EQ(Centered(15360, 11520, 15363, 13501), (Placement{-1, -990}));
+}
+
+TEST(PulledBackPlacement, StaysInsideTheScreen) {
+  EXPECT_EQ(PulledBack({100, 200}, 15360, 11520, 3000, 3000), (Placement{100, 200}));
+}
+
+TEST(PulledBackPlacement, ComesBackFromTheRightAndTheBottom) {
+  EXPECT_EQ(PulledBack({14000, 9000}, 15360, 11520, 3000, 3000), (Placement{12360, 8520}));
+  EXPECT_EQ(PulledBack({12360, 8520}, 15360, 11520, 3000, 3000), (Placement{12360, 8520}));
+}
+
+TEST(PulledBackPlacement, LeavesANegativePositionAsItIs) {
+  EXPECT_EQ(PulledBack({-100, -200}, 15360, 11520, 3000, 3000), (Placement{-100, -200}));
+}
+
+TEST(PulledBackPlacement, OfALargerPictureLiesBeyondTheTopLeftCorner) {
+  EXPECT_EQ(PulledBack({0, 0}, 15360, 11520, 16000, 12000), (Placement{-640, -480}));
+}
+
+}  // namespace
+}  // namespace saver

@@ -1,0 +1,45 @@
+// A picture box that remembers what was drawn on it, with a source whose every pixel can be told from its
+// neighbours.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "base/bitmap.h"
+#include "base/random.h"
+#include "forms/form.h"
+#include "forms/picture_box.h"
+#include "saver/transitions/effects.h"
+
+namespace support {
+
+class TransitionScene : public forms::FormHost {
+ public:
+  explicit TransitionScene(base::PixelSize size);
+
+  saver::TransitionPlan plan(int effect);
+
+  // The box as rows of letters: the new picture's pixels as theirs, the rest as points.
+  std::string text() const;
+
+  // All that was drawn lies in the box, so the drawing alone is the picture; transparent before anything was
+  // drawn.
+  base::Bitmap shown() const;
+
+  long long pixelsDrawn() const;
+
+  void controlChanged(forms::Control&, forms::Change) override {}
+  void controlDrawn(forms::Control&, const base::PixelRect& area) override;
+  base::PixelSize measureText(const base::Font&, const std::string&) override { return {}; }
+  int twipsPerPixel() const override { return 15; }
+
+  base::Random random;
+  forms::Form form{"scene"};
+  forms::PictureBox box{form, "DisplayingPicture"};
+  base::Bitmap source;
+  std::vector<base::PixelRect> drawn;  // in the order of drawing
+  std::function<void()> onDrawn;
+};
+
+}  // namespace support
