@@ -1,4 +1,4 @@
-// Owners of the graphics system's handles: the only place that gives them back.
+// Owners of the system's handles: the only place that gives them back.
 #pragma once
 
 #include <windows.h>
@@ -7,8 +7,23 @@
 
 namespace os {
 
-// Owns one handle and releases it by `Release`. Moves, never copies; null when it owns nothing.
-template <typename Handle, auto Release>
+// How each kind of handle is given back.
+struct Give {
+  static void back(HBITMAP handle) { DeleteObject(handle); }
+  static void back(HFONT handle) { DeleteObject(handle); }
+  static void back(HBRUSH handle) { DeleteObject(handle); }
+  static void back(HPEN handle) { DeleteObject(handle); }
+  static void back(HDC handle) { DeleteDC(handle); }
+  static void back(HWND handle) { DestroyWindow(handle); }
+  static void back(HANDLE handle) { CloseHandle(handle); }
+  static void back(HKEY handle) { RegCloseKey(handle); }
+  static void back(HMODULE handle) { FreeLibrary(handle); }
+  static void back(HICON handle) { DestroyIcon(handle); }
+  static void back(HMENU handle) { DestroyMenu(handle); }
+};
+
+// Owns one handle. Moves, never copies; null when it owns nothing.
+template <typename Handle>
 class Owned {
  public:
   Owned() = default;
@@ -23,7 +38,7 @@ class Owned {
   Handle get() const { return handle_; }
   explicit operator bool() const { return handle_ != nullptr; }
   void reset(Handle handle = nullptr) {
-    if (handle_) Release(handle_);
+    if (handle_) Give::back(handle_);
     handle_ = handle;
   }
 
@@ -31,11 +46,17 @@ class Owned {
   Handle handle_ = nullptr;
 };
 
-using OwnedBitmap = Owned<HBITMAP, [](HBITMAP h) { DeleteObject(h); }>;
-using OwnedFont = Owned<HFONT, [](HFONT h) { DeleteObject(h); }>;
-using OwnedBrush = Owned<HBRUSH, [](HBRUSH h) { DeleteObject(h); }>;
-using OwnedMemoryDc = Owned<HDC, [](HDC h) { DeleteDC(h); }>;
-using OwnedWindow = Owned<HWND, [](HWND h) { DestroyWindow(h); }>;
+using OwnedBitmap = Owned<HBITMAP>;
+using OwnedFont = Owned<HFONT>;
+using OwnedBrush = Owned<HBRUSH>;
+using OwnedPen = Owned<HPEN>;
+using OwnedMemoryDc = Owned<HDC>;
+using OwnedWindow = Owned<HWND>;
+using OwnedHandle = Owned<HANDLE>;
+using OwnedKey = Owned<HKEY>;
+using OwnedLibrary = Owned<HMODULE>;
+using OwnedIcon = Owned<HICON>;
+using OwnedMenu = Owned<HMENU>;
 
 // A device context borrowed from a window (null: the screen) for a scope.
 class WindowDc {
