@@ -6,6 +6,8 @@
 #include "base/number_text.h"
 #include "base/rounding.h"
 #include "saver/floating.h"
+#include "settings/open_settings.h"
+#include "settings/read_ini_value.h"
 
 namespace saver {
 
@@ -73,7 +75,7 @@ void Form1::unload() {
 }
 
 void Form1::Form_Load() {
-  takeDesktopForBackground();
+  openSettings();
   coverScreen();
   if (facts_.guardsPassword()) services_.flags.setScreenSaverRunning(true);
   LoadSettings();
@@ -89,8 +91,18 @@ void Form1::coverScreen() {
   services_.stage.invalidateAll();
 }
 
+void Form1::openSettings() {
+  document_.emplace(settings::OpenSettings(services_.files, services_.ansi, programFolder_));
+  // The window is about to cover the desktop, so the copy of it is taken now if it will be wanted.
+  const std::string background = settings::ReadIniValue(*document_, "background", "backEffect");
+  if (base::LeadingNumber(background) == static_cast<int>(BackgroundKind::Desktop)) {
+    desktop_ = services_.screen.copyDesktop();
+  }
+}
+
 void Form1::LoadSettings() {
-  settings::LoadSettings(settings_, services_.files, services_.ansi, programFolder_);
+  settings::LoadSettings(settings_, *document_);
+  document_.reset();
 }
 
 void Form1::PrepareDisplay() {

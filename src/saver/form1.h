@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -100,7 +101,7 @@ class Form1 : public forms::Form {
   void coverScreen();
   void PrepareCaption();
   void PrepareClock();
-  void takeDesktopForBackground();
+  void openSettings();
   base::SharedBitmap composeBackground(BackgroundKind kind);
   base::SharedBitmap composeCustomImage();
   base::SharedBitmap composeGradient();
@@ -120,6 +121,7 @@ class Form1 : public forms::Form {
   std::string programFolder_;
   settings::SaverSettings settings_;
   base::Random random_;
+  std::optional<settings::IniDocument> document_;  // between its opening and LoadSettings
   base::Bitmap desktop_;
   Countdown countdown_;  // the last reading; kept when the target has passed
   std::int16_t currentImageIndex_ = 0;

@@ -2,20 +2,8 @@
 #include "base/errors.h"
 #include "base/number_text.h"
 #include "saver/form1.h"
-#include "settings/open_settings.h"
-#include "settings/read_ini_value.h"
 
 namespace saver {
-
-void Form1::takeDesktopForBackground() {
-  // The window is about to cover the desktop, and the settings are read after that: so the one setting that
-  // decides whether a copy is needed is looked up ahead.
-  const settings::IniDocument document =
-      settings::OpenSettings(services_.files, services_.ansi, programFolder_);
-  const std::string kind = settings::ReadIniValue(document, "background", "backEffect");
-  if (base::LeadingNumber(kind) == static_cast<int>(BackgroundKind::Desktop))
-    desktop_ = services_.screen.copyDesktop();
-}
 
 void Form1::DrawBackground() {
   // Whatever is wrong with the chosen background, the show goes on over the window's own.

@@ -147,10 +147,13 @@ class Loader {
 
 }  // namespace
 
+void LoadSettings(SaverSettings& into, const IniDocument& document, Conversion conversion) {
+  Loader(into, document, conversion).load();
+}
+
 void LoadSettings(SaverSettings& into, os::Files& files, const os::AnsiCodePage& ansi,
                   const std::string& programFolder, Conversion conversion) {
-  const IniDocument document = OpenSettings(files, ansi, programFolder);
-  Loader(into, document, conversion).load();
+  LoadSettings(into, OpenSettings(files, ansi, programFolder), conversion);
 }
 
 }  // namespace settings

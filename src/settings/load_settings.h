@@ -7,6 +7,7 @@
 
 #include "os/ansi_code_page.h"
 #include "os/files.h"
+#include "settings/ini_document.h"
 #include "settings/settings_record.h"
 
 namespace settings {
@@ -38,5 +39,8 @@ enum class Conversion {
 // than 32767 pictures in either mode.
 void LoadSettings(SaverSettings& into, os::Files& files, const os::AnsiCodePage& ansi,
                   const std::string& programFolder, Conversion conversion = Conversion::Mend);
+
+// The same from a document that has been opened already.
+void LoadSettings(SaverSettings& into, const IniDocument& document, Conversion conversion = Conversion::Mend);
 
 }  // namespace settings
