@@ -186,6 +186,13 @@ TEST(IniDocument, AChangedValueKeepsTheSpellingAndSpacingOfItsLine) {
   EXPECT_EQ(document.value("a", "picspeed"), "12");
 }
 
+TEST(IniDocument, AChangedLineDoesNotKeepItsOldBytes) {
+  IniDocument document = Read("[a]\nx=caf\xE9\nna\xEFve=1\n");
+  document.set("a", "x", "tea");
+  document.set("a", "na\xC3\xAFve", "2");
+  EXPECT_EQ(document.serialise(), "[a]\nx=tea\nna\xEFve=2\n");
+}
+
 TEST(IniDocument, AValueThatReadsSoAlreadyIsNotTouched) {
   IniDocument document = Read("[a]\nx='1'\ny=caf\xE9\x81\n");
   document.set("a", "x", "1");
