@@ -45,6 +45,12 @@ std::wstring WidePath(const std::string& path, std::size_t extra = 0) {
   return wide.size() + extra > kLongestPlainPath ? LongPath(FullPath(wide)) : wide;
 }
 
+// Not every system refuses to put another file in the place of one that may only be read.
+bool MayOnlyBeRead(const std::wstring& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
 bool WriteAll(HANDLE file, std::string_view content) {
   while (!content.empty()) {
     const DWORD size = static_cast<DWORD>(std::min<std::size_t>(content.size(), kStep));
@@ -94,6 +100,7 @@ std::optional<std::string> FilesWin::read(const std::string& path) {
 bool FilesWin::replace(const std::string& path, std::string_view content) {
   const std::wstring nameBeside = NameBeside();
   const std::wstring target = WidePath(path, nameBeside.size());
+  if (MayOnlyBeRead(target)) return false;
   const std::wstring beside = target + nameBeside;
   if (WriteNew(beside, content) && MoveFileExW(beside.c_str(), target.c_str(),
                                                MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE) {

@@ -119,13 +119,8 @@ class Loader {
   // The slider's ends are on purpose not 30 less the value: the most sensitive setting still needs a step.
   void turnSensitivityIntoThreshold() {
     const double sensitivity = number(&R::mouseSensitivity, base::StrictDouble);
-    if (sensitivity == 30) {
-      record_.mouseSensitivity = "1";
-    } else if (sensitivity == 1) {
-      record_.mouseSensitivity = "30";
-    } else {
-      record_.mouseSensitivity = base::NumberText(30 - sensitivity);
-    }
+    const double threshold = sensitivity == 30 ? 1 : sensitivity == 1 ? 30 : 30 - sensitivity;
+    record_.mouseSensitivity = base::NumberText(threshold);
   }
 
   void readPictureScale() {

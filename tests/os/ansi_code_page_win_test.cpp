@@ -24,7 +24,7 @@ TEST(AnsiCodePageWin, EveryTwoBytesComeBackOrAreTheSameCharacter) {
       const std::string text = page.decode(bytes);
       const auto back = page.encode(text);
       ASSERT_TRUE(back.has_value()) << number << ' ' << std::hex << pair;
-      if (back != bytes) ASSERT_EQ(page.decode(*back), text) << number << ' ' << std::hex << pair;
+      ASSERT_TRUE(back == bytes || page.decode(*back) == text) << number << ' ' << std::hex << pair;
     }
   }
 }

@@ -1,0 +1,75 @@
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+
+#include "base/number_text.h"
+#include "base/text.h"
+#include "settings/ini_document.h"
+#include "settings/keys.h"
+#include "settings/load_settings.h"
+#include "support/fake_files.h"
+#include "support/windows_1252.h"
+
+namespace {
+
+const support::Windows1252 kWestern;
+
+std::string InstalledFile() {
+  std::ifstream file(LUMORA_SOURCE_DIR "/assets/zbfaone.ini", std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+settings::SaverSettings LoadInstalled() {
+  support::FakeFiles files;
+  files.content["C:\\Lumora\\zbfaone.ini"] = InstalledFile();
+  settings::SaverSettings loaded;
+  LoadSettings(loaded, files, kWestern, "C:\\Lumora", settings::Conversion::Strict);
+  return loaded;
+}
+
+TEST(InstalledFile, HoldsEveryKeyOfTheTable) {
+  const settings::IniDocument document(InstalledFile(), kWestern);
+  EXPECT_TRUE(document.has("total", "total"));
+  for (const settings::Key& key : settings::WrittenKeys())
+    EXPECT_TRUE(document.has(key.section, key.name)) << key.name;
+  for (const settings::Key& key : settings::ExtraKeys())
+    EXPECT_TRUE(document.has(key.section, key.name)) << key.name;
+}
+
+TEST(InstalledFile, IsPlainTextWithWindowsLineEnds) {
+  const std::string bytes = InstalledFile();
+  EXPECT_TRUE(base::IsAscii(bytes));
+  EXPECT_TRUE(bytes.ends_with("\r\n"));
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    EXPECT_TRUE(bytes[i] != '\n' || bytes[i - 1] == '\r') << i;
+  }
+}
+
+TEST(InstalledFile, ShowsTheTwoSamplesWithTheirCaptionsAtTheFirstRun) {
+  const settings::SaverSettings loaded = LoadInstalled();
+  EXPECT_EQ(loaded.imageFiles,
+            (std::vector<std::string>{"C:\\Lumora\\image1.gif", "C:\\Lumora\\image2.gif", ""}));
+  EXPECT_NE(loaded.imageCaptions[0], "");
+  EXPECT_NE(loaded.imageCaptions[1], "");
+  EXPECT_EQ(loaded.lastImageIndex, 1);
+}
+
+TEST(InstalledFile, HoldsValuesThatTheirUsersCanConvert) {
+  const settings::SettingsRecord record = LoadInstalled().record;
+  for (const settings::Key& key : settings::WrittenKeys()) {
+    const std::string& text = record.*key.field;
+    const std::string name = key.name;
+    if (name == "picRandom" || name == "picChange" || name == "newFontName" || name == "backgroundImage")
+      continue;
+    EXPECT_NO_THROW(base::StrictBoolean(text)) << name << '=' << text;
+  }
+  EXPECT_EQ(record.picRandom, "cent");
+  EXPECT_EQ(record.backEffect, "3");
+  EXPECT_EQ(record.picturePercent, "90");
+  EXPECT_EQ(record.transitionTime, "700");
+  EXPECT_EQ(record.otherScreens, "black");
+  EXPECT_EQ(record.livePreview, "1");
+}
+
+}  // namespace
