@@ -1,0 +1,81 @@
+#include "os/foreign_window_win.h"
+
+#include <utility>
+
+#include "os/dib_win.h"
+
+namespace os {
+
+namespace {
+
+constexpr const wchar_t* kClassName = L"LumoraPreviewFollower";
+
+HWND HandleOf(std::intptr_t window) { return reinterpret_cast<HWND>(window); }
+
+DWORD ProcessOf(HWND window) {
+  DWORD process = 0;
+  GetWindowThreadProcessId(window, &process);
+  return process;
+}
+
+}  // namespace
+
+ForeignWindowWin::~ForeignWindowWin() {
+  closed_ = nullptr;
+  if (follower_) DestroyWindow(follower_);
+}
+
+bool ForeignWindowWin::exists(std::intptr_t window) { return IsWindow(HandleOf(window)) != FALSE; }
+
+void ForeignWindowWin::draw(std::intptr_t window, const base::Bitmap& picture) {
+  const Dib source(picture.size());
+  if (!source.dc()) return;
+  base::CopyRect(source.view(), {0, 0}, picture, base::PixelRect::ofSize(picture.size()));
+  const WindowDc target(HandleOf(window));
+  BitBlt(target.get(), 0, 0, picture.size().width, picture.size().height, source.dc(), 0, 0, SRCCOPY);
+}
+
+std::optional<base::Pixel> ForeignWindowWin::pixelAt(std::intptr_t window, base::PixelPoint place) {
+  const WindowDc source(HandleOf(window));
+  const COLORREF color = GetPixel(source.get(), place.x, place.y);
+  if (color == CLR_INVALID) return std::nullopt;
+  return base::OpaquePixel(color);
+}
+
+bool ForeignWindowWin::holdsAnother(std::intptr_t window) {
+  const DWORD owner = ProcessOf(HandleOf(window));
+  for (HWND child = GetWindow(HandleOf(window), GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+    const DWORD process = ProcessOf(child);
+    if (process != owner && process != GetCurrentProcessId()) return true;
+  }
+  return false;
+}
+
+void ForeignWindowWin::follow(std::intptr_t window, std::function<void()> closed) {
+  WNDCLASSEXW description{};
+  description.cbSize = sizeof(description);
+  description.lpfnWndProc = Procedure;
+  description.hInstance = GetModuleHandleW(nullptr);
+  description.lpszClassName = kClassName;
+  RegisterClassExW(&description);
+  closed_ = std::move(closed);
+  follower_ = CreateWindowExW(WS_EX_NOPARENTNOTIFY, kClassName, L"", WS_CHILD, 0, 0, 0, 0, HandleOf(window),
+                              nullptr, description.hInstance, this);
+}
+
+LRESULT CALLBACK ForeignWindowWin::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_NCCREATE) {
+    const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(creation->lpCreateParams));
+  }
+  if (message == WM_DESTROY) {
+    auto* self = reinterpret_cast<ForeignWindowWin*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (self) {
+      self->follower_ = nullptr;
+      if (self->closed_) std::exchange(self->closed_, nullptr)();
+    }
+  }
+  return DefWindowProcW(window, message, wParam, lParam);
+}
+
+}  // namespace os

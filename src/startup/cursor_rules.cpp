@@ -1,0 +1,31 @@
+#include "startup/cursor_rules.h"
+
+#include "base/twips.h"
+
+namespace startup {
+
+namespace {
+
+// The counter starts near 0. A system that refuses to move it must not keep the show from coming or going.
+constexpr int kMostCalls = 1000;
+constexpr int kBeyondCorner = 12;
+
+}  // namespace
+
+void HideCursor(os::Cursor& cursor) {
+  for (int calls = 0; calls < kMostCalls && cursor.showCounter(false) >= -5; ++calls) {
+  }
+}
+
+void ShowCursor(os::Cursor& cursor) {
+  for (int calls = 0; calls < kMostCalls && cursor.showCounter(true) <= 5; ++calls) {
+  }
+}
+
+void ParkCursor(os::Cursor& cursor, const os::Screen& screen) {
+  const int twipsPerPixel = base::TwipsPerPixelForDpi(screen.dpi());
+  const base::PixelSize size = screen.primarySize();
+  cursor.moveTo(size.width * twipsPerPixel + kBeyondCorner, size.height * twipsPerPixel + kBeyondCorner);
+}
+
+}  // namespace startup

@@ -1,0 +1,55 @@
+// The one way out of the show.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "os/cursor.h"
+#include "os/passwords.h"
+#include "os/screen.h"
+#include "os/system_facts.h"
+#include "os/system_flags.h"
+#include "os/taskbar.h"
+
+namespace startup {
+
+class SaverExit {
+ public:
+  struct Services {
+    os::Passwords& passwords;
+    os::Cursor& cursor;
+    const os::Screen& screen;
+    os::SystemFlags& flags;
+    os::Taskbar& taskbar;
+  };
+
+  // What belongs to the show.
+  struct Show {
+    std::function<std::intptr_t()> window;  // the handle of Form1's window
+    std::function<void()> showFormAgain;
+    std::function<void()> unloadForm;
+    std::function<void()> endProgram;
+  };
+
+  SaverExit(const os::SystemFacts& facts, const Services& services, Show show);
+
+  // Asks for the password where the saver has to, puts the system back, ends the program. Events that arrive
+  // while it is under way, or after it has ended the show, do nothing; after a refused password it is ready
+  // again.
+  void ExitSaver();
+
+  // True once the show has been ended.
+  bool hasEnded() const { return state_ == State::Ended; }
+
+ private:
+  enum class State { Showing, Asking, Ended };
+
+  bool passwordAccepted();
+
+  os::SystemFacts facts_;
+  Services services_;
+  Show show_;
+  State state_ = State::Showing;
+};
+
+}  // namespace startup

@@ -1,0 +1,66 @@
+#include "startup/input_watch.h"
+
+#include <cmath>
+#include <utility>
+
+#include "base/rounding.h"
+
+namespace startup {
+
+namespace {
+
+constexpr float kJitterUnits = 3.0F;
+constexpr double kStaleAfterSeconds = 2.0;
+
+bool IsFar(float now, std::int32_t last) { return std::fabs(now - static_cast<float>(last)) > kJitterUnits; }
+
+}  // namespace
+
+InputWatch::InputWatch(const os::SystemFacts& facts, double threshold, Actions actions)
+    : guardsPassword_(facts.guardsPassword()), threshold_(threshold), actions_(std::move(actions)) {}
+
+void InputWatch::Handler::record(float x, float y) {
+  lastMouseX = base::ToInt32(x);
+  lastMouseY = base::ToInt32(y);
+  hasRecorded = true;
+}
+
+void InputWatch::filter(Handler& handler, const MouseMove& move) {
+  const bool rests = pointer_ == move.onScreen;
+  const bool far = IsFar(move.x, handler.lastMouseX) || IsFar(move.y, handler.lastMouseY);
+  const bool counts = far && !rests && handler.lastMouseX > 0 && handler.lastMouseY > 0;
+  // Recorded before the move is counted: counting may end in the password dialog, whose events come here too.
+  handler.record(move.x, move.y);
+  pointer_ = move.onScreen;
+  if (counts) MouseMoved(move.secondsSinceMidnight);
+}
+
+void InputWatch::MouseMoved(float secondsSinceMidnight) {
+  moveCount_ = base::ToInt16(moveCount_ + 1.0);
+  if (moveCount_ == threshold_) {
+    if (guardsPassword_) {
+      moveCount_ = 0;
+    } else {
+      actions_.showCursor();
+    }
+    actions_.exitSaver();
+    return;
+  }
+  if (firstMoveTime_ == 0) {
+    firstMoveTime_ = base::ToInt32(secondsSinceMidnight);
+  } else if (static_cast<double>(secondsSinceMidnight) - firstMoveTime_ > kStaleAfterSeconds) {
+    firstMoveTime_ = 0;
+    moveCount_ = 0;
+  }
+}
+
+void InputWatch::controlsMoved(const ControlAt& controlAt) {
+  if (!pointer_) return;
+  const std::optional<PointedControl> found = controlAt(*pointer_);
+  if (!found) return;
+  Handler& handler = found->control == WatchedControl::Form ? form_ : picture_;
+  // A handler without a position has none to follow; its first event records.
+  if (handler.hasRecorded) handler.record(found->x, found->y);
+}
+
+}  // namespace startup

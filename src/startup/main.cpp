@@ -1,0 +1,47 @@
+#include "startup/main.h"
+
+#include "startup/cursor_rules.h"
+#include "startup/password_flag.h"
+
+namespace startup {
+
+namespace {
+
+void StartSaver(os::SystemFacts& facts, const StartServices& services, const RunModes& modes) {
+  if (facts.guardsPassword()) {
+    ParkCursor(services.cursor, services.screen);
+  } else {
+    HideCursor(services.cursor);
+  }
+  facts.taskbarWindow = services.taskbar.find();
+  services.taskbar.hide(facts.taskbarWindow);
+  modes.showSaver(facts);
+}
+
+}  // namespace
+
+Start Main(const std::string& commandText, const StartServices& services, const RunModes& modes) {
+  Start start;
+  start.facts.osPlatformId = services.version.platformId();
+  start.facts.usePassword = PasswordFlagNumber(ReadPasswordFlag(services.registry));
+  if (!services.instance.becomeOnly()) return start;
+  start.mode = RunModeOf(commandText);
+  switch (*start.mode) {
+    case RunMode::Configure:
+      modes.showDialog();
+      break;
+    case RunMode::ChangePassword:
+      start.parentWindow = PasswordWindowOf(commandText);
+      services.passwords.change(start.parentWindow);
+      break;
+    case RunMode::Show:
+      StartSaver(start.facts, services, modes);
+      break;
+    case RunMode::Preview:
+      modes.drawPreview(commandText);
+      break;
+  }
+  return start;
+}
+
+}  // namespace startup

@@ -1,0 +1,47 @@
+// The start procedure: reads the switch and starts exactly one run mode.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "os/cursor.h"
+#include "os/instance.h"
+#include "os/passwords.h"
+#include "os/registry.h"
+#include "os/screen.h"
+#include "os/system_facts.h"
+#include "os/system_version.h"
+#include "os/taskbar.h"
+#include "startup/command_line.h"
+
+namespace startup {
+
+struct StartServices {
+  os::SystemVersion& version;
+  os::Registry& registry;
+  os::Instance& instance;
+  os::Passwords& passwords;
+  os::Cursor& cursor;
+  os::Taskbar& taskbar;
+  const os::Screen& screen;
+};
+
+// The run modes that have windows. Each is called at most once, as the last step of the start.
+struct RunModes {
+  std::function<void(const os::SystemFacts& facts)> showSaver;
+  std::function<void()> showDialog;
+  std::function<void(const std::string& commandText)> drawPreview;
+};
+
+struct Start {
+  os::SystemFacts facts;
+  std::optional<RunMode> mode;     // nothing when another copy of the program is running: end at once
+  std::intptr_t parentWindow = 0;  // given behind "/A"
+};
+
+// `commandText` is the command line behind the program's name, untrimmed. Returns once the mode has been
+// started: a shown saver or dialog then runs in the event loop, the other modes have ended by themselves.
+Start Main(const std::string& commandText, const StartServices& services, const RunModes& modes);
+
+}  // namespace startup
