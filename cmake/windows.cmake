@@ -1,7 +1,7 @@
 # Lumora.scr and the tests that need Windows (or Wine).
 set(hardening -fstack-protector-strong)
 set(system_libraries gdi32 user32 kernel32 advapi32 shell32 ole32 oleaut32 windowscodecs comctl32 comdlg32
-    shlwapi uxtheme)
+    shlwapi uxtheme uuid)
 
 target_compile_definitions(lumora_flags INTERFACE UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX
                            _WIN32_WINNT=0x0A00 WINVER=0x0A00)

@@ -5,45 +5,16 @@
 #include <algorithm>
 #include <atomic>
 
-#include "os/long_path.h"
+#include "os/file_handle_win.h"
 #include "os/utf16_win.h"
+#include "os/wide_path_win.h"
 
 namespace os {
 
 namespace {
 
-// An open file, closed at the end of the scope.
-class FileHandle {
- public:
-  explicit FileHandle(HANDLE handle) : handle_(handle) {}
-  ~FileHandle() {
-    if (isOpen()) CloseHandle(handle_);
-  }
-  FileHandle(const FileHandle&) = delete;
-  FileHandle& operator=(const FileHandle&) = delete;
-
-  bool isOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
-  HANDLE get() const { return handle_; }
-
- private:
-  HANDLE handle_;
-};
-
 constexpr DWORD kStep = 1U << 26;             // bytes of one read or write
 constexpr LONGLONG kLargestFile = 1LL << 30;  // more is no file of ours, and no picture
-
-std::wstring FullPath(const std::wstring& path) {
-  const DWORD size = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
-  std::wstring full(size, L'\0');
-  full.resize(GetFullPathNameW(path.c_str(), size, full.data(), nullptr));
-  return full.empty() ? path : full;
-}
-
-// The path for the system's functions; `extra` characters can be added to it.
-std::wstring WidePath(const std::string& path, std::size_t extra = 0) {
-  const std::wstring wide = ToWide(path);
-  return wide.size() + extra > kLongestPlainPath ? LongPath(FullPath(wide)) : wide;
-}
 
 // Not every system refuses to put another file in the place of one that may only be read.
 bool MayOnlyBeRead(const std::wstring& path) {
