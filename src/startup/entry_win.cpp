@@ -47,6 +47,8 @@ class ComponentScope {
 
 // The machine, as the program sees it.
 struct Machine {
+  explicit Machine(HINSTANCE module) : instance(module) {}
+
   HINSTANCE instance;
   ComponentScope components;
   os::ClockWin clock;
@@ -62,7 +64,7 @@ struct Machine {
   os::RegistryWin registry;
   os::SystemVersionWin version;
   os::InstanceWin only{"LumoraScreenSaver"};
-  os::DateTextWin dates;
+  std::unique_ptr<os::DateText> dates = os::MakeDateText();
   os::FileHeadWin heads;
   os::PictureDecoderWin decoder;
   os::FilePictureLoader pictures{heads, decoder};
@@ -77,7 +79,7 @@ class SaverMode {
         text_(machine.screen.dpi()),
         stage_(window_, text_, base::TwipsPerPixelForDpi(machine.screen.dpi())),
         show_({machine.files, machine.ansi, machine.pictures, machine.clock, machine.loop, machine.screen,
-               restore, machine.dates, stage_, window_},
+               restore, *machine.dates, stage_, window_},
               {machine.passwords, restore, machine.screen, restore, restore}, restore, facts,
               machine.program.folder(),
               [this] { return std::make_unique<saver::StageWindowWin>(machine_.instance, guard()); }) {
@@ -110,7 +112,7 @@ void DrawPreview(Machine& machine, const std::string& commandText) {
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
   // Libraries that are loaded by name come from the system's folder alone.
   SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
-  Machine machine{.instance = instance};
+  Machine machine(instance);
   startup::SystemRestore restore(machine.taskbar, machine.cursor, machine.flags);
   const startup::CrashGuard guard(restore);
   std::unique_ptr<SaverMode> saver;
