@@ -5,12 +5,12 @@
 
 #include <array>
 #include <cstdlib>
+#include <functional>
 #include <stdexcept>
 #include <string>
 
 #include "os/handles_win.h"
 #include "os/utf16_win.h"
-#include "support/call_log.h"
 
 namespace {
 
@@ -55,12 +55,14 @@ int Recurse(volatile int* depth) {
 }
 #pragma GCC diagnostic pop
 
+void CallAtTheEnd(const std::function<void()>& thrower) noexcept { thrower(); }
+
 void CrashBy(const std::wstring& way) {
   if (way == L"access") {
     volatile int* nowhere = nullptr;
     *nowhere = 1;
   }
-  if (way == L"throw") []() noexcept { throw std::runtime_error("that nobody catches"); }();
+  if (way == L"throw") CallAtTheEnd([] { throw std::runtime_error("that nobody catches"); });
   if (way == L"abort") std::abort();
   if (way == L"exit") std::exit(9);
   if (way == L"stack") {
