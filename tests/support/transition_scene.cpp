@@ -35,8 +35,7 @@ base::Bitmap TransitionScene::shown() const {
   return box.drawing() ? *box.drawing() : base::Bitmap(source.size());
 }
 
-std::string TransitionScene::text() const {
-  const base::Bitmap picture = shown();
+std::string TextOfPicture(const base::Bitmap& picture) {
   std::string text;
   for (int y = 0; y < picture.size().height; ++y) {
     for (int x = 0; x < picture.size().width; ++x) {

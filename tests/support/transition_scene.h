@@ -14,14 +14,14 @@
 
 namespace support {
 
+// A picture as rows of letters: the source's pixels as theirs, transparent ones as points.
+std::string TextOfPicture(const base::Bitmap& picture);
+
 class TransitionScene : public forms::FormHost {
  public:
   explicit TransitionScene(base::PixelSize size);
 
   saver::TransitionPlan plan(int effect);
-
-  // The box as rows of letters: the new picture's pixels as theirs, the rest as points.
-  std::string text() const;
 
   // All that was drawn lies in the box, so the drawing alone is the picture; transparent before anything was
   // drawn.
