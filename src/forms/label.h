@@ -11,6 +11,7 @@ namespace forms {
 class Label : public Control {
  public:
   Label(Form& form, std::string name);
+  ControlKind kind() const override { return ControlKind::Label; }
 
   const std::string& caption() const { return caption_; }
   // With autoSize a changed text measures width and height anew.

@@ -12,6 +12,7 @@ namespace forms {
 class PictureBox : public Control {
  public:
   PictureBox(Form& form, std::string name);
+  ControlKind kind() const override { return ControlKind::PictureBox; }
 
   // Inner size in pixels.
   float scaleWidth() const;
