@@ -36,6 +36,11 @@ class Form {
   float width = 0;
   float height = 0;
 
+  // Inner size in twips. Where set, the host gives the window this inner size and writes the outer one back.
+  float clientWidth = 0;
+  float clientHeight = 0;
+  bool sizable = false;
+
   // The vertical scale that the form gave itself for drawing, over its whole height; 0 = twips.
   // It scales the pointer positions that the form reports; controls stay placed in twips.
   float scaleHeight = 0;
