@@ -71,10 +71,10 @@ class Form2 : public forms::Form {
   // Image Properties.
   forms::Frame Frame1{*this, "Frame1"};
   forms::OptionButton aChange{*this, "aChange"};
+  forms::OptionButton nChange{*this, "nChange"};
   forms::TextBox Text2{*this, "Text2"};
   forms::ScrollBar changeVScroll1{*this, "changeVScroll1"};
   forms::Label Label3{*this, "Label3"};
-  forms::OptionButton nChange{*this, "nChange"};
   forms::CheckBox Random_select{*this, "Random_select"};
   forms::Frame placement{*this, "placement"};
   forms::OptionButton pCenter{*this, "pCenter"};
@@ -143,10 +143,10 @@ class Form2 : public forms::Form {
   // Image Caption.
   forms::Frame Frame3{*this, "Frame3"};
   forms::OptionButton scrollOption{*this, "scrollOption"};
+  forms::OptionButton middleOption{*this, "middleOption"};
   forms::Label scrollSlowLabel{*this, "scrollSlowLabel"};
   forms::Slider scrollSlider{*this, "scrollSlider"};
   forms::Label scrollFastLabel{*this, "scrollFastLabel"};
-  forms::OptionButton middleOption{*this, "middleOption"};
   forms::Frame Frame7{*this, "Frame7"};
   forms::PictureBox Picture2{*this, "Picture2"};
   forms::Label fontColorLabel{*this, "fontColorLabel"};
