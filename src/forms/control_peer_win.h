@@ -3,6 +3,9 @@
 
 #include <windows.h>
 
+#include <shellapi.h>
+
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>

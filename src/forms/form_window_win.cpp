@@ -8,6 +8,7 @@
 #include "base/twips.h"
 #include "forms/command_button.h"
 #include "forms/container_peer_win.h"
+#include "forms/list_box.h"
 #include "forms/picture_peer_win.h"
 #include "forms/surface_win.h"
 #include "forms/tab_control.h"

@@ -79,24 +79,25 @@ void WindowSystemWin::show(Form& form) {
 }
 
 void WindowSystemWin::showModal(Form& form) {
-  std::vector<HWND> disabled;
   show(form);
+  if (!find(form)) return;
+  Modal modal{&form, {}};
   for (const auto& window : loaded_) {
     if (&window->form() == &form || !IsWindowEnabled(window->handle())) continue;
     EnableWindow(window->handle(), FALSE);
-    disabled.push_back(window->handle());
+    modal.disabled.push_back(window->handle());
   }
-  // The others take input again before the window goes, so that one of them is activated in its place.
-  const std::function<void()> onUnload = std::exchange(form.onUnload, nullptr);
-  bool over = find(form) == nullptr;
-  while (!over && !loop_.isQuitting()) {
-    loop_.waitUntil(std::numeric_limits<std::int64_t>::max());
-    over = find(form) == nullptr;
-  }
-  for (const HWND window : disabled) EnableWindow(window, TRUE);
-  if (!disabled.empty()) SetForegroundWindow(disabled.back());
-  form.onUnload = onUnload;
-  if (form.onUnload) form.onUnload();
+  modals_.push_back(std::move(modal));
+  while (find(form) && !loop_.isQuitting()) loop_.waitUntil(std::numeric_limits<std::int64_t>::max());
+}
+
+// The others take input again before the window goes, so that one of them is activated in its place.
+void WindowSystemWin::endModal(const Form& form) {
+  const auto at =
+      std::find_if(modals_.begin(), modals_.end(), [&](const Modal& modal) { return modal.form == &form; });
+  if (at == modals_.end()) return;
+  for (const HWND window : at->disabled) EnableWindow(window, TRUE);
+  modals_.erase(at);
 }
 
 void WindowSystemWin::unload(Form& form) {
@@ -106,6 +107,7 @@ void WindowSystemWin::unload(Form& form) {
   std::unique_ptr<FormWindow> window = std::move(*at);
   loaded_.erase(at);
   form.setHost(nullptr);
+  endModal(form);
   window->close();
   closed_.push_back(std::move(window));
   if (form.onUnload) form.onUnload();

@@ -37,12 +37,21 @@ class WindowSystemWin : public WindowSystem {
   HWND windowOf(const Form& form) const;
 
  private:
+  // A form that is shown modally, and the windows that take no input meanwhile.
+  struct Modal {
+    const Form* form;
+    std::vector<HWND> disabled;
+  };
+
   FormWindow* find(const Form& form) const;
+  void endModal(const Form& form);
   void raise(const std::function<void()>& event);
 
   os::EventLoop& loop_;
   Guard guard_;
   std::vector<std::unique_ptr<FormWindow>> loaded_;  // in the order of showing
+
+  std::vector<Modal> modals_;
 
   // Windows that were closed while handlers of theirs may still be running.
   std::vector<std::unique_ptr<FormWindow>> closed_;
