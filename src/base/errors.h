@@ -23,4 +23,10 @@ class Overflow : public RunTimeError {
   Overflow() : RunTimeError("overflow") {}
 };
 
+// A value that a control's property cannot take, such as the index of an entry that is not there.
+class InvalidPropertyValue : public RunTimeError {
+ public:
+  InvalidPropertyValue() : RunTimeError("invalid property value") {}
+};
+
 }  // namespace base

@@ -20,6 +20,12 @@ struct PixelPoint {
   bool operator==(const PixelPoint&) const = default;
 };
 
+// A place in twips.
+struct TwipsPoint {
+  float x = 0;
+  float y = 0;
+};
+
 // Half open: covers columns left to right() - 1 and rows top to bottom() - 1.
 struct PixelRect {
   int left = 0;

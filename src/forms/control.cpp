@@ -53,6 +53,10 @@ void Control::setEnabled(bool enabled) {
   if (Assign(enabled_, enabled)) changed(Change::Enabled);
 }
 
+bool Control::isShown() const { return visible_ && (!container_ || container_->isShown()); }
+
+bool Control::takesInput() const { return enabled_ && (!container_ || container_->takesInput()); }
+
 void Control::setBackColor(base::PackedColor color) {
   if (Assign(backColor_, color)) changed(Change::Colors);
 }

@@ -3,6 +3,8 @@
 
 #include <functional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "base/color.h"
 #include "base/geometry.h"
@@ -11,6 +13,28 @@
 namespace forms {
 
 class Form;
+
+// What a control is, for whoever realises it.
+enum class ControlKind {
+  CheckBox,
+  ComboBox,
+  CommandButton,
+  DriveList,
+  FileList,
+  FolderList,
+  Frame,
+  Image,
+  Label,
+  ListBox,
+  OptionButton,
+  PictureBox,
+  ScrollBar,
+  Slider,
+  StatusBar,
+  TabControl,
+  TabPage,
+  TextBox,
+};
 
 struct MouseEvent {
   float x = 0;  // in the control's own scale units
@@ -26,10 +50,12 @@ class Control {
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
 
+  virtual ControlKind kind() const = 0;
   const std::string& name() const { return name_; }
   Form& form() const { return form_; }
 
-  // The frame or tab page that the control stands on; null = the form itself. Set once while building a form.
+  // The frame, tab page or tab control that the control stands on; null = the form itself. Set once while
+  // building a form.
   Control* container() const { return container_; }
   void setContainer(Control* container) { container_ = container; }
 
@@ -52,6 +78,10 @@ class Control {
   void setVisible(bool visible);
   void setEnabled(bool enabled);
 
+  // True when the control and everything that it stands on is shown, or takes input.
+  bool isShown() const;
+  bool takesInput() const;
+
   base::PackedColor backColor() const { return backColor_; }
   base::PackedColor foreColor() const { return foreColor_; }
   void setBackColor(base::PackedColor color);
@@ -60,12 +90,18 @@ class Control {
   const std::string& toolTip() const { return toolTip_; }
   void setToolTip(std::string text);
 
+  // What a screen reader calls a control that shows no text of its own. Set once while building a form.
+  const std::string& accessibleName() const { return accessibleName_; }
+  void setAccessibleName(std::string name) { accessibleName_ = std::move(name); }
+
   // What the user did with the mouse and the keyboard while this control had it; the host calls them.
   std::function<void(const MouseEvent&)> onMouseMove;
   std::function<void(const MouseEvent&)> onMouseDown;
   std::function<void()> onClick;
   std::function<void()> onDblClick;
   std::function<void(int keyCode)> onKeyDown;
+  std::function<void()> onLostFocus;
+  std::function<void(const std::vector<std::string>& paths)> onFilesDropped;
 
  protected:
   void changed(Change change);
@@ -84,6 +120,7 @@ class Control {
   base::PackedColor backColor_ = base::kButtonFace;
   base::PackedColor foreColor_ = base::kButtonText;
   std::string toolTip_;
+  std::string accessibleName_;
 };
 
 }  // namespace forms

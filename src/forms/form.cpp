@@ -12,4 +12,54 @@ void Form::setBackColor(base::PackedColor color) {
   if (onBackColorChanged) onBackColorChanged();
 }
 
+void Form::setMousePointer(MousePointer pointer) {
+  if (mousePointer_ == pointer) return;
+  mousePointer_ = pointer;
+  tell(FormChange::MousePointer);
+}
+
+namespace {
+
+// The place of a control's container's inner area on the form.
+base::TwipsPoint OriginOf(const Control& control) {
+  base::TwipsPoint origin;
+  for (const Control* on = control.container(); on; on = on->container()) {
+    origin.x += on->left();
+    origin.y += on->top();
+  }
+  return origin;
+}
+
+bool Covers(const Control& control, float x, float y) {
+  return x >= control.left() && x < control.left() + control.width() && y >= control.top() &&
+         y < control.top() + control.height();
+}
+
+}  // namespace
+
+Control* Form::controlAt(float x, float y) const {
+  Control* found = nullptr;
+  for (Control* control : controls_) {
+    if (!control->isShown()) continue;
+    const base::TwipsPoint origin = OriginOf(*control);
+    // Later controls lie above earlier ones, and what stands on a control lies above it.
+    if (Covers(*control, x - origin.x, y - origin.y)) found = control;
+  }
+  while (found && !found->takesInput()) found = found->container();
+  return found;
+}
+
+void Form::userMovedMouse(float x, float y) {
+  Control* control = controlAt(x, y);
+  // A page is the tab control's own surface.
+  while (control && control->kind() == ControlKind::TabPage) control = control->container();
+  if (!control) {
+    if (onMouseMove) onMouseMove({x, y});
+    return;
+  }
+  if (!control->onMouseMove) return;
+  const base::TwipsPoint origin = OriginOf(*control);
+  control->onMouseMove({x - origin.x - control->left(), y - origin.y - control->top()});
+}
+
 }  // namespace forms

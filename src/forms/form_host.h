@@ -5,10 +5,13 @@
 
 #include "base/font.h"
 #include "base/geometry.h"
+#include "forms/list_edit.h"
 
 namespace forms {
 
 class Control;
+class Form;
+class ListBox;
 
 // What a model tells its host has changed. The host reads the new value from the model.
 enum class Change {
@@ -25,6 +28,9 @@ enum class Change {
   ToolTip,
 };
 
+// What a form tells its host has changed.
+enum class FormChange { Caption, Place, MousePointer };
+
 class FormHost {
  public:
   virtual ~FormHost() = default;
@@ -33,6 +39,11 @@ class FormHost {
 
   // A picture box was drawn on inside `area` (its own pixels).
   virtual void controlDrawn(Control& control, const base::PixelRect& area) = 0;
+
+  virtual void formChanged(Form&, FormChange) {}
+
+  // A host that shows no lists need not listen.
+  virtual void listChanged(ListBox&, const ListEdit&) {}
 
   // Pixels that one line of text takes in a font.
   virtual base::PixelSize measureText(const base::Font& font, const std::string& text) = 0;

@@ -8,13 +8,19 @@
 
 namespace forms {
 
+enum class TextAlign { Left, Right, Center };
+
 class Label : public Control {
  public:
   Label(Form& form, std::string name);
+  ControlKind kind() const override { return ControlKind::Label; }
 
   const std::string& caption() const { return caption_; }
   // With autoSize a changed text measures width and height anew.
   void setCaption(std::string caption);
+
+  // Set once while building a form.
+  TextAlign align = TextAlign::Left;
 
   const base::Font& font() const { return font_; }
   void setFont(base::Font font);

@@ -1,5 +1,6 @@
 #include "forms/picture_box.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "forms/form.h"
@@ -8,9 +9,15 @@ namespace forms {
 
 PictureBox::PictureBox(Form& form, std::string name) : Control(form, std::move(name)) {}
 
-float PictureBox::scaleWidth() const { return static_cast<float>(pixelRect().width); }
+base::PixelSize PictureBox::scaleSize() const {
+  const base::PixelSize outer = pixelRect().size();
+  const int lines = border ? 2 : 0;
+  return {std::max(0, outer.width - lines), std::max(0, outer.height - lines)};
+}
 
-float PictureBox::scaleHeight() const { return static_cast<float>(pixelRect().height); }
+float PictureBox::scaleWidth() const { return static_cast<float>(scaleSize().width); }
+
+float PictureBox::scaleHeight() const { return static_cast<float>(scaleSize().height); }
 
 void PictureBox::setPicture(SharedPicture picture) {
   picture_ = std::move(picture);
@@ -19,8 +26,9 @@ void PictureBox::setPicture(SharedPicture picture) {
   if (autoSize_ && picture_) {
     const base::PixelSize size = picture_->size();
     const auto perPixel = static_cast<float>(form().twipsPerPixel());
-    move(left(), top(), static_cast<float>(size.width) * perPixel,
-         static_cast<float>(size.height) * perPixel);
+    const float lines = border ? 2 : 0;
+    move(left(), top(), (static_cast<float>(size.width) + lines) * perPixel,
+         (static_cast<float>(size.height) + lines) * perPixel);
   }
   changed(Change::Picture);
 }
@@ -29,13 +37,13 @@ void PictureBox::cls() {
   if (!drawing_) return;
   drawing_.reset();
   writable_.reset();
-  if (host()) host()->controlDrawn(*this, base::PixelRect::ofSize(pixelRect().size()));
+  if (host()) host()->controlDrawn(*this, base::PixelRect::ofSize(scaleSize()));
 }
 
 void PictureBox::paintPicture(const Picture& source, base::PixelSize size) {
   base::SharedBitmap drawn = source.drawnAt(size);
   if (!drawn) return;
-  if (!drawing_ && size == pixelRect().size()) {
+  if (!drawing_ && size == scaleSize()) {
     drawing_ = std::move(drawn);  // the whole box: no second copy of the pixels
   } else {
     base::CopyRect(writableDrawing().view(), {0, 0}, *drawn, base::PixelRect::ofSize(size));
@@ -49,7 +57,7 @@ void PictureBox::paintPart(const base::Bitmap& source, const base::PixelRect& ar
 }
 
 base::SharedBitmap PictureBox::image() const {
-  const base::PixelSize size = pixelRect().size();
+  const base::PixelSize size = scaleSize();
   if (drawing_ && drawing_->size() == size && (!picture_ || drawing_->isOpaque())) return drawing_;
   auto image = std::make_shared<base::Bitmap>(size);
   if (picture_) {
@@ -66,7 +74,7 @@ base::Bitmap& PictureBox::writableDrawing() {
   const bool ours = writable_ && writable_ == drawing_ && writable_.use_count() == 2;
   if (!ours) {
     writable_ = drawing_ ? std::make_shared<base::Bitmap>(*drawing_)
-                         : std::make_shared<base::Bitmap>(pixelRect().size());
+                         : std::make_shared<base::Bitmap>(scaleSize());
     writable_->setOpaque(false);
     drawing_ = writable_;
   }

@@ -12,8 +12,13 @@ namespace forms {
 class PictureBox : public Control {
  public:
   PictureBox(Form& form, std::string name);
+  ControlKind kind() const override { return ControlKind::PictureBox; }
+
+  // A line around the box, one pixel wide and inside its place. Set once while building a form.
+  bool border = false;
 
   // Inner size in pixels.
+  base::PixelSize scaleSize() const;
   float scaleWidth() const;
   float scaleHeight() const;
 

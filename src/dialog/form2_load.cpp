@@ -1,0 +1,100 @@
+// Opening the dialog: everything is read and shown under one error trap.
+#include <algorithm>
+#include <limits>
+#include <utility>
+#include <vector>
+
+#include "base/errors.h"
+#include "base/number_text.h"
+#include "dialog/form2.h"
+#include "dialog/load_table.h"
+#include "dialog/messages.h"
+#include "forms/picture.h"
+#include "settings/keys.h"
+#include "settings/open_settings.h"
+#include "settings/read_ini_value.h"
+
+namespace dialog {
+
+namespace {
+
+std::vector<std::string> NumberedValues(const settings::IniDocument& document, std::string_view section,
+                                        int count) {
+  std::vector<std::string> values;
+  values.reserve(static_cast<std::size_t>(std::max(0, count)));
+  for (int i = 0; i < count; ++i) {
+    values.push_back(settings::ReadIniValue(document, section, base::NumberText(std::int32_t{i})));
+  }
+  return values;
+}
+
+}  // namespace
+
+void Form2::Form_Load() {
+  // Handlers run while the controls are filled and write what the controls took; the record ends as the texts
+  // that were read, so that saving an untouched dialog writes back the same.
+  settings::SettingsRecord read;
+  loadedWell_ = true;
+  try {
+    loadSettings(read);
+    record = read;
+    if (List1.listCount() > 0) List1.setListIndex(0);
+  } catch (const base::RunTimeError&) {
+    record = read;
+    loadedWell_ = false;
+    services_.dialogs.messageBox(kCouldNotLoad, forms::kExclamation);
+  }
+}
+
+void Form2::loadSettings(settings::SettingsRecord& read) {
+  redSlider.setValue(0);
+  greenSlider.setValue(0);
+  blueSlider.setValue(0);
+  UpdateGradientPreview();
+  left = (services_.windows.screenWidthTwips() - width) / 2;
+  top = (services_.windows.screenHeightTwips() - height) / 2;
+  placeChanged();
+
+  const settings::IniDocument document =
+      settings::OpenSettings(services_.files, services_.ansi, programFolder_);
+  for (const settings::Key& key : settings::ExtraKeys()) {
+    read.*key.field = settings::ReadIniValue(document, key.section, key.name);
+  }
+  loadPictureList(document, read);
+  for (const LoadRow& row : LoadTable()) {
+    const std::string text = settings::ReadIniValue(document, row.section, row.key);
+    read.*row.field = text;
+    record.*row.field = text;
+    row.apply(*this, text);
+  }
+  LoadBackgroundImagePreview(document);
+  read.backgroundImage = record.backgroundImage;
+}
+
+void Form2::loadPictureList(const settings::IniDocument& document, settings::SettingsRecord& read) {
+  const settings::Key& key = settings::TotalKey();
+  read.total = settings::ReadIniValue(document, key.section, key.name);
+  List1.clear();
+  const int total = base::StrictInt32(read.total);
+  if (total > std::numeric_limits<std::int16_t>::max()) throw base::Overflow();
+  List1.setItems(NumberedValues(document, settings::kImagesSection, total));
+  photo_caption.setItems(NumberedValues(document, settings::kCaptionSection, total));
+  Text3.setText("Total: " + base::NumberText(std::int32_t{List1.listCount()}));
+}
+
+void Form2::LoadBackgroundImagePreview(const settings::IniDocument& document) {
+  record.backgroundImage = settings::ReadIniValue(document, "background", "backgroundImage");
+  if (record.backgroundImage.empty()) return;
+  backgroundImageFile.setText(record.backgroundImage);
+  // Decoded once, at the size at which it is shown: a large photo stays cheap and a broken one is found now.
+  const std::shared_ptr<const os::PictureFile> file = services_.pictures.open(record.backgroundImage);
+  std::optional<base::Bitmap> drawn;
+  if (file) drawn = file->draw(forms::FitInside(file->size(), Image1.pixelRect().size()));
+  if (!drawn) {
+    services_.dialogs.messageBox(kCouldNotLoadBackground, forms::kExclamation);
+    return;
+  }
+  Image1.setPicture(forms::MakePicture(std::make_shared<base::Bitmap>(std::move(*drawn))));
+}
+
+}  // namespace dialog

@@ -1,0 +1,19 @@
+#include "dialog/gradient.h"
+
+#include <algorithm>
+
+namespace dialog {
+
+base::Bitmap DrawGradient(base::PixelSize size, int red, int green, int blue) {
+  base::Bitmap drawn(size);
+  drawn.setOpaque(true);
+  const auto faded = [](int component, int by) { return std::max(0, std::clamp(component, 0, 255) - by); };
+  for (int y = 0; y < size.height; ++y) {
+    const int band = static_cast<int>(static_cast<long long>(y) * 256 / size.height);
+    const base::PackedColor color = base::Rgb(faded(red, band), faded(green, band), faded(blue, band));
+    std::fill_n(drawn.row(y), size.width, base::OpaquePixel(color));
+  }
+  return drawn;
+}
+
+}  // namespace dialog

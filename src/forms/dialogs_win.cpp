@@ -1,0 +1,112 @@
+#include "forms/dialogs_win.h"
+
+#include <commdlg.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cwchar>
+#include <string>
+
+#include "forms/surface_win.h"
+#include "os/utf16_win.h"
+
+namespace forms {
+
+namespace {
+
+constexpr wchar_t kTitle[] = L"Lumora Screen Saver";
+constexpr std::size_t kLongestPath = 32768;
+constexpr int kPointsPerInch = 72;
+
+// The system separates the parts by zeros, with one more at the end.
+std::wstring FilterOf(const std::string& filter) {
+  std::wstring parts = os::ToWide(filter);
+  std::replace(parts.begin(), parts.end(), L'|', L'\0');
+  parts.append(2, L'\0');
+  return parts;
+}
+
+int ScreenDpi() { return GetDeviceCaps(os::WindowDc(nullptr).get(), LOGPIXELSY); }
+
+LOGFONTW LogFontOf(const base::Font& font) {
+  LOGFONTW log{};
+  log.lfHeight =
+      -static_cast<LONG>(std::lround(font.sizePoints * static_cast<float>(ScreenDpi()) / kPointsPerInch));
+  log.lfWeight = font.bold ? FW_BOLD : FW_NORMAL;
+  log.lfItalic = font.italic;
+  log.lfUnderline = font.underline;
+  log.lfStrikeOut = font.strikethrough;
+  log.lfCharSet = DEFAULT_CHARSET;
+  const std::wstring name = os::ToWide(font.name).substr(0, LF_FACESIZE - 1);
+  std::wmemcpy(log.lfFaceName, name.c_str(), name.size() + 1);
+  return log;
+}
+
+}  // namespace
+
+Answer DialogsWin::messageBox(const std::string& text, std::uint32_t style) {
+  const HWND owner = owner_();
+  const UINT modal = owner ? MB_APPLMODAL : MB_TASKMODAL | MB_SETFOREGROUND;
+  switch (MessageBoxW(owner, os::ToWide(text).c_str(), kTitle, style | modal)) {
+    case IDYES:
+      return Answer::Yes;
+    case IDNO:
+      return Answer::No;
+    default:
+      return Answer::Ok;
+  }
+}
+
+std::optional<std::string> DialogsWin::openFile(const OpenFileRequest& request) {
+  const std::wstring filter = FilterOf(request.filter);
+  const std::wstring title = os::ToWide(request.title);
+  std::wstring path(kLongestPath, L'\0');
+  OPENFILENAMEW open{};
+  open.lStructSize = sizeof(open);
+  open.hwndOwner = owner_();
+  open.lpstrFilter = filter.c_str();
+  open.nFilterIndex = 1;
+  open.lpstrFile = path.data();
+  open.nMaxFile = static_cast<DWORD>(path.size());
+  open.lpstrTitle = title.c_str();
+  // The program goes on working in its own folder.
+  open.Flags = request.flags | OFN_EXPLORER | OFN_NOCHANGEDIR;
+  if (!GetOpenFileNameW(&open)) return std::nullopt;
+  path.resize(std::wcslen(path.c_str()));
+  return os::FromWide(path);
+}
+
+std::optional<base::PackedColor> DialogsWin::chooseColor(const ColorRequest& request) {
+  CHOOSECOLORW choose{};
+  choose.lStructSize = sizeof(choose);
+  choose.hwndOwner = owner_();
+  choose.rgbResult = ToColorRef(request.initial);
+  choose.lpCustColors = customColors_;
+  choose.Flags = request.flags;
+  if (!ChooseColorW(&choose)) return std::nullopt;
+  return static_cast<base::PackedColor>(choose.rgbResult);
+}
+
+std::optional<ChosenFont> DialogsWin::chooseFont(const FontRequest& request) {
+  LOGFONTW log = LogFontOf(request.font);
+  CHOOSEFONTW choose{};
+  choose.lStructSize = sizeof(choose);
+  choose.hwndOwner = owner_();
+  choose.lpLogFont = &log;
+  choose.rgbColors = ToColorRef(request.color);
+  choose.Flags = request.flags | CF_INITTOLOGFONTSTRUCT;
+  choose.nSizeMin = request.minPoints;
+  choose.nSizeMax = request.maxPoints;
+  if (!ChooseFontW(&choose)) return std::nullopt;
+  ChosenFont chosen;
+  chosen.font.name = os::FromWide(log.lfFaceName);
+  chosen.font.sizePoints = static_cast<float>(choose.iPointSize) / 10;
+  chosen.font.bold = log.lfWeight >= FW_SEMIBOLD;
+  chosen.font.italic = log.lfItalic != 0;
+  chosen.font.underline = log.lfUnderline != 0;
+  chosen.font.strikethrough = log.lfStrikeOut != 0;
+  chosen.color = static_cast<base::PackedColor>(choose.rgbColors);
+  return chosen;
+}
+
+}  // namespace forms

@@ -1,0 +1,90 @@
+#include "forms/file_name.h"
+
+#include <algorithm>
+
+namespace forms {
+
+namespace {
+
+char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
+
+bool IsRoot(std::string_view path) { return path.size() <= 3 && path.size() >= 2 && path[1] == ':'; }
+
+// Greedy matching with one way back: to the last star.
+bool Matches(std::string_view name, std::string_view pattern) {
+  std::size_t n = 0;
+  std::size_t p = 0;
+  std::size_t star = std::string_view::npos;
+  std::size_t starName = 0;
+  while (n < name.size()) {
+    if (p < pattern.size() && pattern[p] == '*') {
+      star = p++;
+      starName = n;
+    } else if (p < pattern.size() && (pattern[p] == '?' || Lower(pattern[p]) == Lower(name[n]))) {
+      ++p;
+      ++n;
+    } else if (star != std::string_view::npos) {
+      p = star + 1;
+      n = ++starName;
+    } else {
+      return false;
+    }
+  }
+  while (p < pattern.size() && pattern[p] == '*') ++p;
+  return p == pattern.size();
+}
+
+}  // namespace
+
+bool MatchesPatterns(std::string_view name, std::string_view patterns) {
+  while (!patterns.empty()) {
+    const std::size_t end = std::min(patterns.find(';'), patterns.size());
+    if (end > 0 && Matches(name, patterns.substr(0, end))) return true;
+    patterns.remove_prefix(std::min(end + 1, patterns.size()));
+  }
+  return false;
+}
+
+std::string JoinPath(std::string folder, std::string_view name) {
+  if (folder.empty() || folder.back() != '\\') folder += '\\';
+  return folder.append(name);
+}
+
+std::string WithoutTrailingSlash(std::string folder) {
+  while (!folder.empty() && folder.back() == '\\' && !IsRoot(folder)) folder.pop_back();
+  return folder;
+}
+
+std::vector<std::string> FoldersOnTheWay(const std::string& path) {
+  std::vector<std::string> way;
+  const std::string whole = WithoutTrailingSlash(path);
+  std::size_t start = whole.rfind("\\\\", 0) == 0 ? 2 : 0;
+  for (std::size_t slash = whole.find('\\', start); slash != std::string::npos;
+       slash = whole.find('\\', slash + 1)) {
+    std::string folder = whole.substr(0, slash);
+    if (IsRoot(folder)) folder += '\\';
+    if (folder != whole) way.push_back(std::move(folder));
+  }
+  if (!whole.empty()) way.push_back(whole);
+  return way;
+}
+
+std::string LastName(const std::string& path) {
+  if (IsRoot(path)) return path;
+  const std::size_t slash = path.rfind('\\');
+  return slash == std::string::npos ? path : path.substr(slash + 1);
+}
+
+void SortNames(std::vector<std::string>& names) {
+  const auto before = [](const std::string& a, const std::string& b) {
+    const bool less = std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
+                                                   [](char x, char y) { return Lower(x) < Lower(y); });
+    if (less) return true;
+    const bool greater = std::lexicographical_compare(b.begin(), b.end(), a.begin(), a.end(),
+                                                      [](char x, char y) { return Lower(x) < Lower(y); });
+    return !greater && a < b;
+  };
+  std::sort(names.begin(), names.end(), before);
+}
+
+}  // namespace forms

@@ -1,0 +1,29 @@
+// File names and paths as the folder lists read them.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace forms {
+
+// True when a file name matches one of the patterns between ";" ("*.bmp;*.gif"): "*" stands for any text, "?"
+// for one character; the case of Latin letters does not matter.
+bool MatchesPatterns(std::string_view name, std::string_view patterns);
+
+// `folder` with a backslash at its end, then `name`.
+std::string JoinPath(std::string folder, std::string_view name);
+
+// The folder without a backslash at its end; a drive's root keeps it.
+std::string WithoutTrailingSlash(std::string folder);
+
+// The drive's root and every folder on the way to `path`, itself included, outermost first.
+std::vector<std::string> FoldersOnTheWay(const std::string& path);
+
+// The last part of a path; a drive's root is its own name.
+std::string LastName(const std::string& path);
+
+// Names in the order in which lists show them: by Latin letters without case, then by case.
+void SortNames(std::vector<std::string>& names);
+
+}  // namespace forms

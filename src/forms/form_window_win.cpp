@@ -1,0 +1,418 @@
+#include "forms/form_window_win.h"
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+#include <algorithm>
+
+#include "base/twips.h"
+#include "forms/command_button.h"
+#include "forms/container_peer_win.h"
+#include "forms/list_box.h"
+#include "forms/picture_peer_win.h"
+#include "forms/surface_win.h"
+#include "forms/tab_control.h"
+#include "os/text_renderer_win.h"
+#include "os/utf16_win.h"
+
+namespace forms {
+
+namespace {
+
+constexpr int kFirstMenuId = 0x4000;
+constexpr WORD kIconResource = 1;
+constexpr int kEscape = VK_ESCAPE;
+
+// A dialog without controls of its own; its size and title are set afterwards.
+struct EmptyTemplate {
+  DLGTEMPLATE head{};
+  WORD menu = 0;
+  WORD windowClass = 0;
+  WORD title = 0;
+  WORD padding = 0;
+};
+
+DWORD StyleOf(const Form& form) {
+  const DWORD frame = form.sizable ? WS_THICKFRAME | WS_MAXIMIZEBOX : 0UL;
+  return WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN | frame;
+}
+
+HWND SenderOf(UINT message, LPARAM lParam) {
+  switch (message) {
+    case WM_NOTIFY:
+      return reinterpret_cast<const NMHDR*>(lParam)->hwndFrom;
+    case WM_DRAWITEM:
+      return reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)->hwndItem;
+    default:
+      return reinterpret_cast<HWND>(lParam);
+  }
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, Raise raise) : form_(form), raise_(std::move(raise)) {}
+
+FormWindow::~FormWindow() { close(); }
+
+void FormWindow::make(HWND owner) {
+  EmptyTemplate empty;
+  empty.head.style = StyleOf(form_) | DS_3DLOOK;
+  CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &empty.head, owner, Procedure,
+                             reinterpret_cast<LPARAM>(this));
+  if (!window_) return;
+  SetWindowTextW(window_, os::ToWide(form_.caption).c_str());
+  const HINSTANCE instance = GetModuleHandleW(nullptr);
+  for (const auto& [kind, metric] : {std::pair{ICON_BIG, SM_CXICON}, std::pair{ICON_SMALL, SM_CXSMICON}}) {
+    const int side = GetSystemMetrics(metric);
+    const HANDLE icon = LoadImageW(instance, MAKEINTRESOURCEW(kIconResource), IMAGE_ICON, side, side,
+                                   LR_DEFAULTCOLOR | LR_SHARED);
+    if (icon) SendMessageW(window_, WM_SETICON, static_cast<WPARAM>(kind), reinterpret_cast<LPARAM>(icon));
+  }
+  takeDpi(WindowDpi(window_));
+  makeMenu();
+  sizeFromForm();
+  makeControls();
+}
+
+void FormWindow::takeDpi(int dpi) {
+  dpi_ = dpi;
+  twipsPerPixel_ = base::TwipsPerPixelForDpi(dpi);
+  font_ = MakeMessageFont(dpi);
+  SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), FALSE);
+}
+
+void FormWindow::sizeFromForm() {
+  int width = static_cast<int>(form_.width) / twipsPerPixel_;
+  int height = static_cast<int>(form_.height) / twipsPerPixel_;
+  if (form_.clientWidth > 0) {
+    RECT outer{0, 0, base::TwipsToPixels(form_.clientWidth, twipsPerPixel_),
+               base::TwipsToPixels(form_.clientHeight, twipsPerPixel_)};
+    const RECT inner = outer;
+    AdjustWindowRectEx(&outer, StyleOf(form_), menu_ != nullptr, 0);
+    SetWindowPos(window_, nullptr, 0, 0, outer.right - outer.left, outer.bottom - outer.top,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    // A frame or a menu bar of another height than the system said is made up for.
+    RECT now{};
+    RECT client{};
+    GetWindowRect(window_, &now);
+    GetClientRect(window_, &client);
+    width = static_cast<int>(now.right - now.left + inner.right - client.right);
+    height = static_cast<int>(now.bottom - now.top + inner.bottom - client.bottom);
+  }
+  SetWindowPos(window_, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  form_.width = static_cast<float>(width * twipsPerPixel_);
+  form_.height = static_cast<float>(height * twipsPerPixel_);
+}
+
+void FormWindow::placeFromForm() {
+  SetWindowPos(window_, nullptr, base::TwipsToPixels(form_.left, twipsPerPixel_),
+               base::TwipsToPixels(form_.top, twipsPerPixel_),
+               base::TwipsToPixels(form_.width, twipsPerPixel_),
+               base::TwipsToPixels(form_.height, twipsPerPixel_), SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void FormWindow::makeMenu() {
+  if (form_.menu.empty()) return;
+  menu_ = CreateMenu();
+  for (const MenuItem* head : form_.menu) {
+    const HMENU popup = CreatePopupMenu();
+    for (MenuItem* item : head->children()) {
+      const auto id = static_cast<UINT_PTR>(kFirstMenuId) + menuCommands_.size();
+      AppendMenuW(popup, MF_STRING, id, os::ToWide(item->caption()).c_str());
+      menuCommands_.push_back(item);
+    }
+    AppendMenuW(menu_, MF_POPUP, reinterpret_cast<UINT_PTR>(popup), os::ToWide(head->caption()).c_str());
+  }
+  SetMenu(window_, menu_);
+}
+
+void FormWindow::makeControls() {
+  makeToolTips();
+  for (Control* control : form_.controls()) {
+    // A control that is never shown needs no window; a page is shown when its tab is chosen.
+    if (control->visible() || control->kind() == ControlKind::TabPage) makeControl(*control);
+  }
+  orderTabs();
+  placeTabPages();
+}
+
+void FormWindow::makeControl(Control& control) {
+  HWND parent = window_;
+  if (control.kind() != ControlKind::TabPage && control.container()) {
+    if (const ControlPeer* on = peerOf(*control.container())) parent = on->window();
+  }
+  int id = nextId_++;
+  if (const auto* button = dynamic_cast<const CommandButton*>(&control)) {
+    if (button->isDefault) id = IDOK;
+    if (button->isCancel) id = IDCANCEL;
+  }
+  std::unique_ptr<ControlPeer> peer = MakePeer(control, *this);
+  byControl_[&control] = peer.get();
+  peer->make(parent, id);
+  byWindow_[peer->window()] = peer.get();
+  if (control.kind() == ControlKind::TabControl) {
+    pageColor_ = TabPageColor(peer->window());
+    pageBrush_.reset(CreateSolidBrush(pageColor_));
+  }
+  if (id == IDOK) SendMessageW(window_, DM_SETDEFID, IDOK, 0);
+  addToolTip(*peer);
+  peers_.push_back(std::move(peer));
+}
+
+// A tab control's pages lie above it and come first under the tab key; the tabs come last.
+void FormWindow::orderTabs() {
+  for (const auto& peer : peers_) {
+    const ControlKind kind = peer->control().kind();
+    if (kind != ControlKind::TabPage && kind != ControlKind::TabControl) continue;
+    SetWindowPos(peer->window(), kind == ControlKind::TabPage ? HWND_TOP : HWND_BOTTOM, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+  }
+}
+
+void FormWindow::placeTabPages() {
+  for (const auto& peer : peers_) {
+    if (auto* tabs = dynamic_cast<TabControlPeer*>(peer.get())) tabs->placePages();
+  }
+}
+
+void FormWindow::makeToolTips() {
+  toolTips_ =
+      CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0,
+                      0, 0, window_, nullptr, GetModuleHandleW(nullptr), nullptr);
+}
+
+void FormWindow::addToolTip(const ControlPeer& peer) {
+  if (peer.control().toolTip().empty()) return;
+  std::wstring text = os::ToWide(peer.control().toolTip());
+  TTTOOLINFOW tool{};
+  tool.cbSize = TTTOOLINFOW_V1_SIZE;
+  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.hwnd = GetParent(peer.window());
+  tool.uId = reinterpret_cast<UINT_PTR>(peer.window());
+  tool.lpszText = text.data();
+  SendMessageW(toolTips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+void FormWindow::present() {
+  ShowWindow(window_, SW_SHOW);
+  activate();
+  if (const HWND first = GetNextDlgTabItem(window_, nullptr, FALSE)) {
+    SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);
+  }
+}
+
+void FormWindow::activate() { SetForegroundWindow(window_); }
+
+void FormWindow::close() {
+  if (!window_) return;
+  DestroyWindow(window_);
+  window_ = nullptr;
+}
+
+ControlPeer* FormWindow::peerOf(const Control& control) const {
+  const auto found = byControl_.find(&control);
+  return found == byControl_.end() ? nullptr : found->second;
+}
+
+bool FormWindow::onTabPage(const Control& control) const {
+  for (const Control* on = &control; on; on = on->container()) {
+    if (on->kind() == ControlKind::TabPage) return true;
+  }
+  return false;
+}
+
+COLORREF FormWindow::surfaceColor(const Control& control) const {
+  return onTabPage(control) ? pageColor_ : GetSysColor(COLOR_BTNFACE);
+}
+
+HBRUSH FormWindow::surfaceBrush(const Control& control) const {
+  return onTabPage(control) ? pageBrush_.get() : GetSysColorBrush(COLOR_BTNFACE);
+}
+
+void FormWindow::controlChanged(Control& control, Change change) {
+  if (!window_) return;
+  ControlPeer* peer = peerOf(control);
+  if (!peer) {
+    if (change == Change::Visible && control.visible()) makeControl(control);
+    return;
+  }
+  if (change == Change::Enabled && !control.enabled()) keepFocusOff(control);
+  peer->apply(change);
+  if (change != Change::Enabled) return;
+  // What stands on a frame looks as the frame allows.
+  for (const auto& other : peers_) {
+    if (other->control().container() == &control) InvalidateRect(other->window(), nullptr, FALSE);
+  }
+}
+
+// The keyboard would be lost on a control that takes no input.
+void FormWindow::keepFocusOff(const Control& disabled) {
+  const ControlPeer* peer = peerOf(disabled);
+  const HWND focus = GetFocus();
+  if (focus && (focus == peer->window() || IsChild(peer->window(), focus))) {
+    SendMessageW(window_, WM_NEXTDLGCTL, 0, FALSE);
+  }
+}
+
+void FormWindow::controlDrawn(Control& control, const base::PixelRect&) {
+  if (auto* drawn = dynamic_cast<DrawnPeer*>(peerOf(control))) drawn->invalidate();
+}
+
+void FormWindow::listChanged(ListBox& list, const ListEdit& edit) {
+  if (ControlPeer* peer = peerOf(list)) peer->applyList(edit);
+}
+
+void FormWindow::formChanged(Form&, FormChange change) {
+  if (!window_) return;
+  switch (change) {
+    case FormChange::Caption:
+      SetWindowTextW(window_, os::ToWide(form_.caption).c_str());
+      break;
+    case FormChange::Place:
+      placeFromForm();
+      break;
+    case FormChange::MousePointer:
+      SetCursor(LoadCursorW(nullptr, form_.mousePointer() == MousePointer::Hourglass ? IDC_WAIT : IDC_ARROW));
+      break;
+  }
+}
+
+base::PixelSize FormWindow::measureText(const base::Font& font, const std::string& text) {
+  return os::TextRendererWin(dpi_).measure(font, text);
+}
+
+bool FormWindow::filter(MSG& message) {
+  if (!window_ || (message.hwnd != window_ && !IsChild(window_, message.hwnd))) return false;
+  if (message.message == WM_MOUSEMOVE) reportPointer(message);
+  if (message.message == WM_KEYDOWN && switchTab(message)) return true;
+  return window_ && IsDialogMessageW(window_, &message) != FALSE;
+}
+
+void FormWindow::reportPointer(const MSG& message) {
+  POINT at{GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)};
+  MapWindowPoints(message.hwnd, window_, &at, 1);
+  const auto perPixel = static_cast<float>(twipsPerPixel_);
+  raise_([this, at, perPixel] {
+    form_.userMovedMouse(static_cast<float>(at.x) * perPixel, static_cast<float>(at.y) * perPixel);
+  });
+}
+
+// Ctrl+Tab and Ctrl+Page Down go to the next tab, with Shift or Page Up to the one before.
+bool FormWindow::switchTab(const MSG& message) {
+  const bool control = GetKeyState(VK_CONTROL) < 0;
+  const bool tabKey = message.wParam == VK_TAB;
+  if (!control || (!tabKey && message.wParam != VK_NEXT && message.wParam != VK_PRIOR)) return false;
+  for (const auto& peer : peers_) {
+    if (peer->control().kind() != ControlKind::TabControl) continue;
+    auto& tabs = static_cast<TabControl&>(peer->control());
+    const bool back = tabKey ? GetKeyState(VK_SHIFT) < 0 : message.wParam == VK_PRIOR;
+    const int count = tabs.tabCount();
+    SetFocus(peer->window());
+    raise_([&] { tabs.userSelectedTab((tabs.tab() + (back ? count - 1 : 1)) % count); });
+    return true;
+  }
+  return false;
+}
+
+std::optional<LRESULT> FormWindow::routeToChild(UINT message, WPARAM wParam, LPARAM lParam) {
+  const auto found = byWindow_.find(SenderOf(message, lParam));
+  if (found == byWindow_.end()) return std::nullopt;
+  ControlPeer& peer = *found->second;
+  switch (message) {
+    case WM_COMMAND:
+      peer.onCommand(HIWORD(wParam));
+      return 0;
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+      peer.onScroll(LOWORD(wParam), HIWORD(wParam));
+      return 0;
+    case WM_DRAWITEM:
+      if (peer.onDrawItem(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam))) return TRUE;
+      return std::nullopt;
+    case WM_NOTIFY:
+      return peer.onNotify(*reinterpret_cast<const NMHDR*>(lParam));
+    default:
+      return reinterpret_cast<LRESULT>(peer.onColor(reinterpret_cast<HDC>(wParam), message));
+  }
+}
+
+INT_PTR CALLBACK FormWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_INITDIALOG) {
+    SetWindowLongPtrW(window, DWLP_USER, lParam);
+    reinterpret_cast<FormWindow*>(lParam)->window_ = window;
+    return FALSE;
+  }
+  auto* self = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, DWLP_USER));
+  return self ? self->handle(message, wParam, lParam) : FALSE;
+}
+
+INT_PTR FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_COMMAND:
+      if (lParam && routeToChild(message, wParam, lParam)) return TRUE;
+      if (LOWORD(wParam) >= kFirstMenuId) {
+        onMenuCommand(LOWORD(wParam));
+      } else {
+        onKeyboardCommand(LOWORD(wParam));
+      }
+      return TRUE;
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+    case WM_DRAWITEM:
+    case WM_NOTIFY:
+      if (const std::optional<LRESULT> answer = routeToChild(message, wParam, lParam)) {
+        SetWindowLongPtrW(window_, DWLP_MSGRESULT, *answer);
+        return TRUE;
+      }
+      return FALSE;
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORBTN:
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORLISTBOX:
+      return static_cast<INT_PTR>(routeToChild(message, wParam, lParam).value_or(0));
+    case WM_SETCURSOR:
+      if (form_.mousePointer() != MousePointer::Hourglass) return FALSE;
+      SetCursor(LoadCursorW(nullptr, IDC_WAIT));
+      SetWindowLongPtrW(window_, DWLP_MSGRESULT, TRUE);
+      return TRUE;
+    case WM_CLOSE:
+      raise_([this] {
+        if (form_.onCloseRequest) form_.onCloseRequest();
+      });
+      return TRUE;
+    case WM_DPICHANGED:
+      relayOut(LOWORD(wParam));
+      return TRUE;
+    default:
+      return FALSE;
+  }
+}
+
+// Enter and Escape press the buttons that are marked for them; a form without one hears of the key itself.
+void FormWindow::onKeyboardCommand(int id) {
+  for (const auto& peer : peers_) {
+    auto* button = dynamic_cast<CommandButton*>(&peer->control());
+    if (!button || (id == IDOK ? !button->isDefault : !button->isCancel)) continue;
+    raise_([button] { button->userClicked(); });
+    return;
+  }
+  if (id == IDCANCEL && form_.onKeyDown) raise_([this] { form_.onKeyDown(kEscape); });
+}
+
+void FormWindow::onMenuCommand(int id) {
+  const auto index = static_cast<std::size_t>(id - kFirstMenuId);
+  if (index < menuCommands_.size()) raise_([item = menuCommands_[index]] { item->userClicked(); });
+}
+
+void FormWindow::relayOut(int dpi) {
+  takeDpi(dpi);
+  sizeFromForm();
+  for (const auto& peer : peers_) {
+    peer->setFont(font_.get());
+    peer->place();
+  }
+  placeTabPages();
+  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+}  // namespace forms

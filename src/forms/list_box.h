@@ -1,0 +1,54 @@
+// A list of lines of which one or none is selected.
+#pragma once
+
+#include <span>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "forms/control.h"
+
+namespace forms {
+
+class ListBox : public Control {
+ public:
+  ListBox(Form& form, std::string name) : Control(form, std::move(name)) {}
+  ControlKind kind() const override { return ControlKind::ListBox; }
+
+  const std::vector<std::string>& items() const { return items_; }
+  int listCount() const { return static_cast<int>(items_.size()); }
+
+  // The entry at an index; empty beyond the list.
+  const std::string& item(int index) const;
+
+  // The selected index, or -1.
+  int listIndex() const { return listIndex_; }
+
+  // The selected entry; empty when there is none.
+  const std::string& text() const { return item(listIndex_); }
+
+  // Selects an entry, or none with -1, and raises the click unless it was selected before. An index beyond
+  // the list throws base::InvalidPropertyValue.
+  void setListIndex(int index);
+
+  // These change the entries without an event. The selection stays on its entry; it is lost with it. An index
+  // beyond the list throws base::InvalidPropertyValue.
+  void addItem(std::string text);
+  void addItem(std::string text, int index);
+  void addItems(std::vector<std::string> texts);  // at the end, in one step
+  void setItem(int index, std::string text);
+  void removeItem(int index);
+  void clear() { setItems({}); }
+  void setItems(std::vector<std::string> texts);  // selects nothing
+
+  void userSelected(int index) { setListIndex(index); }
+
+ private:
+  void requireIndex(int index, int lowest, int end) const;
+  void edited(const ListEdit& edit);
+
+  std::vector<std::string> items_;
+  int listIndex_ = -1;
+};
+
+}  // namespace forms

@@ -1,0 +1,155 @@
+#include "forms/list_peer_win.h"
+
+#include <string>
+
+#include "forms/surface_win.h"
+#include "os/utf16_win.h"
+
+namespace forms {
+
+namespace {
+
+constexpr WPARAM kAtEnd = static_cast<WPARAM>(-1);
+constexpr std::size_t kBytesPerLine = 128;  // room to make beforehand
+
+}  // namespace
+
+WindowRecipe LinesPeer::recipe() const {
+  return {L"LISTBOX",
+          WS_TABSTOP | WS_GROUP | WS_VSCROLL | LBS_NOTIFY | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS |
+              LBS_NOINTEGRALHEIGHT,
+          WS_EX_CLIENTEDGE};
+}
+
+void LinesPeer::measureLines() {
+  send(LB_SETITEMHEIGHT, 0, LineHeight(window(), owner().font()) + MulDiv(3, owner().dpi(), 96));
+}
+
+void LinesPeer::addLine(WPARAM at, const std::string& text) {
+  send(LB_INSERTSTRING, at, reinterpret_cast<LPARAM>(os::ToWide(text).c_str()));
+}
+
+template <typename TextOf>
+void LinesPeer::fillLines(std::size_t count, TextOf textOf) {
+  send(WM_SETREDRAW, FALSE);
+  send(LB_RESETCONTENT);
+  measureLines();
+  send(LB_INITSTORAGE, count, static_cast<LPARAM>(count * kBytesPerLine));
+  for (std::size_t i = 0; i < count; ++i) addLine(kAtEnd, textOf(i));
+  send(WM_SETREDRAW, TRUE);
+  InvalidateRect(window(), nullptr, TRUE);
+}
+
+bool LinesPeer::onDrawItem(const DRAWITEMSTRUCT& item) {
+  const bool selected = (item.itemState & ODS_SELECTED) != 0;
+  const bool enabled = control_.takesInput();
+  FillRect(item.hDC, &item.rcItem, GetSysColorBrush(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+  if (item.itemID != static_cast<UINT>(-1)) {
+    std::wstring text(static_cast<std::size_t>(send(LB_GETTEXTLEN, item.itemID)) + 1, L'\0');
+    text.resize(
+        static_cast<std::size_t>(send(LB_GETTEXT, item.itemID, reinterpret_cast<LPARAM>(text.data()))));
+    const int line = static_cast<int>(item.itemID);
+    int color = enabled ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT;
+    if (selected) color = COLOR_HIGHLIGHTTEXT;
+    SetTextColor(item.hDC, GetSysColor(color));
+    SetBkMode(item.hDC, TRANSPARENT);
+    RECT area = item.rcItem;
+    area.left += MulDiv(3, owner().dpi(), 96) + indent(line);
+    area.right -= MulDiv(3, owner().dpi(), 96);
+    DrawTextW(item.hDC, text.c_str(), -1, &area, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_PATH_ELLIPSIS);
+  }
+  if ((item.itemState & ODS_FOCUS) && !(item.itemState & ODS_NOFOCUSRECT))
+    DrawFocusRect(item.hDC, &item.rcItem);
+  return true;
+}
+
+HBRUSH LinesPeer::onColor(HDC, UINT) { return GetSysColorBrush(COLOR_WINDOW); }
+
+void ListBoxPeer::fill() {
+  fillLines(list_.items().size(), [this](std::size_t i) -> const std::string& { return list_.items()[i]; });
+  showSelection();
+}
+
+void ListBoxPeer::showSelection() {
+  if (send(LB_GETCURSEL) != list_.listIndex()) send(LB_SETCURSEL, static_cast<WPARAM>(list_.listIndex()));
+}
+
+void ListBoxPeer::onChange(Change change) {
+  if (change == Change::Value) showSelection();
+}
+
+void ListBoxPeer::onListEdit(const ListEdit& edit) {
+  const int top = static_cast<int>(send(LB_GETTOPINDEX));
+  const bool many = edit.count > 1;
+  if (many) send(WM_SETREDRAW, FALSE);
+  for (int i = edit.index; i < edit.index + edit.count && edit.kind != ListEdit::Kind::Reset; ++i) {
+    const auto at = static_cast<WPARAM>(edit.kind == ListEdit::Kind::Removed ? edit.index : i);
+    if (edit.kind != ListEdit::Kind::Inserted) send(LB_DELETESTRING, at);
+    if (edit.kind != ListEdit::Kind::Removed) addLine(at, list_.item(i));
+  }
+  if (many) send(WM_SETREDRAW, TRUE);
+  if (edit.kind == ListEdit::Kind::Reset) {
+    fill();
+  } else {
+    showSelection();
+    send(LB_SETTOPINDEX, static_cast<WPARAM>(top));
+  }
+  if (many) InvalidateRect(window(), nullptr, TRUE);
+}
+
+void ListBoxPeer::onCommand(int code) {
+  if (deaf()) return;
+  if (code == LBN_SELCHANGE) {
+    const auto index = static_cast<int>(send(LB_GETCURSEL));
+    owner().raise([this, index] { list_.userSelected(index); });
+  }
+  if (code == LBN_DBLCLK && list_.onDblClick) owner().raise([this] { list_.onDblClick(); });
+}
+
+void FileListPeer::fill() {
+  fillLines(list_.files().size(), [this](std::size_t i) -> const std::string& { return list_.files()[i]; });
+}
+
+void FileListPeer::onChange(Change change) {
+  if (change == Change::Items) fill();
+}
+
+void FolderListPeer::fill() {
+  fillLines(list_.entries().size(),
+            [this](std::size_t i) -> const std::string& { return list_.entries()[i].shown; });
+  send(LB_SETCURSEL, static_cast<WPARAM>(list_.pathIndex()));
+}
+
+void FolderListPeer::onChange(Change change) {
+  if (change == Change::Items) fill();
+}
+
+int FolderListPeer::indent(int line) const {
+  const auto& entries = list_.entries();
+  if (line < 0 || line >= static_cast<int>(entries.size())) return 0;
+  return entries[static_cast<std::size_t>(line)].depth * MulDiv(12, owner().dpi(), 96);
+}
+
+void FolderListPeer::openSelected() {
+  const auto index = static_cast<int>(send(LB_GETCURSEL));
+  owner().raise([this, index] { list_.userOpened(index); });
+}
+
+void FolderListPeer::onCommand(int code) {
+  if (code == LBN_DBLCLK) openSelected();
+}
+
+// The Enter key opens a folder, as a double click does.
+std::optional<LRESULT> FolderListPeer::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message == WM_GETDLGCODE && lParam) {
+    const auto* key = reinterpret_cast<const MSG*>(lParam);
+    if (key->message == WM_KEYDOWN && key->wParam == VK_RETURN) return DLGC_WANTMESSAGE;
+  }
+  if (message == WM_KEYDOWN && wParam == VK_RETURN) {
+    openSelected();
+    return 0;
+  }
+  return std::nullopt;
+}
+
+}  // namespace forms

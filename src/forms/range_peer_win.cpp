@@ -1,0 +1,89 @@
+#include "forms/range_peer_win.h"
+
+#include <commctrl.h>
+
+#include <cstdlib>
+
+namespace forms {
+
+WindowRecipe SliderPeer::recipe() const {
+  return {TRACKBAR_CLASSW, WS_TABSTOP | WS_GROUP | TBS_HORZ | TBS_AUTOTICKS, 0};
+}
+
+void SliderPeer::fill() {
+  send(TBM_SETRANGEMIN, FALSE, slider_.lowest());
+  send(TBM_SETRANGEMAX, FALSE, slider_.highest());
+  send(TBM_SETLINESIZE, 0, slider_.smallChange());
+  send(TBM_SETPAGESIZE, 0, slider_.largeChange());
+  send(TBM_SETTICFREQ, static_cast<WPARAM>(slider_.tickFrequency()));
+  send(TBM_SETPOS, TRUE, slider_.value());
+}
+
+void SliderPeer::onChange(Change change) {
+  if (change == Change::Range) fill();
+  if (change == Change::Value && send(TBM_GETPOS) != slider_.value()) send(TBM_SETPOS, TRUE, slider_.value());
+}
+
+void SliderPeer::onScroll(int, int) {
+  if (deaf()) return;
+  owner().raise([this] { slider_.userSetValue(static_cast<int>(send(TBM_GETPOS))); });
+}
+
+WindowRecipe ScrollBarPeer::recipe() const { return {L"SCROLLBAR", WS_TABSTOP | WS_GROUP | SBS_VERT, 0}; }
+
+// The window counts from its top, 0 to the distance of the limits.
+int ScrollBarPeer::positionOf(int value) const { return std::abs(value - bar_.min()); }
+
+int ScrollBarPeer::valueAt(int position) const {
+  return bar_.min() <= bar_.max() ? bar_.min() + position : bar_.min() - position;
+}
+
+void ScrollBarPeer::fill() {
+  SCROLLINFO info{};
+  info.cbSize = sizeof(info);
+  info.fMask = SIF_RANGE | SIF_POS;
+  info.nMax = bar_.highest() - bar_.lowest();
+  info.nPos = positionOf(bar_.value());
+  SetScrollInfo(window(), SB_CTL, &info, TRUE);
+}
+
+void ScrollBarPeer::onChange(Change change) {
+  if (change == Change::Range || change == Change::Value) fill();
+}
+
+void ScrollBarPeer::onScroll(int code, int) {
+  if (deaf()) return;
+  SCROLLINFO info{};
+  info.cbSize = sizeof(info);
+  info.fMask = SIF_ALL;
+  GetScrollInfo(window(), SB_CTL, &info);
+  int position = positionOf(bar_.value());
+  switch (code) {
+    case SB_LINEUP:
+      position -= bar_.smallChange();
+      break;
+    case SB_LINEDOWN:
+      position += bar_.smallChange();
+      break;
+    case SB_PAGEUP:
+      position -= bar_.largeChange();
+      break;
+    case SB_PAGEDOWN:
+      position += bar_.largeChange();
+      break;
+    case SB_TOP:
+      position = info.nMin;
+      break;
+    case SB_BOTTOM:
+      position = info.nMax;
+      break;
+    case SB_THUMBTRACK:
+      position = info.nTrackPos;
+      break;
+    default:
+      return;
+  }
+  owner().raise([this, position] { bar_.userSetValue(valueAt(position)); });
+}
+
+}  // namespace forms

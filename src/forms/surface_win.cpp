@@ -1,0 +1,67 @@
+#include "forms/surface_win.h"
+
+#include <uxtheme.h>
+#include <vssym32.h>
+
+#include "os/dib_win.h"
+
+namespace forms {
+
+namespace {
+
+// These came with Windows 10; older systems have one number of dots per inch for everything.
+template <typename Function>
+Function* Newer(const char* name) {
+  const HMODULE user = GetModuleHandleW(L"user32.dll");
+  return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(user, name)));
+}
+
+}  // namespace
+
+int WindowDpi(HWND window) {
+  static auto* const ask = Newer<UINT WINAPI(HWND)>("GetDpiForWindow");
+  const UINT dpi = ask ? ask(window) : 0;
+  if (dpi > 0) return static_cast<int>(dpi);
+  return GetDeviceCaps(os::WindowDc(nullptr).get(), LOGPIXELSY);
+}
+
+os::OwnedFont MakeMessageFont(int dpi) {
+  static auto* const ask = Newer<BOOL WINAPI(UINT, UINT, PVOID, UINT, UINT)>("SystemParametersInfoForDpi");
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof(metrics);
+  if (ask && ask(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0, static_cast<UINT>(dpi))) {
+    return os::OwnedFont(CreateFontIndirectW(&metrics.lfMessageFont));
+  }
+  SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0);
+  const int systemDpi = GetDeviceCaps(os::WindowDc(nullptr).get(), LOGPIXELSY);
+  metrics.lfMessageFont.lfHeight = MulDiv(metrics.lfMessageFont.lfHeight, dpi, systemDpi);
+  return os::OwnedFont(CreateFontIndirectW(&metrics.lfMessageFont));
+}
+
+COLORREF ToColorRef(base::PackedColor color) {
+  if (base::IsSystemColor(color)) return GetSysColor(base::SystemColorIndex(color));
+  return static_cast<COLORREF>(color & 0xFFFFFF);
+}
+
+COLORREF TabPageColor(HWND tabControl) {
+  if (!IsAppThemed()) return GetSysColor(COLOR_BTNFACE);
+  const HTHEME theme = OpenThemeData(tabControl, L"TAB");
+  if (!theme) return GetSysColor(COLOR_BTNFACE);
+  constexpr int kSide = 64;
+  const os::Dib sample(base::PixelSize{kSide, kSide});
+  RECT area{0, 0, kSide, kSide};
+  const bool drawn = SUCCEEDED(DrawThemeBackground(theme, sample.dc(), TABP_BODY, 0, &area, nullptr));
+  CloseThemeData(theme);
+  if (!drawn) return GetSysColor(COLOR_BTNFACE);
+  return GetPixel(sample.dc(), kSide / 2, kSide / 2);
+}
+
+int LineHeight(HWND window, HFONT font) {
+  const os::WindowDc dc(window);
+  const os::Selected selected(dc.get(), font);
+  TEXTMETRICW metrics{};
+  GetTextMetricsW(dc.get(), &metrics);
+  return static_cast<int>(metrics.tmHeight);
+}
+
+}  // namespace forms

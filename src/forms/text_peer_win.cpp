@@ -1,0 +1,72 @@
+#include "forms/text_peer_win.h"
+
+#include <algorithm>
+#include <string>
+
+#include "forms/surface_win.h"
+#include "os/utf16_win.h"
+
+namespace forms {
+
+WindowRecipe LabelPeer::recipe() const {
+  DWORD align = SS_LEFTNOWORDWRAP;
+  if (label_.align == TextAlign::Right) align = SS_RIGHT;
+  if (label_.align == TextAlign::Center) align = SS_CENTER;
+  return {L"STATIC", WS_GROUP | SS_NOPREFIX | align, 0};
+}
+
+void LabelPeer::onChange(Change change) {
+  if (change == Change::Text) setWindowText(label_.caption());
+}
+
+WindowRecipe TextBoxPeer::recipe() const {
+  DWORD style = WS_TABSTOP | WS_GROUP | ES_AUTOHSCROLL;
+  if (box_.locked) style |= ES_READONLY;
+  if (box_.digitsOnly) style |= ES_NUMBER;
+  return {L"EDIT", style, WS_EX_CLIENTEDGE};
+}
+
+void TextBoxPeer::fill() {
+  if (box_.maxLength > 0) send(EM_SETLIMITTEXT, static_cast<WPARAM>(box_.maxLength));
+}
+
+// As high as its line needs, in the middle of its place: text never hangs at the upper edge.
+base::PixelRect TextBoxPeer::windowPlace() const {
+  base::PixelRect at = control_.pixelRect();
+  const int height = std::min(at.height, LineHeight(window(), owner().font()) + MulDiv(8, owner().dpi(), 96));
+  at.top += (at.height - height) / 2;
+  at.height = height;
+  return at;
+}
+
+std::string TextBoxPeer::shownText() const {
+  std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window())) + 1, L'\0');
+  text.resize(static_cast<std::size_t>(GetWindowTextW(window(), text.data(), static_cast<int>(text.size()))));
+  return os::FromWide(text);
+}
+
+void TextBoxPeer::onChange(Change change) {
+  if (change != Change::Text || shownText() == box_.text()) return;
+  setWindowText(box_.text());
+  // Whoever is typing goes on at the end.
+  const int end = GetWindowTextLengthW(window());
+  send(EM_SETSEL, static_cast<WPARAM>(end), end);
+}
+
+void TextBoxPeer::onCommand(int code) {
+  if (code == EN_CHANGE && !deaf()) owner().raise([this] { box_.userTyped(shownText()); });
+  if (code == EN_KILLFOCUS && box_.onLostFocus) owner().raise([this] { box_.onLostFocus(); });
+}
+
+HBRUSH TextBoxPeer::onColor(HDC dc, UINT) {
+  const COLORREF color = ToColorRef(box_.backColor());
+  if (color != backgroundColor_) {
+    background_.reset(CreateSolidBrush(color));
+    backgroundColor_ = color;
+  }
+  SetTextColor(dc, GetSysColor(box_.takesInput() ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT));
+  SetBkColor(dc, color);
+  return background_.get();
+}
+
+}  // namespace forms

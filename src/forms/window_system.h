@@ -1,0 +1,29 @@
+// What shows the program's forms as windows.
+#pragma once
+
+#include "base/geometry.h"
+
+namespace forms {
+
+class Form;
+
+// A form is loaded when it is shown for the first time: its window is made, onLoad runs, the window appears.
+class WindowSystem {
+ public:
+  virtual ~WindowSystem() = default;
+
+  // Shows a form; the others stay usable. A form that is shown comes to the front.
+  virtual void show(Form& form) = 0;
+
+  // Shows a form over the others, which take no input, and returns when it has been unloaded.
+  virtual void showModal(Form& form) = 0;
+
+  // Takes a form's window away; onUnload runs. Nothing happens when it is not loaded.
+  virtual void unload(Form& form) = 0;
+
+  // The primary screen, in twips of its forms.
+  virtual float screenWidthTwips() const = 0;
+  virtual float screenHeightTwips() const = 0;
+};
+
+}  // namespace forms

@@ -1,0 +1,132 @@
+#include "forms/window_system_win.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "base/twips.h"
+#include "forms/surface_win.h"
+
+namespace forms {
+
+namespace {
+
+void InitCommonControlsOnce() {
+  INITCOMMONCONTROLSEX classes{sizeof(classes), ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES};
+  InitCommonControlsEx(&classes);
+}
+
+float ScreenTwips(int metric) {
+  const int dpi = GetDeviceCaps(os::WindowDc(nullptr).get(), LOGPIXELSY);
+  return static_cast<float>(GetSystemMetrics(metric) * base::TwipsPerPixelForDpi(dpi));
+}
+
+}  // namespace
+
+WindowSystemWin::WindowSystemWin(os::EventLoop& loop, Guard guard) : loop_(loop), guard_(std::move(guard)) {
+  InitCommonControlsOnce();
+}
+
+WindowSystemWin::~WindowSystemWin() {
+  for (const auto& window : loaded_) window->form().setHost(nullptr);
+}
+
+void WindowSystemWin::raise(const std::function<void()>& event) {
+  ++running_;
+  guard_(event);
+  --running_;
+}
+
+FormWindow* WindowSystemWin::find(const Form& form) const {
+  for (const auto& window : loaded_) {
+    if (&window->form() == &form) return window.get();
+  }
+  return nullptr;
+}
+
+HWND WindowSystemWin::windowOf(const Form& form) const {
+  const FormWindow* window = find(form);
+  return window ? window->handle() : nullptr;
+}
+
+HWND WindowSystemWin::activeWindow() const {
+  const HWND active = GetActiveWindow();
+  HWND latest = nullptr;
+  for (const auto& window : loaded_) {
+    if (!IsWindowVisible(window->handle())) continue;
+    if (window->handle() == active) return active;
+    latest = window->handle();
+  }
+  return latest;
+}
+
+void WindowSystemWin::show(Form& form) {
+  if (FormWindow* shown = find(form)) {
+    shown->activate();
+    return;
+  }
+  const HWND owner = activeWindow();
+  loaded_.push_back(
+      std::make_unique<FormWindow>(form, [this](const std::function<void()>& event) { raise(event); }));
+  FormWindow* window = loaded_.back().get();
+  form.setHost(window);
+  if (!form.onCloseRequest) form.onCloseRequest = [this, &form] { unload(form); };
+  window->make(owner);
+  if (form.onLoad) form.onLoad();
+  if (find(form) == window) window->present();
+}
+
+void WindowSystemWin::showModal(Form& form) {
+  show(form);
+  if (!find(form)) return;
+  Modal modal{&form, {}};
+  for (const auto& window : loaded_) {
+    if (&window->form() == &form || !IsWindowEnabled(window->handle())) continue;
+    EnableWindow(window->handle(), FALSE);
+    modal.disabled.push_back(window->handle());
+  }
+  modals_.push_back(std::move(modal));
+  while (find(form) && !loop_.isQuitting()) loop_.waitUntil(std::numeric_limits<std::int64_t>::max());
+}
+
+// The others take input again before the window goes, so that one of them is activated in its place.
+void WindowSystemWin::endModal(const Form& form) {
+  const auto at =
+      std::find_if(modals_.begin(), modals_.end(), [&](const Modal& modal) { return modal.form == &form; });
+  if (at == modals_.end()) return;
+  for (const HWND window : at->disabled) EnableWindow(window, TRUE);
+  modals_.erase(at);
+}
+
+void WindowSystemWin::unload(Form& form) {
+  const auto at = std::find_if(loaded_.begin(), loaded_.end(),
+                               [&](const auto& window) { return &window->form() == &form; });
+  if (at == loaded_.end()) return;
+  std::unique_ptr<FormWindow> window = std::move(*at);
+  loaded_.erase(at);
+  form.setHost(nullptr);
+  endModal(form);
+  window->close();
+  closed_.push_back(std::move(window));
+  if (form.onUnload) form.onUnload();
+}
+
+bool WindowSystemWin::filterMessage(MSG& message) {
+  if (running_ == 0) closed_.clear();
+  std::vector<FormWindow*> windows;
+  for (const auto& window : loaded_) windows.push_back(window.get());
+  for (FormWindow* window : windows) {
+    const bool loaded = std::any_of(loaded_.begin(), loaded_.end(),
+                                    [window](const auto& each) { return each.get() == window; });
+    if (loaded && window->filter(message)) return true;
+  }
+  return false;
+}
+
+float WindowSystemWin::screenWidthTwips() const { return ScreenTwips(SM_CXSCREEN); }
+
+float WindowSystemWin::screenHeightTwips() const { return ScreenTwips(SM_CYSCREEN); }
+
+}  // namespace forms

@@ -1,0 +1,117 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "dialog/hint_table.h"
+#include "support/dialog_machine.h"
+
+namespace dialog {
+namespace {
+
+// Moves the pointer over the real dialog and reads what the status bar says.
+struct Form2Hints : testing::Test {
+  support::DialogMachine machine;
+  Form2& form = machine.open();
+
+  // Shows the tab on which a control stands.
+  void reveal(const forms::Control& control) {
+    for (int i = 0; i < form.SSTab1.tabCount(); ++i) {
+      for (const forms::Control* on = &control; on; on = on->container()) {
+        if (on == &form.SSTab1.page(i)) form.SSTab1.setTab(i);
+      }
+    }
+  }
+
+  static base::TwipsPoint cornerOf(const forms::Control& control) {
+    base::TwipsPoint corner;
+    for (const forms::Control* on = &control; on; on = on->container()) {
+      corner.x += on->left();
+      corner.y += on->top();
+    }
+    return corner;
+  }
+
+  std::string over(forms::Control& control, float dx = 45, float dy = 45) {
+    reveal(control);
+    const base::TwipsPoint corner = cornerOf(control);
+    form.userMovedMouse(corner.x + dx, corner.y + dy);
+    return form.SS_StatusBar.panelText(1);
+  }
+};
+
+TEST_F(Form2Hints, EveryRowShowsItsHintOverItsControl) {
+  EXPECT_EQ(HintTable().size(), 39U);
+  for (const HintRow& row : HintTable()) {
+    SCOPED_TRACE(row.control);
+    forms::Control* control = form.find(row.control);
+    ASSERT_TRUE(control);
+    // What the choices disable is tried enabled.
+    for (forms::Control* on = control; on; on = on->container()) on->setEnabled(true);
+    form.SS_StatusBar.setPanelText(1, "before");
+    EXPECT_EQ(over(*control), row.hint);
+  }
+}
+
+TEST_F(Form2Hints, SomeHintsWordForWord) {
+  EXPECT_EQ(over(form.Ok), "Save Settings: Save all screen saver settings");
+  EXPECT_EQ(over(form.ImagePosition),
+            "Image Postion: Position of image within a group of images to be displayed");
+  EXPECT_EQ(over(form.Frame2), "Countdown: Countdown to a special date in your screen saver");
+  EXPECT_EQ(over(form.Label13), over(form.PercentSlider));
+  EXPECT_EQ(over(form.Label13), "Image Size: Display all loaded images less than a percentage of the screen");
+}
+
+TEST_F(Form2Hints, TheBareFormTheTabsAndFourFramesClear) {
+  for (forms::Control* control : std::initializer_list<forms::Control*>{
+           &form.SSTab1, &form.Frame1, &form.Frame3, &form.Frame6, &form.placement}) {
+    form.SS_StatusBar.setPanelText(1, "before");
+    EXPECT_EQ(over(*control), "") << control->name();
+  }
+  for (int i = 0; i < form.SSTab1.tabCount(); ++i) {
+    form.SS_StatusBar.setPanelText(1, "before");
+    EXPECT_EQ(over(form.SSTab1.page(i)), "") << i;
+  }
+  form.SS_StatusBar.setPanelText(1, "before");
+  form.userMovedMouse(15, 15);
+  EXPECT_EQ(form.SS_StatusBar.panelText(1), "");
+}
+
+TEST_F(Form2Hints, EveryOtherControlLeavesTheHintStanding) {
+  std::set<std::string_view> known = {"photo", "photo_caption"};
+  for (const HintRow& row : HintTable()) known.insert(row.control);
+  for (const std::string_view name : HintClearingControls()) known.insert(name);
+  int others = 0;
+  for (forms::Control* control : form.controls()) {
+    if (known.contains(control->name()) || control->kind() == forms::ControlKind::TabPage) continue;
+    for (forms::Control* on = control; on; on = on->container()) on->setEnabled(true);
+    form.SS_StatusBar.setPanelText(1, "before");
+    EXPECT_EQ(over(*control), "before") << control->name();
+    ++others;
+  }
+  EXPECT_GT(others, 40);
+}
+
+TEST_F(Form2Hints, AHintStandsFromAFrameOntoItsCheckBoxes) {
+  const std::string hint = over(form.Frame4);
+  EXPECT_EQ(hint, "Image transitions: Image effects on loaded images");
+  EXPECT_EQ(over(form.Fade), hint);
+}
+
+TEST_F(Form2Hints, ADisabledControlSpeaksForWhatItStandsOn) {
+  form.nChange.userClicked();
+  form.SS_StatusBar.setPanelText(1, "before");
+  EXPECT_EQ(over(form.Text2), "") << "its frame clears";
+  form.backgroundDesktop.userClicked();
+  form.SS_StatusBar.setPanelText(1, "before");
+  EXPECT_EQ(over(form.frameColorGradient), "") << "the tab control clears";
+}
+
+TEST_F(Form2Hints, AControlOfAnotherTabDoesNotSpeak) {
+  reveal(form.Frame5);
+  const base::TwipsPoint corner = cornerOf(form.List1);
+  form.userMovedMouse(corner.x + 45, corner.y + 3000);
+  EXPECT_EQ(form.SS_StatusBar.panelText(1), "");
+}
+
+}  // namespace
+}  // namespace dialog

@@ -1,0 +1,101 @@
+#include <gtest/gtest.h>
+
+#include "dialog/control_table.h"
+#include "support/dialog_machine.h"
+
+namespace dialog {
+namespace {
+
+struct DialogLayout : testing::Test {
+  support::DialogMachine machine;
+  Form2& form = machine.open();
+};
+
+TEST_F(DialogLayout, TheTablesNameEveryControlOnce) {
+  for (const forms::Control* control : form.controls()) {
+    if (control->kind() == forms::ControlKind::TabPage) continue;
+    int rows = 0;
+    for (const ControlRow& row : ControlTable()) rows += row.name == control->name() ? 1 : 0;
+    EXPECT_EQ(rows, 1) << control->name();
+  }
+  for (const ControlRow& row : ControlTable()) EXPECT_TRUE(form.find(row.name)) << row.name;
+}
+
+TEST_F(DialogLayout, EveryControlLiesInsideWhatItStandsOn) {
+  for (const forms::Control* control : form.controls()) {
+    if (control->name() == "photo" || control->name() == "photo_caption") continue;
+    const float width = control->container() ? control->container()->width() : form.clientWidth;
+    const float height = control->container() ? control->container()->height() : form.clientHeight;
+    EXPECT_GE(control->left(), 0) << control->name();
+    EXPECT_GE(control->top(), 0) << control->name();
+    EXPECT_LE(control->left() + control->width(), width) << control->name();
+    EXPECT_LE(control->top() + control->height(), height) << control->name();
+  }
+}
+
+TEST_F(DialogLayout, NothingOverlaps) {
+  const auto& controls = form.controls();
+  for (std::size_t i = 0; i < controls.size(); ++i) {
+    for (std::size_t j = i + 1; j < controls.size(); ++j) {
+      const forms::Control& a = *controls[i];
+      const forms::Control& b = *controls[j];
+      if (a.container() != b.container() || a.kind() == forms::ControlKind::TabPage) continue;
+      if (!a.visible() || !b.visible()) continue;
+      EXPECT_TRUE(a.pixelRect().intersected(b.pixelRect()).isEmpty()) << a.name() << " and " << b.name();
+    }
+  }
+}
+
+TEST_F(DialogLayout, NoNumberOfDotsPerInchMakesControlsOverlap) {
+  for (const int perPixel : {15, 12, 10, 8}) {
+    struct Host : support::FakeWindowSystem {
+      int twips = 15;
+      int twipsPerPixel() const override { return twips; }
+    } host;
+    host.twips = perPixel;
+    form.setHost(&host);
+    const auto& controls = form.controls();
+    for (std::size_t i = 0; i < controls.size(); ++i) {
+      for (std::size_t j = i + 1; j < controls.size(); ++j) {
+        const forms::Control& a = *controls[i];
+        const forms::Control& b = *controls[j];
+        if (a.container() != b.container() || a.kind() == forms::ControlKind::TabPage) continue;
+        if (!a.visible() || !b.visible()) continue;
+        EXPECT_TRUE(a.pixelRect().intersected(b.pixelRect()).isEmpty()) << a.name() << " and " << b.name();
+      }
+    }
+    form.setHost(&machine.windows);
+  }
+}
+
+// Seven pixels to the letter is what the widest system dialog font takes in the mean.
+TEST_F(DialogLayout, EveryCaptionHasRoom) {
+  for (const forms::Control* control : form.controls()) {
+    std::string text;
+    int extra = 0;
+    if (const auto* label = dynamic_cast<const forms::Label*>(control)) text = label->caption();
+    if (const auto* captioned = dynamic_cast<const forms::CaptionedControl*>(control)) {
+      text = captioned->caption();
+      extra = control->kind() == forms::ControlKind::CommandButton ? 12 : 18;
+    }
+    std::erase(text, '&');
+    EXPECT_LE(static_cast<int>(text.size()) * 13 / 2 + extra, control->pixelRect().width) << control->name();
+  }
+}
+
+TEST_F(DialogLayout, EveryControlThatTakesTheKeyboardHasAName) {
+  using enum forms::ControlKind;
+  for (const forms::Control* control : form.controls()) {
+    const forms::ControlKind kind = control->kind();
+    if (!control->visible()) continue;
+    if (kind == Slider || kind == TextBox || kind == ComboBox || kind == ListBox || kind == ScrollBar) {
+      EXPECT_NE(control->accessibleName(), "") << control->name();
+    }
+    if (const auto* button = dynamic_cast<const forms::CaptionedControl*>(control)) {
+      EXPECT_NE(button->caption() + button->accessibleName(), "") << control->name();
+    }
+  }
+}
+
+}  // namespace
+}  // namespace dialog
