@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "base/twips.h"
+#include "dialog/dialog_win.h"
 #include "os/ansi_code_page_win.h"
 #include "os/clock_win.h"
 #include "os/cursor_win.h"
@@ -107,6 +108,11 @@ void DrawPreview(Machine& machine, const std::string& commandText) {
                        {window, machine.loop, machine.clock, machine.only}, [&] { machine.loop.quit(); });
 }
 
+int OpenDialog(Machine& machine) {
+  return dialog::RunDialog({machine.loop, machine.files, machine.ansi, machine.pictures},
+                           machine.program.folder());
+}
+
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
@@ -116,15 +122,16 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
   startup::SystemRestore restore(machine.taskbar, machine.cursor, machine.flags);
   const startup::CrashGuard guard(restore);
   std::unique_ptr<SaverMode> saver;
+  int exitCode = 0;
   const startup::RunModes modes{
       .showSaver =
           [&](const os::SystemFacts& facts) { saver = std::make_unique<SaverMode>(machine, restore, facts); },
-      .showDialog = [] {},
+      .showDialog = [&] { exitCode = OpenDialog(machine); },
       .drawPreview = [&](const std::string& text) { DrawPreview(machine, text); }};
   startup::Main(
       startup::TextAfterProgramName(machine.program.commandLine(), machine.program.path()),
       {machine.version, machine.registry, machine.only, machine.passwords, restore, restore, machine.screen},
       modes);
   if (saver) machine.loop.run();
-  return 0;
+  return exitCode;
 }
