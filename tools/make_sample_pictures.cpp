@@ -1,0 +1,61 @@
+// Paints the pictures that come with the program: the two samples, its icon, the little preview.
+//   make_sample_pictures [folder of the sources]
+// The same pictures come out in every run.
+#include <cstdio>
+#include <fstream>
+#include <string>
+
+#include "pictures/dusk_landscape.h"
+#include "pictures/gif_writer.h"
+#include "pictures/icon.h"
+#include "pictures/night_sky.h"
+#include "pictures/preview.h"
+
+namespace {
+
+constexpr base::PixelSize kSampleSize{1600, 900};
+
+bool Write(const std::string& path, const std::string& content) {
+  std::ofstream file(path, std::ios::binary);
+  file << content;
+  file.close();
+  std::printf("%s: %zu bytes%s\n", path.c_str(), content.size(), file ? "" : ", FAILED");
+  return static_cast<bool>(file);
+}
+
+std::string Sample(const pictures::Scene& scene) {
+  const pictures::Scene part = pictures::PartOf(scene, 0.0F, 0.06F, 0.9F);
+  return GifFile(ReduceColors(Paint(part, kSampleSize, 3), 1.0F));
+}
+
+// A source file with the bytes of a file in it.
+std::string AsSource(const std::string& bytes) {
+  std::string text =
+      "// Made by tools/make_sample_pictures.cpp; do not edit.\n"
+      "#include \"startup/preview_image_data.h\"\n\n"
+      "namespace startup {\n\n"
+      "// clang-format off\n"
+      "const unsigned char kPreviewImageFile[] = {";
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    text += i % 24 == 0 ? "\n    " : " ";
+    text += std::to_string(static_cast<unsigned char>(bytes[i]));
+    text += ',';
+  }
+  return text +
+         "\n};\n// clang-format on\n\n"
+         "const std::size_t kPreviewImageFileSize = sizeof kPreviewImageFile;\n\n"
+         "}  // namespace startup\n";
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const std::string root = argc > 1 ? argv[1] : LUMORA_SOURCE_DIR;
+  const std::string preview = GifFile(pictures::ReduceColors(pictures::PreviewPicture(), 1.0F));
+  const bool done =
+      Write(root + "/assets/lumora.ico", pictures::IconFile({16, 20, 24, 32, 40, 48, 64, 96, 128, 256})) &&
+      Write(root + "/src/startup/preview_image_data.cpp", AsSource(preview)) &&
+      Write(root + "/assets/image1.gif", Sample(pictures::DuskLandscape())) &&
+      Write(root + "/assets/image2.gif", Sample(pictures::NightSky()));
+  return done ? 0 : 1;
+}

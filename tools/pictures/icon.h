@@ -1,0 +1,12 @@
+// The program's icon: a glowing framed picture of mountains at dusk.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace pictures {
+
+// An icon file with a 32-bit picture of each side length, drawn anew for each.
+std::string IconFile(const std::vector<int>& sides);
+
+}  // namespace pictures
