@@ -1,8 +1,11 @@
-// The settings dialog as the program's whole life.
+// The settings dialog on real windows, as the program's whole life.
 #pragma once
 
 #include <string>
 
+#include "dialog/form2.h"
+#include "forms/dialogs_win.h"
+#include "forms/window_system_win.h"
 #include "os/ansi_code_page.h"
 #include "os/event_loop_win.h"
 #include "os/files.h"
@@ -18,7 +21,23 @@ struct DialogMachineWin {
   os::PictureLoader& pictures;
 };
 
-// Shows the settings dialog and runs the event loop until it is closed. Returns the program's exit code.
-int RunDialog(const DialogMachineWin& machine, const std::string& programFolder);
+class SettingsDialogWin {
+ public:
+  // Shows the dialog; the caller then runs the event loop, which ends when the dialog is closed.
+  SettingsDialogWin(const DialogMachineWin& machine, const std::string& programFolder);
+  ~SettingsDialogWin();
+  SettingsDialogWin(const SettingsDialogWin&) = delete;
+  SettingsDialogWin& operator=(const SettingsDialogWin&) = delete;
+
+  Form2& form() { return form_; }
+  forms::WindowSystemWin& windows() { return windows_; }
+
+ private:
+  os::EventLoopWin& loop_;
+  forms::WindowSystemWin windows_;
+  forms::DialogsWin dialogs_;
+  Form2 form_;
+  int filter_;
+};
 
 }  // namespace dialog
