@@ -32,8 +32,15 @@ if(LUMORA_TESTS)
   target_link_libraries(lumora_win_tests PRIVATE lumora_win_support gtest_main)
   target_link_options(lumora_win_tests PRIVATE -static)
 
+  # Stands in for a library of the older Windows family in the end-to-end tests.
+  add_library(password_stand_in MODULE tests/e2e/stand_ins/password_stand_in_win.cpp)
+  set_target_properties(password_stand_in PROPERTIES PREFIX "")
+  target_link_libraries(password_stand_in PRIVATE lumora_flags)
+  target_link_options(password_stand_in PRIVATE -static)
+
   file(GLOB e2e_sources CONFIGURE_DEPENDS tests/e2e/*.cpp)
   add_executable(lumora_e2e ${e2e_sources})
   target_link_libraries(lumora_e2e PRIVATE lumora_win_support gtest)
   target_link_options(lumora_e2e PRIVATE -static)
+  add_dependencies(lumora_e2e password_stand_in)
 endif()

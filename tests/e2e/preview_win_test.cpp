@@ -1,0 +1,93 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "e2e/program_folder.h"
+#include "e2e/running_program.h"
+#include "os/handles_win.h"
+#include "startup/preview_image.h"
+
+namespace {
+
+// A top-level window of this process that plays the control panel's little monitor, grey inside.
+class Monitor {
+ public:
+  explicit Monitor(base::PixelSize size)
+      : window_(CreateWindowExW(WS_EX_TOPMOST, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 100, 100, size.width,
+                                size.height, nullptr, nullptr, nullptr, nullptr)),
+        size_(size) {
+    repaint();
+  }
+
+  // Draws the inside anew, as the control panel does.
+  void repaint() {
+    const os::WindowDc dc(window_.get());
+    const RECT whole{0, 0, size_.width, size_.height};
+    const os::OwnedBrush brush(CreateSolidBrush(RGB(90, 90, 90)));
+    FillRect(dc.get(), &whole, brush.get());
+  }
+
+  std::wstring handle() const { return std::to_wstring(reinterpret_cast<std::uintptr_t>(window_.get())); }
+
+  base::Bitmap look() const {
+    base::Bitmap cut(size_);
+    base::CopyRect(cut.view(), {0, 0}, e2e::ReadScreen(), {100, 100, size_.width, size_.height});
+    return cut;
+  }
+
+ private:
+  os::OwnedWindow window_;
+  base::PixelSize size_;
+};
+
+base::Bitmap Expected(base::PixelSize size) {
+  base::Bitmap picture(size, 0xFF5A5A5AU);
+  base::CopyRect(picture.view(), {0, 0}, startup::PreviewImage(), {0, 0, 160, 120});
+  return picture;
+}
+
+TEST(Preview, IsDrawnOnceIntoTheGivenWindowAndEnds) {
+  e2e::ProgramFolder folder;
+  folder.writeSettings();
+  Monitor monitor({160, 120});
+  e2e::RunningProgram preview(folder.program(), L"/p " + monitor.handle());
+  EXPECT_TRUE(preview.waitForEnd());
+  EXPECT_EQ(preview.exitCode(), 0U);
+  EXPECT_TRUE(e2e::WaitFor([&] { return monitor.look() == Expected({160, 120}); }, 3000));
+}
+
+TEST(Preview, ALargerWindowShowsThePictureInItsTopLeftCornerOnly) {
+  e2e::ProgramFolder folder;
+  folder.writeSettings();
+  Monitor monitor({320, 240});
+  e2e::RunningProgram preview(folder.program(), L"/P:" + monitor.handle());
+  EXPECT_TRUE(preview.waitForEnd());
+  EXPECT_TRUE(e2e::WaitFor([&] { return monitor.look() == Expected({320, 240}); }, 3000));
+}
+
+TEST(Preview, AHandleThatIsNoWindowEndsQuietlyWithoutDrawing) {
+  e2e::ProgramFolder folder;
+  folder.writeSettings();
+  const base::Bitmap before = e2e::ReadScreen();
+  e2e::RunningProgram preview(folder.program(), L"/p 4711471");
+  EXPECT_TRUE(preview.waitForEnd());
+  EXPECT_EQ(preview.exitCode(), 0U);
+  EXPECT_EQ(e2e::ReadScreen(), before);
+}
+
+TEST(Preview, ALivePreviewIsDrawnAgainWhenItWasLostAndEndsWithItsWindow) {
+  e2e::ProgramFolder folder;
+  folder.set("extras/livePreview", "1");
+  folder.writeSettings();
+  auto monitor = std::make_unique<Monitor>(base::PixelSize{160, 120});
+  e2e::RunningProgram preview(folder.program(), L"/p " + monitor->handle());
+  ASSERT_TRUE(e2e::WaitFor([&] { return monitor->look() == Expected({160, 120}); }));
+  monitor->repaint();
+  EXPECT_TRUE(e2e::WaitFor([&] { return monitor->look() == Expected({160, 120}); }));
+  EXPECT_TRUE(preview.isRunning());
+  monitor.reset();
+  EXPECT_TRUE(preview.waitForEnd());
+}
+
+}  // namespace
