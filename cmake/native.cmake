@@ -1,15 +1,5 @@
 # The portable code, its tests and the tools, on the machine that builds.
 
-# Only the files that read something of the source tree know where it is, so that a compiler cache serves
-# every other one from any checkout.
-foreach(source ${test_sources} ${support_sources})
-  file(STRINGS ${source} mentions REGEX "LUMORA_SOURCE_DIR" LIMIT_COUNT 1)
-  if(mentions)
-    set_source_files_properties(${source} PROPERTIES
-      COMPILE_DEFINITIONS "LUMORA_SOURCE_DIR=\"${CMAKE_SOURCE_DIR}\"")
-  endif()
-endforeach()
-
 if(LUMORA_TESTS)
   add_executable(lumora_tests ${test_sources})
   target_link_libraries(lumora_tests PRIVATE lumora_support gtest_main)

@@ -24,7 +24,6 @@ target_link_options(Lumora PRIVATE -municode -static -s -Wl,--gc-sections
 target_compile_options(lumora_flags INTERFACE -ffunction-sections -fdata-sections)
 
 if(LUMORA_TESTS)
-  target_compile_definitions(lumora_support PUBLIC LUMORA_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
   add_library(lumora_win_support STATIC EXCLUDE_FROM_ALL ${windows_support_sources} tests/support/empty.cpp)
   target_link_libraries(lumora_win_support PUBLIC lumora_support lumora_win)
 
