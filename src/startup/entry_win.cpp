@@ -108,11 +108,6 @@ void DrawPreview(Machine& machine, const std::string& commandText) {
                        {window, machine.loop, machine.clock, machine.only}, [&] { machine.loop.quit(); });
 }
 
-int OpenDialog(Machine& machine) {
-  return dialog::RunDialog({machine.loop, machine.files, machine.ansi, machine.pictures},
-                           machine.program.folder());
-}
-
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
@@ -122,16 +117,21 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
   startup::SystemRestore restore(machine.taskbar, machine.cursor, machine.flags);
   const startup::CrashGuard guard(restore);
   std::unique_ptr<SaverMode> saver;
-  int exitCode = 0;
+  std::unique_ptr<dialog::SettingsDialogWin> settings;
   const startup::RunModes modes{
       .showSaver =
           [&](const os::SystemFacts& facts) { saver = std::make_unique<SaverMode>(machine, restore, facts); },
-      .showDialog = [&] { exitCode = OpenDialog(machine); },
+      .showDialog =
+          [&] {
+            settings = std::make_unique<dialog::SettingsDialogWin>(
+                dialog::DialogMachineWin{machine.loop, machine.files, machine.ansi, machine.pictures},
+                machine.program.folder());
+          },
       .drawPreview = [&](const std::string& text) { DrawPreview(machine, text); }};
   startup::Main(
       startup::TextAfterProgramName(machine.program.commandLine(), machine.program.path()),
       {machine.version, machine.registry, machine.only, machine.passwords, restore, restore, machine.screen},
       modes);
-  if (saver) machine.loop.run();
-  return exitCode;
+  if (saver || settings) machine.loop.run();
+  return 0;
 }
