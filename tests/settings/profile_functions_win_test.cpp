@@ -35,12 +35,17 @@ class ProfileFunctions : public testing::Test {
  protected:
   ProfileFunctions() : path_(folder_.path() + "\\zbfaone.ini"), ansiPath_(ansi_.encode(path_).value()) {}
 
+  // Each file gets a write time of its own, well in the past: Wine keeps a parsed file while its time stays
+  // the same, but parses one that is younger than 2.1 seconds again at every call.
   void write(const std::string& content) {
     const HANDLE file = CreateFileA(ansiPath_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
     DWORD written = 0;
     WriteFile(file, content.data(), static_cast<DWORD>(content.size()), &written, nullptr);
+    const FILETIME time{0, 0x01D00000 + ++writes_};
+    const BOOL aged = SetFileTime(file, nullptr, nullptr, &time);
     CloseHandle(file);
     ASSERT_EQ(written, content.size());
+    ASSERT_NE(aged, FALSE);
   }
 
   std::string content() { return files_.read(path_).value_or("(no file)"); }
@@ -89,6 +94,7 @@ class ProfileFunctions : public testing::Test {
            bytes.find('\'' + value + '\'') != std::string::npos;
   }
 
+  DWORD writes_ = 0;
   os::AnsiCodePageWin ansi_;
   os::FilesWin files_;
   support::TemporaryFolder folder_;
