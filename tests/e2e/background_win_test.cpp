@@ -2,7 +2,6 @@
 
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
-#include "os/handles_win.h"
 
 namespace {
 
@@ -31,13 +30,10 @@ TEST(Background, TheDesktopIsShownWhereTheDesktopWas) {
   const HWND note = CreateWindowExW(WS_EX_TOPMOST, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 300, 200, 400, 300,
                                     nullptr, nullptr, nullptr, nullptr);
   ASSERT_NE(note, nullptr);
-  {
-    const os::WindowDc dc(note);
-    const RECT whole{0, 0, 400, 300};
-    const os::OwnedBrush brush(CreateSolidBrush(RGB(12, 200, 34)));
-    FillRect(dc.get(), &whole, brush.get());
-  }
-  ASSERT_TRUE(ComesTo(500, 350, 0xFF0CC822U));
+  ASSERT_TRUE(e2e::WaitFor([&] {
+    e2e::PaintWindow(note, RGB(12, 200, 34));
+    return e2e::ScreenPixel(500, 350) == 0xFF0CC822U;
+  }));
   e2e::ProgramFolder folder;
   folder.set("background/backEffect", "1");
   folder.writeSettings();

@@ -43,8 +43,7 @@ TEST_F(EndingTest, TheTaskbarIsHiddenDuringTheShowAndComesBackAfterAKey) {
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
   EXPECT_TRUE(taskbar.comesToBe(false));
-  e2e::PressKey(VK_SPACE);
-  EXPECT_TRUE(show.waitForEnd());
+  EXPECT_TRUE(show.endsByKey());
   EXPECT_TRUE(taskbar.comesToBe(true));
 }
 

@@ -135,8 +135,7 @@ TEST(Instances, ASecondShowEndsSilentlyWithEverySwitch) {
     EXPECT_EQ(second.exitCode(), 0U);
   }
   EXPECT_TRUE(first.isRunning());
-  e2e::PressKey(VK_SPACE);
-  EXPECT_TRUE(first.waitForEnd());
+  EXPECT_TRUE(first.endsByKey());
 }
 
 TEST(CommandLine, EveryFormThatMeansTheShowStartsTheShow) {
@@ -145,8 +144,7 @@ TEST(CommandLine, EveryFormThatMeansTheShowStartsTheShow) {
   for (const wchar_t* arguments : {L"/s", L"  /S  ", L"", L"xyz", L"/SCREEN", L"-s"}) {
     e2e::RunningProgram show(folder.program(), arguments);
     EXPECT_NE(show.waitForShow(), nullptr) << os::FromWide(arguments);
-    e2e::PressKey(VK_SPACE);
-    EXPECT_TRUE(show.waitForEnd()) << os::FromWide(arguments);
+    EXPECT_TRUE(show.endsByKey()) << os::FromWide(arguments);
   }
 }
 

@@ -47,8 +47,7 @@ TEST(PictureCycle, ThreePicturesAppearInOrderCentredEachAtItsComputedSize) {
   EXPECT_TRUE(ComesToFill(kBlue, Centred({screen.width / 2, screen.width / 8})));
   EXPECT_TRUE(ComesToFill(kRed, Centred({600, 400}))) << "after the last picture comes the first";
   EXPECT_EQ(e2e::ScreenPixel(2, 2), kBlackPixel);
-  e2e::PressKey(VK_SPACE);
-  EXPECT_TRUE(show.waitForEnd());
+  EXPECT_TRUE(show.endsByKey());
   EXPECT_EQ(show.exitCode(), 0U);
 }
 
@@ -72,8 +71,7 @@ TEST(PictureCycle, ThePicturesOfTheDesignAppearWithTheirSizes) {
     return green.width == screen.height * 99 * 9 / 1000;
   })) << green.width;
   EXPECT_NEAR(green.height, screen.height * 99 / 100, 1);
-  e2e::PressKey(VK_ESCAPE);
-  EXPECT_TRUE(show.waitForEnd());
+  EXPECT_TRUE(show.endsByKey());
 }
 
 TEST(PictureCycle, APictureThatCannotBeLoadedIsPassedOverInSilence) {
@@ -89,8 +87,7 @@ TEST(PictureCycle, APictureThatCannotBeLoadedIsPassedOverInSilence) {
   EXPECT_TRUE(ComesToFill(kRed, {})) << "the missing picture's turn shows the background";
   EXPECT_TRUE(ComesToFill(kRed, Centred({200, 100})));
   EXPECT_TRUE(show.isRunning());
-  e2e::PressKey(VK_SPACE);
-  EXPECT_TRUE(show.waitForEnd());
+  EXPECT_TRUE(show.endsByKey());
 }
 
 TEST(PictureCycle, WithNoPictureAtAllTheShowRunsAndEndsLikeAnyOther) {
@@ -100,8 +97,7 @@ TEST(PictureCycle, WithNoPictureAtAllTheShowRunsAndEndsLikeAnyOther) {
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
   EXPECT_TRUE(ComesToFill(kRed, base::PixelRect::ofSize(e2e::ScreenSize())));
-  e2e::ClickMouse();
-  EXPECT_TRUE(show.waitForEnd());
+  EXPECT_TRUE(show.endsByKey());
 }
 
 }  // namespace

@@ -17,16 +17,14 @@ class Monitor {
       : window_(CreateWindowExW(WS_EX_TOPMOST, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 100, 100, size.width,
                                 size.height, nullptr, nullptr, nullptr, nullptr)),
         size_(size) {
-    repaint();
+    e2e::WaitFor([this] {
+      repaint();
+      return look() == base::Bitmap(size_, 0xFF5A5A5AU);
+    });
   }
 
   // Draws the inside anew, as the control panel does.
-  void repaint() {
-    const os::WindowDc dc(window_.get());
-    const RECT whole{0, 0, size_.width, size_.height};
-    const os::OwnedBrush brush(CreateSolidBrush(RGB(90, 90, 90)));
-    FillRect(dc.get(), &whole, brush.get());
-  }
+  void repaint() { e2e::PaintWindow(window_.get(), RGB(90, 90, 90)); }
 
   std::wstring handle() const { return std::to_wstring(reinterpret_cast<std::uintptr_t>(window_.get())); }
 

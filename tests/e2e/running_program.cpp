@@ -43,6 +43,15 @@ bool RunningProgram::isRunning() const {
   return process_ && WaitForSingleObject(process_, 0) == WAIT_TIMEOUT;
 }
 
+bool RunningProgram::endsByKey(int limitMs) {
+  const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(limitMs);
+  while (isRunning() && GetTickCount64() < end) {
+    PressKey(VK_SPACE);
+    waitForEnd(200);
+  }
+  return !isRunning();
+}
+
 bool RunningProgram::waitForEnd(int limitMs) {
   return WaitFor([&] { return !isRunning(); }, limitMs);
 }
@@ -70,6 +79,18 @@ HWND RunningProgram::waitForShow() const {
     return window != nullptr || !isRunning();
   });
   return window;
+}
+
+void PaintWindow(HWND window, COLORREF color) {
+  UpdateWindow(window);
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+  const os::WindowDc dc(window);
+  RECT whole;
+  GetClientRect(window, &whole);
+  const os::OwnedBrush brush(CreateSolidBrush(color));
+  FillRect(dc.get(), &whole, brush.get());
+  GdiFlush();
 }
 
 base::Bitmap ReadScreen() { return os::ScreenWin().copyDesktop(); }

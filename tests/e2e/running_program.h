@@ -28,6 +28,10 @@ class RunningProgram {
   HANDLE process() const { return process_; }
   bool isRunning() const;
 
+  // Presses a key again and again until the process ends: a key that comes before the window has the keyboard
+  // is somebody else's. False when the process still runs after the limit.
+  bool endsByKey(int limitMs = 15000);
+
   // Waits for the end; false when the process still runs after the limit.
   bool waitForEnd(int limitMs = 15000);
   DWORD exitCode() const;
@@ -42,6 +46,9 @@ class RunningProgram {
   HANDLE process_ = nullptr;
   DWORD processId_ = 0;
 };
+
+// Paints the whole inside of a window of this process, after everything that was waiting to be painted there.
+void PaintWindow(HWND window, COLORREF color);
 
 // What the primary screen shows now.
 base::Bitmap ReadScreen();
