@@ -102,6 +102,14 @@ TEST(CenteredImage, WithAnOddMarginStandsInThePixelInWhichItsHalfLies) {
   EXPECT_EQ(composed.at(1, 2), kGround);
 }
 
+TEST(CenteredImage, WithHalfAPixelOfMarginStandsInThePixelWhichThatCuts) {
+  const Bitmap fine =
+      Composed({5, 5}, ImageLayout::Centered, {8, 8}, 12);  // half of 36 twips is a pixel and a half
+  EXPECT_EQ(fine.at(1, 1), 0xFF000000U);
+  const Bitmap larger = Composed({13, 13}, ImageLayout::Centered, {8, 8}, 12);  // -2.5 pixels lie in pixel -3
+  EXPECT_EQ(larger.at(0, 0), 0xFF000303U);
+}
+
 TEST(CenteredImage, LargerThanTheScreenShowsItsMiddle) {
   EXPECT_EQ(Composed({20, 12}, ImageLayout::Centered, {10, 8}).at(0, 0), 0xFF000502U);
 }

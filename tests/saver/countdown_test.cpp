@@ -189,6 +189,14 @@ TEST_F(WidestCountdown, HasAsManyDigitsAsEverComeUp) {
   EXPECT_EQ(WidestCountdownText({-1, 23, 59, 60}, widthOf), "-1days  23hours  59minutes  60seconds  ");
 }
 
+TEST_F(WidestCountdown, ReachesFromOneSecondToSixty) {
+  widths.fill(1);
+  widths['6'] = widths['0'] = 50;
+  EXPECT_TRUE(WidestCountdownText({5, 0, 0, 30}, widthOf).ends_with("  60seconds  "));
+  EXPECT_TRUE(WidestCountdownText({0, 0, 0, 60}, widthOf).ends_with("  60seconds  "));
+  EXPECT_EQ(WidestCountdownText({0, 0, 0, 6}, widthOf), "0days  0hours  0minutes  6seconds  ");
+}
+
 TEST_F(WidestCountdown, ThinksOfTheMinusAtItsEnd) {
   widths.fill(1);
   widths['-'] = 50;

@@ -23,6 +23,10 @@ TEST(PulledBackPlacement, ComesBackFromTheRightAndTheBottom) {
   EXPECT_EQ(PulledBack({12360, 8520}, 15360, 11520, 3000, 3000), (Placement{12360, 8520}));
 }
 
+TEST(PulledBackPlacement, ComesBackFromASingleTwipBeyondTheEdge) {
+  EXPECT_EQ(PulledBack({12361, 8521}, 15360, 11520, 3000, 3000), (Placement{12360, 8520}));
+}
+
 TEST(PulledBackPlacement, LeavesANegativePositionAsItIs) {
   EXPECT_EQ(PulledBack({-100, -200}, 15360, 11520, 3000, 3000), (Placement{-100, -200}));
 }
