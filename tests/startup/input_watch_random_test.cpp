@@ -140,6 +140,7 @@ class Session {
       left_ = pick(3000);
       top_ = pick(1500);
     }
+    if (pick(6) == 0) return;  // nobody tells the watch
     watch_.controlsMoved([this](base::PixelPoint p) { return controlAt(p.x, p.y); });
     if (!seen_) return;
     const PointedControl under = controlAt(seen_->first, seen_->second);
