@@ -5,17 +5,18 @@
 #include <cstdint>
 #include <vector>
 
+#include "base/average_row.h"
 #include "base/bitmap.h"
 
 namespace base {
 
 // Takes the rows of a picture from the top down, as they come, and gives the picture at its smaller size.
-// Holds the result and the sums of a row, never the picture itself. Fixed-point arithmetic all the way: every
-// channel is within 1 of the exact average, equal pixels stay what they are, and a colour never comes out
-// above its alpha.
+// Holds the result and the sums of a row, never the picture itself. Sums are whole numbers: every channel is
+// within 1 of the exact average, equal pixels stay what they are, and a colour never comes out above its
+// alpha.
 class AreaAverage {
  public:
-  // No side of a source may be longer, so that a sum over a target pixel stays within 32 bits.
+  // No side of a source may be longer, so that a sum over a target pixel stays within 31 bits.
   static constexpr int kLongestSide = 65535;
 
   // Each target side is 1 up to the source's side (an equal side is copied).
@@ -32,14 +33,6 @@ class AreaAverage {
   Bitmap take();
 
  private:
-  // Where the target pixels end along one axis: the count of source pixels wholly before the end, with the
-  // share (of 65536) of the following one that still lies before it.
-  struct Ends {
-    Ends(int source, int target);
-    std::vector<int> whole;
-    std::vector<std::uint16_t> share;
-  };
-
   template <class Sum>
   struct ColumnSums {
     void resize(std::size_t lanes);
@@ -54,20 +47,15 @@ class AreaAverage {
 
   PixelSize source_;
   PixelSize target_;
-  Ends columns_;
-  Ends rows_;
+  RowPlan columns_;
   int fractionBits_;         // of a row's byte in the column sums
-  std::uint32_t scale_;      // from the sum over a target pixel to a level
+  float scale_;              // from the sum over a target pixel to a level
   std::uint32_t narrowing_;  // from a wide column sum to a narrow one
   int nextRow_ = 0;          // of the source
   int targetRow_ = 0;        // the row that the sums belong to
-  bool narrow_;              // 16 bits are enough for a column's sum over the rows of a target pixel
+  bool narrow_;              // 15 bits are enough for a column's sum over the rows of a target pixel
   ColumnSums<std::uint16_t> narrowSums_;
   ColumnSums<std::uint32_t> wideSums_;
-  std::vector<std::uint16_t> columnShares_;  // the columns' shares, once for each channel
-  std::vector<std::uint32_t> inner_;         // sums of the pixels wholly inside a target pixel
-  std::vector<std::uint16_t> border_;        // the pixels across the borders; a zero one before the first
-  std::vector<std::uint16_t> parts_;         // what of them lies before the border
   Bitmap result_;
 };
 
