@@ -84,9 +84,9 @@ constexpr ControlRow kControls[] = {
     {"defaultMouseSensitivity", "Frame5", {70, 74, 88, 26}, "Default", "Default mouse sensitivity", ""},
 
     {"Frame6", "SSTab1(4)", {16, 12, 580, 118}, "Image Size", "", ""},
-    {"Label13", "Frame6", {16, 32, 158, 16}, "Display Images less than", "", ""},
-    {"percentLabel", "Frame6", {176, 32, 44, 16}, "", "", ""},
-    {"Label12", "Frame6", {222, 32, 160, 16}, "of Monitor Screen", "", ""},
+    {"Label13", "Frame6", {16, 32, 146, 16}, "Display Images less than", "", ""},
+    {"percentLabel", "Frame6", {164, 32, 42, 16}, "", "", ""},
+    {"Label12", "Frame6", {208, 32, 160, 16}, "of Monitor Screen", "", ""},
     {"Label15", "Frame6", {16, 70, 42, 16}, "Min", "", ""},
     {"PercentSlider", "Frame6", {62, 62, 420, 34}, "", "", "Display Images less than"},
     {"Label14", "Frame6", {486, 70, 60, 16}, "Max", "", ""},

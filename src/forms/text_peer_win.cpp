@@ -33,7 +33,8 @@ void TextBoxPeer::fill() {
 // As high as its line needs, in the middle of its place: text never hangs at the upper edge.
 base::PixelRect TextBoxPeer::windowPlace() const {
   base::PixelRect at = control_.pixelRect();
-  const int height = std::min(at.height, LineHeight(window(), owner().font()) + MulDiv(8, owner().dpi(), 96));
+  const int height = std::min(at.height, LineHeight(window(), owner().font()) +
+                                             2 * GetSystemMetrics(SM_CYEDGE) + MulDiv(3, owner().dpi(), 96));
   at.top += (at.height - height) / 2;
   at.height = height;
   return at;

@@ -350,7 +350,7 @@ TEST_F(Form2Load, SelectingTheFirstPictureRaisesItsClick) {
   machine.set("total", "total", "1");
   machine.set("images", "0", "C:\\a.gif");
   std::unique_ptr<Form2> form;
-  machine.open();  // writes the file
+  machine.writeFile();
   form = std::make_unique<Form2>(
       DialogServices{machine.files, machine.ansi, machine.pictures, machine.dialogs, machine.windows},
       support::DialogMachine::kProgramFolder);
