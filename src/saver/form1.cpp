@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/color.h"
+#include "base/errors.h"
 #include "base/number_text.h"
 #include "base/rounding.h"
 #include "saver/floating.h"
@@ -121,8 +122,7 @@ void Form1::StartSaver_Timer() {
   currentImageIndex_ = -1;
   AdvancePictureIndex();
   if (floats()) {
-    if (const std::optional<int> interval = FloatIntervalMs(base::LeadingNumber(settings_.record.picSpeed)))
-      FloatTimer.setInterval(*interval);
+    setFloatInterval();
   } else if (base::StrictDouble(settings_.record.timeInterval) == 0) {
     ShowNextPicture();
     if (isOver()) return;
@@ -131,6 +131,16 @@ void Form1::StartSaver_Timer() {
     return;
   }
   startPictureCycle();
+}
+
+void Form1::setFloatInterval() {
+  // A speed that is none of the table's, or no number, leaves the interval as it stands.
+  try {
+    const std::optional<int> interval = FloatIntervalMs(base::StrictDouble(settings_.record.picSpeed));
+    if (interval) FloatTimer.setInterval(*interval);
+  } catch (const base::RunTimeError&) {
+    return;
+  }
 }
 
 void Form1::startPictureCycle() {

@@ -108,6 +108,7 @@ class Form1 : public forms::Form {
   base::CalendarDay countdownTarget() const;
   std::string widestTimeText() const;
   void startPictureCycle();
+  void setFloatInterval();
   bool floats() const;
   bool yield(std::int64_t untilMs);
   void pauseAfterRetiring();
