@@ -1,5 +1,5 @@
 // Paints the pictures that come with the program: the two samples, its icon, the little preview.
-//   make_sample_pictures [folder of the sources]
+//   make_sample_pictures [folder of the sources, else this one]
 // The same pictures come out in every run.
 #include <cstdio>
 #include <fstream>
@@ -50,7 +50,7 @@ std::string AsSource(const std::string& bytes) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const std::string root = argc > 1 ? argv[1] : LUMORA_SOURCE_DIR;
+  const std::string root = argc > 1 ? argv[1] : ".";
   const std::string preview = GifFile(pictures::ReduceColors(pictures::PreviewPicture(), 1.0F));
   const bool done =
       Write(root + "/assets/lumora.ico", pictures::IconFile({16, 20, 24, 32, 40, 48, 64, 96, 128, 256})) &&
