@@ -45,13 +45,17 @@ DialogMachine::DialogMachine() {
   };
 }
 
-dialog::Form2& DialogMachine::open() {
+void DialogMachine::writeSettings() {
   std::string text;
   for (const auto& [section, keys] : sections_) {
     text += "[" + section + "]\r\n";
     for (const auto& [key, value] : keys) text.append(key).append("=").append(value).append("\r\n");
   }
   files.content[kIniPath] = text;
+}
+
+dialog::Form2& DialogMachine::open() {
+  writeSettings();
   form_ = std::make_unique<dialog::Form2>(dialog::DialogServices{files, ansi, pictures, dialogs, windows},
                                           kProgramFolder);
   windows.show(*form_);

@@ -28,6 +28,9 @@ class DialogMachine {
   void drop(const std::string& section, const std::string& key) { sections_[section].erase(key); }
   void dropSection(const std::string& section) { sections_.erase(section); }
 
+  // Writes the file.
+  void writeSettings();
+
   // Writes the file and shows a new dialog.
   dialog::Form2& open();
 
