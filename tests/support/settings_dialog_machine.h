@@ -12,7 +12,7 @@
 #include "support/fake_clock.h"
 #include "support/fake_event_loop.h"
 #include "support/fake_folders.h"
-#include "support/fake_shell.h"
+#include "support/shell_recorder.h"
 
 namespace support {
 
@@ -38,7 +38,7 @@ class SettingsDialogMachine : public DialogMachine {
   FakeClock clock;
   FakeEventLoop loop{clock};
   FakeFolders folders;
-  FakeShell shell;
+  ShellRecorder shell;
 
  private:
   std::unique_ptr<dialog::SettingsDialog> dialog_;

@@ -8,7 +8,7 @@
 
 namespace support {
 
-class FakeShell : public os::Shell {
+class ShellRecorder : public os::Shell {
  public:
   std::vector<std::string> opened;
 
