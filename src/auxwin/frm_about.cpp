@@ -39,13 +39,9 @@ void frmAbout::layOut() {
   clientWidth = 460 * kTwips;
   clientHeight = 212 * kTwips;
   Place(picIcon, 20, 20, 48, 48);
-  Place(lblTitle, 88, 20, 352, 26);
-  base::Font font = lblTitle.font();
-  font.sizePoints = 14;
-  font.bold = true;
-  lblTitle.setFont(std::move(font));
+  Place(lblTitle, 88, 24, 352, 18);
   lblTitle.setCaption("Lumora Screen Saver");
-  Place(lblVersion, 88, 50, 352, 18);
+  Place(lblVersion, 88, 46, 352, 18);
   lblVersion.setCaption("Version " + std::string(kProductVersion));
   float lineTop = 84;
   for (std::size_t line = 0; line < kAbout.size(); ++line, lineTop += 18) {

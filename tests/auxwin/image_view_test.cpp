@@ -73,8 +73,7 @@ TEST_F(ImageViewTest, APictureThatCannotBeLoadedIsReported) {
   EXPECT_EQ(dialogs.messages,
             (std::vector<support::FakeDialogs::Message>{
                 {"Cannot load image file properly.\r\nYou need to reload a new one.", 48}}));
-  EXPECT_EQ(view.width, 2000);
-  EXPECT_EQ(view.Picture1.picture(), nullptr);
+  EXPECT_EQ(windows.unloaded, std::vector<std::string>{"ImageView"}) << "nothing is left to look at";
 }
 
 TEST_F(ImageViewTest, BrokenPixelsAreReportedToo) {
@@ -82,7 +81,7 @@ TEST_F(ImageViewTest, BrokenPixelsAreReportedToo) {
   List1.setListIndex(1);
   windows.show(view);
   EXPECT_EQ(dialogs.messages.size(), 1U);
-  EXPECT_EQ(view.width, 2000);
+  EXPECT_EQ(view.host(), nullptr);
 }
 
 TEST_F(ImageViewTest, WithNothingSelectedItIsSmallAndEmptyWithoutAMessage) {
@@ -114,6 +113,72 @@ TEST_F(ImageViewTest, EscapeAloneOfTheKeysClosesIt) {
   windows.show(view);
   view.Picture1.onKeyDown(27);
   EXPECT_EQ(windows.unloaded.size(), 2U);
+}
+
+// The screen of these tests has 1920 by 1080 pixels.
+TEST_F(ImageViewTest, APictureLargerThanTheScreenCanBePulledToItsOtherCorner) {
+  open({4000, 3000});
+  view.userMovedMouse(15000, 15000);
+  view.Picture1.onMouseDown({15000, 15000});
+  view.userMovedMouse(14000, 13000, true);
+  EXPECT_EQ(view.Picture1.left(), -1000);
+  EXPECT_EQ(view.Picture1.top(), -2000);
+  view.Picture1.onClick();
+  EXPECT_TRUE(windows.unloaded.empty()) << "the end of pulling is no click";
+  for (int i = 0; i < 5; ++i) {
+    view.Picture1.onMouseDown({20000 - view.Picture1.left(), 12000 - view.Picture1.top()});
+    view.userMovedMouse(15, 15, true);
+  }
+  EXPECT_EQ(view.Picture1.left(), (1920 - 4000) * 15) << "its right edge at the screen's right edge";
+  EXPECT_EQ(view.Picture1.top(), (1080 - 3000) * 15);
+  for (int i = 0; i < 5; ++i) {
+    view.Picture1.onMouseDown({15 - view.Picture1.left(), 15 - view.Picture1.top()});
+    view.userMovedMouse(20000, 12000, true);
+  }
+  EXPECT_EQ(view.Picture1.left(), 0) << "and back";
+  EXPECT_EQ(view.Picture1.top(), 0);
+  EXPECT_EQ(view.width, 4000 * 15 + 120) << "the window keeps its size";
+}
+
+TEST_F(ImageViewTest, AClickOfAHandThatTremblesStillCloses) {
+  open({4000, 3000});
+  view.Picture1.onMouseDown({1500, 1500});
+  view.userMovedMouse(1545, 1485, true);
+  EXPECT_EQ(view.Picture1.left(), 0);
+  view.Picture1.onClick();
+  EXPECT_EQ(windows.unloaded.size(), 1U);
+}
+
+TEST_F(ImageViewTest, APictureThatIsWhollyInSightStaysWhereItIs) {
+  open({400, 300});
+  view.Picture1.onMouseDown({3000, 3000});
+  view.userMovedMouse(1500, 1500, true);
+  EXPECT_EQ(view.Picture1.left(), 0);
+  view.Picture1.onClick();
+  EXPECT_EQ(windows.unloaded.size(), 1U);
+}
+
+TEST_F(ImageViewTest, MovingWithoutTheButtonPullsNothing) {
+  open({4000, 3000});
+  view.Picture1.onMouseDown({15000, 15000});
+  view.userMovedMouse(9000, 9000, false);
+  view.userMovedMouse(3000, 3000, true);
+  EXPECT_EQ(view.Picture1.left(), 0) << "the button went up outside the window";
+}
+
+TEST_F(ImageViewTest, AFrameThatIsThickerThanTheRoomForItIsPulledFromUnder) {
+  struct ThickFrame : support::FakeWindowSystem {
+    base::PixelSize innerSize() const override { return {390, 280}; }
+  } thick;
+  ImageView framed(List1, pictures, dialogs, thick);
+  pictures.add("C:\\sea\\p.gif", {400, 300}, base::kBlack);
+  List1.setListIndex(0);
+  thick.show(framed);
+  framed.Picture1.onMouseDown({3000, 3000});
+  framed.userMovedMouse(1000, 1000, true);
+  EXPECT_EQ(framed.Picture1.left(), -10 * 15);
+  EXPECT_EQ(framed.Picture1.top(), -20 * 15);
+  thick.unload(framed);
 }
 
 TEST_F(ImageViewTest, AfterALargePictureAnEmptyWindowIsSmallAgain) {

@@ -151,6 +151,7 @@ TEST_F(MultiFilesTest, PathsThatCannotBeKeptAreLeftOutAndCounted) {
 
 TEST_F(MultiFilesTest, TwentyThousandFilesComeInAMoment) {
   Paths& files = folders.files["C:\\photos"];
+  files.clear();
   for (int i = 20'000; i > 0; --i) files.push_back("picture " + std::to_string(i) + ".jpg");
   const auto start = std::chrono::steady_clock::now();
   MultiFiles& opened = open();

@@ -146,12 +146,14 @@ TEST_F(SaveFaults, OneThatCanBeReadAgainByThenIsKeptBesideTheNewOne) {
   machine.writeSettings();
   const std::string old = file();
   machine.files.locked.insert(machine.kIniPath);
-  saveWithFailure(0);
-  EXPECT_EQ(file(), old);
-  machine.windows.show(*form);
+  Form2& opened = machine.openDialogOnFile().form;
+  machine.dialogs.files.push_back("a.gif");
+  opened.add.userClicked();
+  opened.noneOption.setDesignValue(false);
+  opened.noneOption.userClicked();
   machine.files.locked.clear();
-  EXPECT_FALSE(form->loadedWell());
-  EXPECT_TRUE(SaveSettings(*form));
+  opened.Ok.userClicked();
+  EXPECT_TRUE(machine.loop.isQuitting());
   EXPECT_EQ(kept(), old);
   EXPECT_NE(file(), old);
 }
