@@ -1,21 +1,37 @@
 #include "dialog/dialog_win.h"
 
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "forms/surface_win.h"
+#include "os/program_icon_win.h"
+
 namespace dialog {
+
+namespace {
+
+constexpr int kIconSide = 48;  // pixels at 96 dots per inch
+
+forms::SharedPicture ProductIcon() {
+  const int dpi = forms::WindowDpi(nullptr);
+  std::optional<base::Bitmap> icon =
+      os::ProgramIcon(MulDiv(kIconSide, dpi, USER_DEFAULT_SCREEN_DPI), GetSysColor(COLOR_BTNFACE));
+  return icon ? forms::MakePicture(std::make_shared<base::Bitmap>(std::move(*icon))) : nullptr;
+}
+
+}  // namespace
 
 SettingsDialogWin::SettingsDialogWin(const DialogMachineWin& machine, const std::string& programFolder)
     : loop_(machine.loop),
       windows_(loop_, [this](const std::function<void()>& event) { loop_.dispatchGuarded(event); }),
       dialogs_([this] { return windows_.activeWindow(); }),
-      form_({machine.files, machine.ansi, machine.pictures, dialogs_, windows_}, programFolder),
+      dialog_({machine.files, machine.ansi, machine.pictures, dialogs_, windows_}, loop_, folders_, shell_,
+              programFolder, ProductIcon()),
       filter_(loop_.addMessageFilter([this](MSG& message) { return windows_.filterMessage(message); })) {
-  form_.onUnload = [this] { loop_.quit(); };
-  windows_.show(form_);
+  dialog_.show();
 }
 
-SettingsDialogWin::~SettingsDialogWin() {
-  loop_.removeMessageFilter(filter_);
-  form_.onUnload = nullptr;
-  windows_.unload(form_);
-}
+SettingsDialogWin::~SettingsDialogWin() { loop_.removeMessageFilter(filter_); }
 
 }  // namespace dialog

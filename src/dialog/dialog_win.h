@@ -3,13 +3,15 @@
 
 #include <string>
 
-#include "dialog/form2.h"
+#include "dialog/settings_dialog.h"
 #include "forms/dialogs_win.h"
 #include "forms/window_system_win.h"
 #include "os/ansi_code_page.h"
 #include "os/event_loop_win.h"
 #include "os/files.h"
+#include "os/folders_win.h"
 #include "os/pictures.h"
+#include "os/shell_win.h"
 
 namespace dialog {
 
@@ -29,14 +31,17 @@ class SettingsDialogWin {
   SettingsDialogWin(const SettingsDialogWin&) = delete;
   SettingsDialogWin& operator=(const SettingsDialogWin&) = delete;
 
-  Form2& form() { return form_; }
+  Form2& form() { return dialog_.form; }
+  SettingsDialog& dialog() { return dialog_; }
   forms::WindowSystemWin& windows() { return windows_; }
 
  private:
   os::EventLoopWin& loop_;
   forms::WindowSystemWin windows_;
   forms::DialogsWin dialogs_;
-  Form2 form_;
+  os::FoldersWin folders_;
+  os::ShellWin shell_;
+  SettingsDialog dialog_;
   int filter_;
 };
 

@@ -39,6 +39,7 @@ enum class ControlKind {
 struct MouseEvent {
   float x = 0;  // in the control's own scale units
   float y = 0;
+  bool leftButton = false;  // held down while the pointer moved
 };
 
 // A model holds state, a host shows it. Setters tell the host what changed, and only when it did.

@@ -49,17 +49,17 @@ Control* Form::controlAt(float x, float y) const {
   return found;
 }
 
-void Form::userMovedMouse(float x, float y) {
+void Form::userMovedMouse(float x, float y, bool leftButton) {
   Control* control = controlAt(x, y);
   // A page is the tab control's own surface.
   while (control && control->kind() == ControlKind::TabPage) control = control->container();
   if (!control) {
-    if (onMouseMove) onMouseMove({x, y});
+    if (onMouseMove) onMouseMove({x, y, leftButton});
     return;
   }
   if (!control->onMouseMove) return;
   const base::TwipsPoint origin = OriginOf(*control);
-  control->onMouseMove({x - origin.x - control->left(), y - origin.y - control->top()});
+  control->onMouseMove({x - origin.x - control->left(), y - origin.y - control->top(), leftButton});
 }
 
 }  // namespace forms

@@ -65,7 +65,7 @@ class Form {
   Control* controlAt(float x, float y) const;
 
   // The pointer moved to a place of the inner area (twips): the control there, or the form, hears of it.
-  void userMovedMouse(float x, float y);
+  void userMovedMouse(float x, float y, bool leftButton = false);
 
   // Events; the host raises them.
   std::function<void()> onLoad;          // the window has been made and is not yet shown

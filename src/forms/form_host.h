@@ -49,6 +49,9 @@ class FormHost {
   virtual base::PixelSize measureText(const base::Font& font, const std::string& text) = 0;
 
   virtual int twipsPerPixel() const = 0;
+
+  // Pixels inside the form's frame; empty where the host has no frame of its own.
+  virtual base::PixelSize innerSize() const { return {}; }
 };
 
 }  // namespace forms

@@ -281,6 +281,12 @@ base::PixelSize FormWindow::measureText(const base::Font& font, const std::strin
   return os::TextRendererWin(dpi_).measure(font, text);
 }
 
+base::PixelSize FormWindow::innerSize() const {
+  RECT client{};
+  GetClientRect(window_, &client);
+  return {static_cast<int>(client.right), static_cast<int>(client.bottom)};
+}
+
 bool FormWindow::filter(MSG& message) {
   if (!window_ || (message.hwnd != window_ && !IsChild(window_, message.hwnd))) return false;
   if (message.message == WM_MOUSEMOVE) reportPointer(message);
@@ -292,8 +298,10 @@ void FormWindow::reportPointer(const MSG& message) {
   POINT at{GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)};
   MapWindowPoints(message.hwnd, window_, &at, 1);
   const auto perPixel = static_cast<float>(twipsPerPixel_);
-  raise_([this, at, perPixel] {
-    form_.userMovedMouse(static_cast<float>(at.x) * perPixel, static_cast<float>(at.y) * perPixel);
+  const bool leftButton = (message.wParam & MK_LBUTTON) != 0;
+  raise_([this, at, perPixel, leftButton] {
+    form_.userMovedMouse(static_cast<float>(at.x) * perPixel, static_cast<float>(at.y) * perPixel,
+                         leftButton);
   });
 }
 

@@ -50,6 +50,7 @@ class FormWindow : public FormHost, private PeerOwner {
   void listChanged(ListBox& list, const ListEdit& edit) override;
   base::PixelSize measureText(const base::Font& font, const std::string& text) override;
   int twipsPerPixel() const override { return twipsPerPixel_; }
+  base::PixelSize innerSize() const override;
 
  private:
   static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -1,5 +1,7 @@
 #include "forms/picture_peer_win.h"
 
+#include <utility>
+
 #include "forms/surface_win.h"
 
 namespace forms {
@@ -70,8 +72,12 @@ std::optional<LRESULT> DrawnPeer::onMessage(UINT message, WPARAM, LPARAM) {
       return 0;
     case WM_ERASEBKGND:
       return 1;
+    case WM_LBUTTONDOWN:
+      pressed_ = true;
+      return std::nullopt;
     case WM_LBUTTONUP:
-      if (control_.onClick) owner().raise([this] { control_.onClick(); });
+      // A button that was pressed elsewhere, as by the double click that opened this window, is no click.
+      if (std::exchange(pressed_, false) && control_.onClick) owner().raise([this] { control_.onClick(); });
       return 0;
     case WM_LBUTTONDBLCLK:
       if (control_.onDblClick) owner().raise([this] { control_.onDblClick(); });

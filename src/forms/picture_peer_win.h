@@ -32,6 +32,7 @@ class DrawnPeer : public ControlPeer {
   os::Dib buffer_;
   base::PixelSize bufferSize_;
   bool drawn_ = false;
+  bool pressed_ = false;
 };
 
 class PictureBoxPeer : public DrawnPeer {

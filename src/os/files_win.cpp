@@ -118,7 +118,7 @@ std::string FilesWin::shortPath(const std::string& path) {
   const DWORD size = GetShortPathNameW(wide.c_str(), nullptr, 0);
   std::wstring shorter(size, L'\0');
   shorter.resize(GetShortPathNameW(wide.c_str(), shorter.data(), size));
-  return shorter.empty() ? path : FromWide(shorter);
+  return shorter.empty() ? path : FromWide(PlainPath(shorter));
 }
 
 }  // namespace os

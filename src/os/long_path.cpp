@@ -9,4 +9,13 @@ std::wstring LongPath(std::wstring_view absolutePath) {
   return L"\\\\?\\" + path;
 }
 
+std::wstring PlainPath(std::wstring_view path) {
+  constexpr std::wstring_view kShare = L"\\\\?\\UNC\\";
+  constexpr std::wstring_view kDrive = L"\\\\?\\";
+  if (path.starts_with(kShare)) return L"\\\\" + std::wstring(path.substr(kShare.size()));
+  const bool isDrive =
+      path.starts_with(kDrive) && path.size() > kDrive.size() + 1 && path[kDrive.size() + 1] == L':';
+  return std::wstring(isDrive ? path.substr(kDrive.size()) : path);
+}
+
 }  // namespace os

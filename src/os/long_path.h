@@ -14,4 +14,7 @@ constexpr std::size_t kLongestPlainPath = 247;
 // path that has a form of its own ("\\?\", "\\.\") stays as it is.
 std::wstring LongPath(std::wstring_view absolutePath);
 
+// The path of a drive or a share as people write it, without the form of LongPath(); others stay as they are.
+std::wstring PlainPath(std::wstring_view path);
+
 }  // namespace os

@@ -18,7 +18,7 @@ struct DialogInput : testing::Test {
   DialogInput() {
     machine.set("total", "total", "3");
     for (const char* i : {"0", "1", "2"}) machine.set("images", i, std::string("C:\\") + i + ".gif");
-    machine.writeFile();
+    machine.writeSettings();
     dialog = std::make_unique<RealDialog>(machine);
   }
 

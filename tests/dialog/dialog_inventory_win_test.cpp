@@ -21,7 +21,7 @@ struct Row {
 struct DialogInventory : testing::Test {
   support::DialogMachine machine;
 
-  DialogInventory() { machine.writeFile(); }
+  DialogInventory() { machine.writeSettings(); }
 
   void check(RealDialog& dialog, int tab, std::initializer_list<Row> rows) {
     dialog.showTab(tab);
@@ -234,7 +234,7 @@ TEST_F(DialogInventory, ThirtyThousandPicturesOpenLikeTen) {
     for (int i = 0; i < count; ++i) {
       other.set("images", std::to_string(i), "C:\\photos\\a folder\\picture " + std::to_string(i) + ".jpg");
     }
-    other.writeFile();
+    other.writeSettings();
     const DWORD start = GetTickCount();
     RealDialog dialog(other);
     const DWORD took = GetTickCount() - start;

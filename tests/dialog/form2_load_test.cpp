@@ -350,7 +350,7 @@ TEST_F(Form2Load, SelectingTheFirstPictureRaisesItsClick) {
   machine.set("total", "total", "1");
   machine.set("images", "0", "C:\\a.gif");
   std::unique_ptr<Form2> form;
-  machine.writeFile();
+  machine.writeSettings();
   form = std::make_unique<Form2>(
       DialogServices{machine.files, machine.ansi, machine.pictures, machine.dialogs, machine.windows},
       support::DialogMachine::kProgramFolder);

@@ -45,7 +45,7 @@ DialogMachine::DialogMachine() {
   };
 }
 
-void DialogMachine::writeFile() {
+void DialogMachine::writeSettings() {
   std::string text;
   for (const auto& [section, keys] : sections_) {
     text += "[" + section + "]\r\n";
@@ -55,7 +55,7 @@ void DialogMachine::writeFile() {
 }
 
 dialog::Form2& DialogMachine::open() {
-  writeFile();
+  writeSettings();
   form_ = std::make_unique<dialog::Form2>(dialog::DialogServices{files, ansi, pictures, dialogs, windows},
                                           kProgramFolder);
   windows.show(*form_);

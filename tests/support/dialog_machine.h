@@ -2,7 +2,6 @@
 #pragma once
 
 #include <map>
-#include <memory>
 #include <string>
 
 #include "dialog/form2.h"
@@ -29,7 +28,8 @@ class DialogMachine {
   void drop(const std::string& section, const std::string& key) { sections_[section].erase(key); }
   void dropSection(const std::string& section) { sections_.erase(section); }
 
-  void writeFile();
+  // Writes the file.
+  void writeSettings();
 
   // Writes the file and shows a new dialog.
   dialog::Form2& open();

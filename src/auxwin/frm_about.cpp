@@ -1,0 +1,70 @@
+#include "auxwin/frm_about.h"
+
+#include <string_view>
+#include <utility>
+
+#include "auxwin/open_with_shell.h"
+#include "auxwin/product_version.h"
+
+namespace auxwin {
+
+namespace {
+
+constexpr float kTwips = 15;  // of one pixel of the layout
+
+void Place(forms::Control& control, float left, float top, float width, float height) {
+  control.move(left * kTwips, top * kTwips, width * kTwips, height * kTwips);
+}
+
+constexpr std::array<std::string_view, 4> kAbout = {
+    "Lumora turns an idle screen into a show of your own pictures: over",
+    "a background of your choice, with gentle changes from one to the",
+    "next, a caption for each, and a clock or the time that is left until",
+    "a special day.",
+};
+
+}  // namespace
+
+frmAbout::frmAbout(forms::SharedPicture icon, os::Shell& shell, forms::WindowSystem& windows)
+    : Form("frmAbout"), shell_(shell), windows_(windows) {
+  layOut();
+  picIcon.setPicture(std::move(icon));
+  onLoad = [this] { Form_Load(); };
+  Command1.onClick = [this] { Command1_Click(); };
+  cmdOK.onClick = [this] { cmdOK_Click(); };
+}
+
+void frmAbout::layOut() {
+  caption = "About Lumora Screen Saver";
+  clientWidth = 460 * kTwips;
+  clientHeight = 212 * kTwips;
+  Place(picIcon, 20, 20, 48, 48);
+  Place(lblTitle, 88, 24, 352, 18);
+  lblTitle.setCaption("Lumora Screen Saver");
+  Place(lblVersion, 88, 46, 352, 18);
+  lblVersion.setCaption("Version " + std::string(kProductVersion));
+  float lineTop = 84;
+  for (std::size_t line = 0; line < kAbout.size(); ++line, lineTop += 18) {
+    Place(lblAbout[line], 20, lineTop, 420, 18);
+    lblAbout[line].setCaption(std::string(kAbout[line]));
+  }
+  Place(Command1, 20, 172, 150, 26);
+  Command1.setCaption("Lumora on the &Web");
+  Command1.setToolTip(kMakersPage);
+  Place(cmdOK, 352, 172, 88, 26);
+  cmdOK.setCaption("&OK");
+  cmdOK.isDefault = true;
+  cmdOK.isCancel = true;
+}
+
+void frmAbout::Form_Load() {
+  left = (windows_.screenWidthTwips() - width) / 2;
+  top = (windows_.screenHeightTwips() - height) / 2;
+  placeChanged();
+}
+
+void frmAbout::Command1_Click() { OpenWithShell(shell_, kMakersPage); }
+
+void frmAbout::cmdOK_Click() { windows_.unload(*this); }
+
+}  // namespace auxwin

@@ -1,0 +1,111 @@
+#include "auxwin/image_view.h"
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
+#include "auxwin/messages.h"
+#include "forms/file_name.h"
+
+namespace auxwin {
+
+namespace {
+
+// Twips.
+constexpr float kEmptySize = 1200;
+constexpr float kNarrowest = 2000;
+constexpr float kBorders = 120;
+constexpr float kTitleAndBorders = 405;
+
+constexpr float kStill = 60;  // a hand that clicks may tremble as far
+
+constexpr int kEscape = 27;
+
+}  // namespace
+
+ImageView::ImageView(const forms::ListBox& pictures, os::PictureLoader& loader, forms::Dialogs& dialogs,
+                     forms::WindowSystem& windows)
+    : Form("ImageView"), pictures_(pictures), loader_(loader), dialogs_(dialogs), windows_(windows) {
+  Picture1.setAutoSize(true);
+  Picture1.setAccessibleName("Image at its actual size");
+  onLoad = [this] { Form_Load(); };
+  // The pixels of a large photo are not kept behind a closed window.
+  onUnload = [this] { Picture1.setPicture(nullptr); };
+  onKeyDown = [this](int keyCode) {
+    if (keyCode == kEscape) close();
+  };
+  Picture1.onKeyDown = onKeyDown;
+  Picture1.onClick = [this] { Picture1_Click(); };
+  Picture1.onMouseDown = [this](const forms::MouseEvent& event) { Picture1_MouseDown(event); };
+  Picture1.onMouseMove = [this](const forms::MouseEvent& event) { Picture1_MouseMove(event); };
+}
+
+void ImageView::Form_Load() {
+  const std::string path = pictures_.text();
+  caption = path.empty() ? "Image" : forms::LastName(path);
+  captionChanged();
+  Picture1.setPicture(nullptr);
+  Picture1.move(0, 0, kEmptySize, kEmptySize);
+  const bool loaded = loadPicture(path);
+  width = Picture1.width() <= kNarrowest ? kNarrowest : Picture1.width() + kBorders;
+  height = Picture1.height() + kTitleAndBorders;
+  // A window larger than the screen starts at the screen's corner, where its title is within reach.
+  left = std::max(0.0F, (windows_.screenWidthTwips() - width) / 2);
+  top = std::max(0.0F, (windows_.screenHeightTwips() - height) / 2);
+  placeChanged();
+  pressed_ = pulled_ = false;
+  if (loaded) return;
+  dialogs_.messageBox(kCannotLoadImage, forms::kExclamation);
+  close();
+}
+
+bool ImageView::loadPicture(const std::string& path) {
+  if (path.empty()) return true;
+  const std::shared_ptr<const os::PictureFile> file = loader_.open(path);
+  if (!file) return false;
+  // Decoded once: the window is painted anew whenever something has covered it.
+  base::SharedBitmap pixels = forms::MakePicture(file)->drawnAt(file->size());
+  if (!pixels) return false;
+  Picture1.setPicture(forms::MakePicture(std::move(pixels)));
+  return true;
+}
+
+// The end of pulling is no click.
+void ImageView::Picture1_Click() {
+  if (!pulled_) close();
+}
+
+void ImageView::Picture1_MouseDown(const forms::MouseEvent& event) {
+  pictureStart_ = {Picture1.left(), Picture1.top()};
+  pointerStart_ = {Picture1.left() + event.x, Picture1.top() + event.y};
+  pressed_ = true;
+  pulled_ = false;
+}
+
+void ImageView::Picture1_MouseMove(const forms::MouseEvent& event) {
+  pressed_ = pressed_ && event.leftButton;
+  if (!pressed_) return;
+  const float dx = Picture1.left() + event.x - pointerStart_.x;
+  const float dy = Picture1.top() + event.y - pointerStart_.y;
+  const base::TwipsPoint farthest = farthestCorner();
+  if (farthest.x == 0 && farthest.y == 0) return;
+  pulled_ = pulled_ || std::abs(dx) > kStill || std::abs(dy) > kStill;
+  if (!pulled_) return;
+  Picture1.move(std::clamp(pictureStart_.x + dx, farthest.x, 0.0F),
+                std::clamp(pictureStart_.y + dy, farthest.y, 0.0F), Picture1.width(), Picture1.height());
+}
+
+base::TwipsPoint ImageView::farthestCorner() const {
+  const base::PixelSize inner = host() ? host()->innerSize() : base::PixelSize{};
+  const auto perPixel = static_cast<float>(twipsPerPixel());
+  const float innerWidth = inner.isEmpty() ? width - kBorders : static_cast<float>(inner.width) * perPixel;
+  const float innerHeight =
+      inner.isEmpty() ? height - kTitleAndBorders : static_cast<float>(inner.height) * perPixel;
+  // What hangs over the screen's edge is not in sight either.
+  return {std::min(0.0F, std::min(innerWidth, windows_.screenWidthTwips()) - Picture1.width()),
+          std::min(0.0F, std::min(innerHeight, windows_.screenHeightTwips()) - Picture1.height())};
+}
+
+void ImageView::close() { windows_.unload(*this); }
+
+}  // namespace auxwin

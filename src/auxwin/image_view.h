@@ -1,0 +1,51 @@
+// The window that shows the selected picture at its actual size.
+#pragma once
+
+#include <string>
+
+#include "base/geometry.h"
+#include "forms/dialogs.h"
+#include "forms/form.h"
+#include "forms/list_box.h"
+#include "forms/picture_box.h"
+#include "forms/window_system.h"
+#include "os/pictures.h"
+
+namespace auxwin {
+
+// Shown beside the dialog, which stays usable. A click on the picture or Escape closes it. A picture of which
+// not all is in sight is pulled about with the mouse. With no picture selected the window is small and empty;
+// for one that cannot be loaded it closes after the message.
+class ImageView : public forms::Form {
+ public:
+  // The selected entry of `pictures` is the picture's path.
+  ImageView(const forms::ListBox& pictures, os::PictureLoader& loader, forms::Dialogs& dialogs,
+            forms::WindowSystem& windows);
+
+  forms::PictureBox Picture1{*this, "Picture1"};
+
+  void Form_Load();
+  void Picture1_Click();
+  void Picture1_MouseDown(const forms::MouseEvent& event);
+  void Picture1_MouseMove(const forms::MouseEvent& event);
+
+ private:
+  // How far the picture's corner can be pulled to the left and up (twips, 0 or less).
+  base::TwipsPoint farthestCorner() const;
+  // False when there is a path and its picture cannot be loaded.
+  bool loadPicture(const std::string& path);
+  void close();
+
+  const forms::ListBox& pictures_;
+  os::PictureLoader& loader_;
+  forms::Dialogs& dialogs_;
+  forms::WindowSystem& windows_;
+
+  // Where the picture and the pointer stood on the form when the button went down.
+  base::TwipsPoint pictureStart_;
+  base::TwipsPoint pointerStart_;
+  bool pressed_ = false;
+  bool pulled_ = false;
+};
+
+}  // namespace auxwin

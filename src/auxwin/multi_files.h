@@ -1,0 +1,44 @@
+// The window that adds every picture of one folder to the picture list.
+#pragma once
+
+#include "auxwin/picture_target.h"
+#include "forms/command_button.h"
+#include "forms/dialogs.h"
+#include "forms/drive_list.h"
+#include "forms/file_list.h"
+#include "forms/folder_list.h"
+#include "forms/form.h"
+#include "forms/frame.h"
+#include "forms/window_system.h"
+#include "os/folders.h"
+
+namespace auxwin {
+
+// Shown modally. The lists start on the current drive and folder.
+class MultiFiles : public forms::Form {
+ public:
+  MultiFiles(PictureTarget target, os::Folders& folders, forms::Dialogs& dialogs,
+             forms::WindowSystem& windows);
+
+  forms::Frame fraFileControls{*this, "fraFileControls"};
+  forms::DriveList drvDrives;
+  forms::FolderList dirDirectories;
+  forms::FileList filFilenames;
+  forms::CommandButton Command1{*this, "Command1"};
+  forms::CommandButton cmdQuit{*this, "cmdQuit"};
+
+  void Form_Load();
+  void drvDrives_Change();
+  void dirDirectories_Change();
+  void Command1_Click();
+  void cmdQuit_Click();
+
+ private:
+  void layOut();
+
+  PictureTarget target_;
+  forms::Dialogs& dialogs_;
+  forms::WindowSystem& windows_;
+};
+
+}  // namespace auxwin

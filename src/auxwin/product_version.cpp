@@ -1,0 +1,7 @@
+#include "auxwin/product_version.h"
+
+namespace auxwin {
+
+const char* const kProductVersion = LUMORA_VERSION;
+
+}  // namespace auxwin

@@ -1,0 +1,194 @@
+#include "dialog/picture_list.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
+#include "auxwin/messages.h"
+#include "base/number_text.h"
+#include "dialog/open_picture_file.h"
+#include "dialog/thumbnail.h"
+#include "settings/read_ini_value.h"
+
+namespace dialog {
+
+PictureList::PictureList(Form2& form, os::EventLoop& loop)
+    : form_(form),
+      services_(form.services()),
+      storablePaths_(services_),
+      rest_(loop, [this] { selectionRested(); }) {
+  form_.p_caption.maxLength = static_cast<int>(settings::kLongestValue);
+  form_.List1.onClick = [this] { List1_Click(); };
+  form_.List1.onFilesDropped = [this](const std::vector<std::string>& paths) { userDropped(paths); };
+  form_.add.onClick = [this] { add_Click(); };
+  form_.remove.onClick = [this] { remove_Click(); };
+  form_.RemoveAll.onClick = [this] { RemoveAll_Click(); };
+  form_.up.onClick = [this] { up_Click(); };
+  form_.down.onClick = [this] { down_Click(); };
+  form_.p_caption.onChange = [this] { p_caption_Change(); };
+  form_.caption_clear.onClick = [this] { caption_clear_Click(); };
+}
+
+auxwin::PictureTarget PictureList::target() {
+  return {form_.List1,
+          form_.photo_caption,
+          form_.Text3,
+          advice_,
+          [this](const std::string& path) { return storablePaths_.storable(path); },
+          [this](int count) { storablePaths_.tellLeftOut(count); }};
+}
+
+void PictureList::List1_Click() {
+  const int index = form_.List1.listIndex();
+  if (index < 0) return;
+  form_.ImagePosition.setText("Position: " + base::NumberText(std::int32_t{index + 1}));
+  const bool failed = rest_.moved() && !ShowPreview(form_.List1.text());
+  form_.p_caption.setText(form_.photo_caption.item(index));
+  if (failed) tellCannotLoad();
+}
+
+void PictureList::selectionRested() {
+  if (form_.List1.listIndex() >= 0 && !ShowPreview(form_.List1.text())) tellCannotLoad();
+}
+
+void PictureList::tellCannotLoad() {
+  services_.dialogs.messageBox(auxwin::kCannotLoadImage, forms::kExclamation);
+}
+
+bool PictureList::ShowPreview(const std::string& path) {
+  if (form_.photo1.picture() && previewed_ == path) return true;
+  const std::shared_ptr<const os::PictureFile> file = path.empty() ? nullptr : services_.pictures.open(path);
+  form_.photo.setPicture(file ? forms::MakePicture(file) : nullptr);
+  base::SharedBitmap thumbnail =
+      file ? DrawThumbnail(*form_.photo.picture(), form_.photo1.scaleSize()) : nullptr;
+  if (!thumbnail) {
+    clearPreview();
+    return path.empty();
+  }
+  form_.photo1.setPicture(forms::MakePicture(std::move(thumbnail)));
+  previewed_ = path;
+  return true;
+}
+
+void PictureList::clearPreview() {
+  if (form_.photo1.picture()) form_.photo1.setPicture(nullptr);
+  previewed_.clear();
+}
+
+void PictureList::showTotal() {
+  form_.Text3.setText("Total: " + base::NumberText(std::int32_t{form_.List1.listCount()}));
+}
+
+// What the program selects is shown at once, however fast the user goes on.
+void PictureList::select(int index) {
+  rest_.settle();
+  form_.List1.setListIndex(index);
+  rest_.settle();
+}
+
+void PictureList::append(std::vector<std::string> paths) {
+  form_.photo_caption.addItems(std::vector<std::string>(paths.size()));
+  form_.List1.addItems(std::move(paths));
+  select(form_.List1.listCount() - 1);
+  showTotal();
+  advice_.consider(form_.List1.listCount(), services_.dialogs);
+  ShowPreview(form_.List1.text());
+}
+
+void PictureList::add_Click() {
+  const std::optional<std::string> chosen = services_.dialogs.openFile(OpenPictureFile());
+  if (!chosen) return;
+  if (const std::optional<std::string> path = storablePaths_.storable(*chosen)) {
+    append({*path});
+  } else {
+    storablePaths_.tellLeftOut(1);
+  }
+}
+
+void PictureList::userDropped(const std::vector<std::string>& paths) {
+  std::vector<std::string> added;
+  int leftOut = 0;
+  for (const std::string& dropped : paths) {
+    if (!services_.files.exists(dropped)) continue;
+    if (std::optional<std::string> path = storablePaths_.storable(dropped)) {
+      added.push_back(std::move(*path));
+    } else {
+      ++leftOut;
+    }
+  }
+  if (!added.empty()) append(std::move(added));
+  storablePaths_.tellLeftOut(leftOut);
+}
+
+bool PictureList::refusedWithoutSelection() {
+  if (!form_.List1.text().empty()) return false;
+  services_.dialogs.messageBox("Nothing was selected to remove.", forms::kExclamation);
+  return true;
+}
+
+void PictureList::remove_Click() {
+  if (refusedWithoutSelection()) return;
+  const int index = form_.List1.listIndex();
+  rest_.settle();
+  form_.List1.removeItem(index);
+  form_.photo_caption.removeItem(index);
+  clearPreview();
+  if (form_.List1.listCount() == 0) {
+    form_.p_caption.setText({});
+    form_.ImagePosition.setText({});
+  } else {
+    select(std::max(0, index - 1));
+  }
+  showTotal();
+}
+
+void PictureList::RemoveAll_Click() {
+  const forms::Answer answer = services_.dialogs.messageBox("Do you really want to remove all loaded images?",
+                                                            forms::kYesNo | forms::kQuestion);
+  if (answer != forms::Answer::Yes) return;
+  rest_.settle();
+  form_.List1.clear();
+  clearPreview();
+  form_.photo_caption.clear();
+  form_.p_caption.setText({});
+  form_.ImagePosition.setText({});
+  showTotal();
+}
+
+void PictureList::up_Click() { swapWithNeighbour(-1); }
+
+void PictureList::down_Click() { swapWithNeighbour(+1); }
+
+void PictureList::swapWithNeighbour(int step) {
+  // The text that speaks of removing stands for moving as well.
+  if (refusedWithoutSelection()) return;
+  const int index = form_.List1.listIndex();
+  const int neighbour = index + step;
+  if (neighbour < 0 || neighbour >= form_.List1.listCount()) return;
+  std::string path = form_.List1.item(index);
+  std::string caption = form_.photo_caption.item(index);
+  form_.List1.removeItem(index);
+  form_.photo_caption.removeItem(index);
+  form_.List1.addItem(std::move(path), neighbour);
+  form_.photo_caption.addItem(std::move(caption), neighbour);
+  select(neighbour);
+}
+
+void PictureList::p_caption_Change() {
+  const std::string& text = form_.p_caption.text();
+  const int index = form_.List1.listIndex();
+  if (index >= 0) {
+    form_.photo_caption.setItem(index, text);
+  } else if (!text.empty() && form_.List1.listCount() == 0) {
+    services_.dialogs.messageBox("An image must be loaded first.", forms::kExclamation);
+    form_.p_caption.setText({});
+  }
+}
+
+void PictureList::caption_clear_Click() {
+  form_.p_caption.setText({});
+  const int index = form_.List1.listIndex();
+  if (index >= 0) form_.photo_caption.setItem(index, {});
+}
+
+}  // namespace dialog

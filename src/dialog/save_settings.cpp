@@ -1,0 +1,82 @@
+#include "dialog/save_settings.h"
+
+#include <optional>
+#include <string>
+
+#include "base/calendar.h"
+#include "base/errors.h"
+#include "base/number_text.h"
+#include "settings/ini_document.h"
+#include "settings/settings_path.h"
+#include "settings/write_settings.h"
+
+namespace dialog {
+
+namespace {
+
+constexpr double kCountdown = 2;
+constexpr int kFolderPanel = 2;
+
+bool IsDateUsable(const settings::SettingsRecord& record) {
+  try {
+    if (base::StrictDouble(record.timeDisplay) == kCountdown) {
+      base::ParseMonthFirstDate(record.countdownMonth + "/" + record.countdownDay + "/" +
+                                record.countdownYear);
+    }
+    return true;
+  } catch (const base::RunTimeError&) {
+    return false;
+  }
+}
+
+// What speaks against saving; null when nothing does.
+const char* FaultOf(const Form2& form) {
+  if (form.List1.item(0).empty()) {
+    return "There are no images loaded in the Screen Saver. Load at least one image file to be displayed.";
+  }
+  if (form.record.backEffect == "2" && form.record.backgroundImage.empty()) {
+    return "You must enter a background image for the 'Custom background Image' feature or make another "
+           "background selection.";
+  }
+  if (!IsDateUsable(form.record)) return "Countdown date is invalid. Please choose a different date.";
+  return nullptr;
+}
+
+// A write that fails leaves the old file as it was.
+void WriteFile(const Form2& form) {
+  os::Files& files = form.services().files;
+  const std::string path = settings::IniPath(form.programFolder());
+  const std::optional<std::string> old = files.read(path);
+  // A file that is there and cannot be read keeps what it holds.
+  if (!old && files.exists(path)) return;
+  // What a failed loading did not read is not in the record and would be lost with the old file.
+  if (old && !form.loadedWell() &&
+      !files.replace(settings::InProgramFolder(form.programFolder(), "zbfaone.bak"), *old)) {
+    return;
+  }
+  settings::IniDocument document(old.value_or(std::string()), form.services().ansi);
+  settings::WriteSettings(document, form.record, form.List1.items(), form.photo_caption.items());
+  files.replace(path, document.serialise());
+}
+
+}  // namespace
+
+bool SaveSettings(Form2& form) {
+  form.setMousePointer(forms::MousePointer::Hourglass);
+  if (const char* fault = FaultOf(form)) {
+    form.setMousePointer(forms::MousePointer::Default);
+    form.services().dialogs.messageBox(fault, forms::kExclamation);
+    return false;
+  }
+  WriteFile(form);
+  form.setMousePointer(forms::MousePointer::Default);
+  form.services().windows.unload(form);
+  return true;
+}
+
+void ShowWhetherSettingsCanBeSaved(Form2& form) {
+  const bool writable = form.services().files.canWriteIn(form.programFolder());
+  form.SS_StatusBar.setPanelText(kFolderPanel, writable ? "" : "Settings cannot be saved in this folder.");
+}
+
+}  // namespace dialog

@@ -1,0 +1,16 @@
+// The settings dialog's way into the settings file.
+#pragma once
+
+#include "dialog/form2.h"
+
+namespace dialog {
+
+// Checks the dialog's state: pictures, background image, countdown date, in this order. The first fault is
+// reported, and the dialog stays as it was with nothing written. Otherwise writes the settings file in one
+// step and takes the dialog away, also where the file cannot be written. True when the dialog has gone.
+bool SaveSettings(Form2& form);
+
+// Says in the status bar's second panel when the program's folder cannot be written.
+void ShowWhetherSettingsCanBeSaved(Form2& form);
+
+}  // namespace dialog

@@ -1,0 +1,91 @@
+#include "dialog/settings_dialog.h"
+
+#include <utility>
+
+#include "auxwin/multi_files.h"
+#include "auxwin/open_with_shell.h"
+#include "dialog/save_settings.h"
+#include "settings/settings_path.h"
+
+namespace dialog {
+
+SettingsDialog::SettingsDialog(const DialogServices& services, os::EventLoop& loop, os::Folders& folders,
+                               os::Shell& shell, const std::string& programFolder, forms::SharedPicture icon)
+    : form(services, programFolder),
+      pictures(form, loop),
+      background(form),
+      viewer(form.List1, services.pictures, services.dialogs, services.windows),
+      about(std::move(icon), shell, services.windows),
+      services_(services),
+      loop_(loop),
+      folders_(folders),
+      shell_(shell) {
+  connect();
+}
+
+SettingsDialog::~SettingsDialog() {
+  // Nothing of a window may outlive its form, whatever ended the program.
+  form.onUnload = nullptr;
+  services_.windows.unload(viewer);
+  services_.windows.unload(form);
+}
+
+void SettingsDialog::connect() {
+  form.onLoad = [this] {
+    ShowWhetherSettingsCanBeSaved(form);
+    form.Form_Load();
+  };
+  form.onUnload = [this] { closed(); };
+  form.Ok.onClick = [this] { Ok_Click(); };
+  form.Save.onClick = [this] { Save_Click(); };
+  form.FolderCommand.onClick = [this] { FolderCommand_Click(); };
+  form.List1.onDblClick = [this] { List1_DblClick(); };
+  form.photo1.onDblClick = [this] { photo1_DblClick(); };
+  form.EnlargeCommand.onClick = [this] { EnlargeCommand_Click(); };
+  form.LumoraHelp.onClick = [this] { LumoraHelp_Click(); };
+  form.AboutLumora.onClick = [this] { AboutLumora_Click(); };
+  form.Tolv.onClick = [this] { Tolv_Click(); };
+}
+
+void SettingsDialog::show() { services_.windows.show(form); }
+
+void SettingsDialog::closed() {
+  services_.windows.unload(viewer);
+  loop_.quit();
+}
+
+void SettingsDialog::save() {
+  // A user who was refused may have mended the folder's rights as well as his choices.
+  if (!SaveSettings(form)) ShowWhetherSettingsCanBeSaved(form);
+}
+
+void SettingsDialog::Ok_Click() { save(); }
+
+void SettingsDialog::Save_Click() { save(); }
+
+void SettingsDialog::FolderCommand_Click() {
+  auxwin::MultiFiles import(pictures.target(), folders_, services_.dialogs, services_.windows);
+  services_.windows.showModal(import);
+}
+
+// One viewer at a time; another picture takes the place of the one that it shows.
+void SettingsDialog::openViewer() {
+  services_.windows.unload(viewer);
+  services_.windows.show(viewer);
+}
+
+void SettingsDialog::List1_DblClick() { openViewer(); }
+
+void SettingsDialog::photo1_DblClick() { openViewer(); }
+
+void SettingsDialog::EnlargeCommand_Click() { openViewer(); }
+
+void SettingsDialog::LumoraHelp_Click() {
+  auxwin::OpenWithShell(shell_, settings::InProgramFolder(form.programFolder(), "lumoraHelp.htm"));
+}
+
+void SettingsDialog::AboutLumora_Click() { services_.windows.showModal(about); }
+
+void SettingsDialog::Tolv_Click() { auxwin::OpenWithShell(shell_, auxwin::kMakersPage); }
+
+}  // namespace dialog

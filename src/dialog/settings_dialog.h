@@ -1,0 +1,57 @@
+// The settings dialog with everything that its buttons and menus lead to.
+#pragma once
+
+#include <string>
+
+#include "auxwin/frm_about.h"
+#include "auxwin/image_view.h"
+#include "dialog/background_image.h"
+#include "dialog/form2.h"
+#include "dialog/picture_list.h"
+#include "os/event_loop.h"
+#include "os/folders.h"
+#include "os/shell.h"
+
+namespace dialog {
+
+// The whole life of the configure mode: the event loop is ended when the dialog is closed, however that came.
+class SettingsDialog {
+ public:
+  // All arguments outlive the dialog. `icon` is the product's; null where there is none.
+  SettingsDialog(const DialogServices& services, os::EventLoop& loop, os::Folders& folders, os::Shell& shell,
+                 const std::string& programFolder, forms::SharedPicture icon);
+  ~SettingsDialog();
+  SettingsDialog(const SettingsDialog&) = delete;
+  SettingsDialog& operator=(const SettingsDialog&) = delete;
+
+  void show();
+
+  Form2 form;
+  PictureList pictures;
+  BackgroundImage background;
+  auxwin::ImageView viewer;
+  auxwin::frmAbout about;
+
+  void Ok_Click();
+  void Save_Click();
+  void FolderCommand_Click();
+  void List1_DblClick();
+  void photo1_DblClick();
+  void EnlargeCommand_Click();
+  void LumoraHelp_Click();
+  void AboutLumora_Click();
+  void Tolv_Click();
+
+ private:
+  void connect();
+  void save();
+  void openViewer();
+  void closed();
+
+  DialogServices services_;
+  os::EventLoop& loop_;
+  os::Folders& folders_;
+  os::Shell& shell_;
+};
+
+}  // namespace dialog

@@ -1,0 +1,141 @@
+#include "dialog/settings_dialog.h"
+
+#include <gtest/gtest.h>
+
+#include "auxwin/multi_files.h"
+#include "support/settings_dialog_machine.h"
+
+namespace dialog {
+namespace {
+
+using support::Listed;
+using Message = support::FakeDialogs::Message;
+using Names = std::vector<std::string>;
+
+struct SettingsDialogTest : testing::Test {
+  support::SettingsDialogMachine machine;
+
+  SettingsDialog& open() {
+    machine.setPictures({{"a.gif", "A"}, {"b.gif", "B"}});
+    SettingsDialog& dialog = machine.openDialog();
+    machine.rest();
+    return dialog;
+  }
+};
+
+TEST_F(SettingsDialogTest, TheViewerOpensFromListThumbnailAndButton) {
+  for (int way = 0; way < 3; ++way) {
+    support::SettingsDialogMachine other;
+    other.setPictures({{"a.gif", "A"}, {"b.gif", "B"}});
+    SettingsDialog& dialog = other.openDialog();
+    dialog.form.List1.userSelected(1);
+    if (way == 0) dialog.form.List1.onDblClick();
+    if (way == 1) dialog.form.photo1.onDblClick();
+    if (way == 2) dialog.form.EnlargeCommand.userClicked();
+    EXPECT_EQ(other.windows.shown, (Names{"Form2", "ImageView"}));
+    EXPECT_EQ(dialog.viewer.caption, "b.gif");
+    EXPECT_TRUE(dialog.form.host()) << "the dialog stays usable";
+  }
+}
+
+TEST_F(SettingsDialogTest, AnotherPictureTakesThePlaceOfTheOneInTheViewer) {
+  SettingsDialog& dialog = open();
+  dialog.form.EnlargeCommand.userClicked();
+  dialog.form.List1.userSelected(1);
+  dialog.form.EnlargeCommand.userClicked();
+  EXPECT_EQ(dialog.viewer.caption, "b.gif");
+  EXPECT_EQ(machine.windows.unloaded, Names{"ImageView"});
+  EXPECT_TRUE(dialog.viewer.host());
+}
+
+TEST_F(SettingsDialogTest, TheViewerGoesWithTheDialog) {
+  SettingsDialog& dialog = open();
+  dialog.form.EnlargeCommand.userClicked();
+  dialog.form.Cancel.userClicked();
+  EXPECT_EQ(machine.windows.unloaded, (Names{"Form2", "ImageView"}));
+  EXPECT_TRUE(machine.loop.isQuitting());
+}
+
+TEST_F(SettingsDialogTest, ClosingTheWindowEndsTheProgramToo) {
+  SettingsDialog& dialog = open();
+  machine.windows.unload(dialog.form);
+  EXPECT_TRUE(machine.loop.isQuitting());
+}
+
+TEST_F(SettingsDialogTest, FolderImportIsModalAndItsListIsUpToDateWhenItCloses) {
+  SettingsDialog& dialog = open();
+  machine.folders.files["C:\\"] = {"z.bmp", "y.txt", "x.GIF"};
+  machine.pictures.add("C:\\z.bmp", {4, 3}, 0);
+  machine.windows.whileModal = [](forms::Form& form) {
+    static_cast<auxwin::MultiFiles&>(form).Command1.userClicked();
+  };
+  dialog.form.FolderCommand.userClicked();
+  EXPECT_EQ(machine.windows.shown, (Names{"Form2", "MultiFiles"}));
+  EXPECT_EQ(machine.windows.unloaded, Names{"MultiFiles"});
+  EXPECT_EQ(Listed(dialog), "a.gif=A;b.gif=B;C:\\x.GIF=;C:\\z.bmp=;");
+  EXPECT_EQ(dialog.form.Text3.text(), "4") << "bare digits";
+  EXPECT_EQ(dialog.form.ImagePosition.text(), "Position: 4");
+  EXPECT_EQ(machine.pictures.opened.back(), "C:\\z.bmp");
+  dialog.form.remove.userClicked();
+  EXPECT_EQ(dialog.form.Text3.text(), "Total: 3") << "the words come back with the next change";
+}
+
+TEST_F(SettingsDialogTest, TheAdviceIsGivenOnceWhetherByFolderOrByFile) {
+  SettingsDialog& dialog = open();
+  for (int i = 0; i < 699; ++i) machine.folders.files["C:\\"].push_back(std::to_string(i) + ".gif");
+  machine.windows.whileModal = [](forms::Form& form) {
+    static_cast<auxwin::MultiFiles&>(form).Command1.userClicked();
+  };
+  dialog.form.FolderCommand.userClicked();
+  ASSERT_EQ(dialog.form.List1.listCount(), 701);
+  ASSERT_EQ(machine.dialogs.messages.size(), 2U);
+  EXPECT_TRUE(machine.dialogs.messages[0].text.starts_with("Cannot load"))
+      << "the last one is selected first";
+  EXPECT_TRUE(machine.dialogs.messages[1].text.starts_with("It is recommended"));
+  machine.dialogs.messages.clear();
+  machine.dialogs.files.push_back("a.gif");
+  dialog.form.add.userClicked();
+  EXPECT_TRUE(machine.dialogs.messages.empty());
+}
+
+TEST_F(SettingsDialogTest, HelpIsThePageInTheProgramFolder) {
+  SettingsDialog& dialog = open();
+  dialog.form.LumoraHelp.userClicked();
+  EXPECT_EQ(machine.shell.opened, Names{"C:\\Lumora\\lumoraHelp.htm"});
+}
+
+TEST_F(SettingsDialogTest, AProgramFolderThatEndsInABackslashGetsNoSecondOne) {
+  SettingsDialog dialog({machine.files, machine.ansi, machine.pictures, machine.dialogs, machine.windows},
+                        machine.loop, machine.folders, machine.shell, "D:\\", nullptr);
+  dialog.form.LumoraHelp.userClicked();
+  EXPECT_EQ(machine.shell.opened, Names{"D:\\lumoraHelp.htm"});
+}
+
+TEST_F(SettingsDialogTest, TheWebsitesMenuOpensTheMakersPage) {
+  SettingsDialog& dialog = open();
+  dialog.form.Tolv.userClicked();
+  EXPECT_EQ(machine.shell.opened, Names{"https://www.lumora.example/"});
+}
+
+TEST_F(SettingsDialogTest, TheAboutBoxIsModalAndCanBeOpenedAgain) {
+  SettingsDialog& dialog = open();
+  dialog.form.AboutLumora.userClicked();
+  dialog.form.AboutLumora.userClicked();
+  EXPECT_EQ(machine.windows.shown, (Names{"Form2", "frmAbout", "frmAbout"}));
+  EXPECT_EQ(machine.windows.unloaded, (Names{"frmAbout", "frmAbout"}));
+}
+
+TEST_F(SettingsDialogTest, NothingOfItStaysWhenItIsTakenDownWhileOpen) {
+  {
+    SettingsDialog dialog({machine.files, machine.ansi, machine.pictures, machine.dialogs, machine.windows},
+                          machine.loop, machine.folders, machine.shell, "C:\\Lumora", nullptr);
+    dialog.show();
+    machine.dialogs.messages.clear();
+    dialog.EnlargeCommand_Click();
+  }
+  EXPECT_EQ(machine.windows.unloaded, (Names{"ImageView", "Form2"}));
+  EXPECT_EQ(machine.loop.timersRunning(), 0);
+}
+
+}  // namespace
+}  // namespace dialog
