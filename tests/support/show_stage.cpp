@@ -62,7 +62,9 @@ void ShowStage::addPicture(base::PixelSize size, base::PackedColor color, const 
   set("caption/" + number, caption);
 }
 
-void ShowStage::start() {
+const char* ShowStage::programFolder() { return kFolder; }
+
+void ShowStage::writeSettings() {
   settings_.try_emplace("total/total", std::to_string(pictures_));
   std::map<std::string, std::string> sections;
   for (const auto& [where, value] : settings_) {
@@ -71,7 +73,10 @@ void ShowStage::start() {
   }
   std::string& file = files.content[std::string(kFolder) + "\\zbfaone.ini"];
   for (const auto& [section, keys] : sections) file += "[" + section + "]\r\n" + keys;
+}
 
+void ShowStage::start() {
+  writeSettings();
   form = std::make_unique<saver::Form1>(
       saver::ShowServices{files, ansi, pictures, clock, loop, screen, flags, dates, stage, window}, facts,
       kFolder);

@@ -38,6 +38,15 @@ class ShowStage {
   // Adds a picture of one colour at the end of the list.
   void addPicture(base::PixelSize size, base::PackedColor color, const std::string& caption = "");
 
+  // What a show on this machine runs on.
+  saver::ShowServices services() {
+    return {files, ansi, pictures, clock, loop, screen, flags, dates, stage, window};
+  }
+  static const char* programFolder();
+
+  // Writes the settings file as it has been set.
+  void writeSettings();
+
   // Writes the settings file, makes the form and loads it. An error in Form_Load ends the show as one at the
   // event border does.
   void start();

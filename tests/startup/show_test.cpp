@@ -1,0 +1,195 @@
+#include "startup/show.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <vector>
+
+#include "support/fake_machine.h"
+#include "support/show_stage.h"
+
+namespace {
+
+constexpr base::PackedColor kRed = base::Rgb(255, 0, 0);
+
+// The show with everything around it, on fakes: started as the program starts it.
+class ShowTest : public testing::Test {
+ protected:
+  void start(const os::SystemFacts& facts = {}) {
+    stage.writeSettings();
+    saver::ShowServices services = stage.services();
+    show.emplace(
+        saver::ShowServices{services.files, services.ansi, services.pictures, services.clock, services.loop,
+                            services.screen, restore, services.dates, services.stage, services.window},
+        startup::SaverExit::Services{machine.passwords, restore, stage.screen, restore, restore}, restore,
+        facts, support::ShowStage::programFolder(), [this] {
+          auto cover = std::make_unique<support::FakeStageWindow>(base::PixelSize{1, 1});
+          covers.push_back(cover.get());
+          return cover;
+        });
+    restore.hide(restore.find());
+    show->start();
+  }
+
+  bool hasEnded() const { return stage.loop.isQuitting(); }
+  support::FakeStageWindow& window() { return stage.window; }
+  void move(int x, int y) { window().onMouseMove({x, y}); }
+
+  support::FakeMachine machine;
+  support::ShowStage stage;
+  startup::SystemRestore restore{machine.taskbar, machine.cursor, machine.flags};
+  std::vector<support::FakeStageWindow*> covers;
+  std::optional<startup::Show> show;
+};
+
+TEST_F(ShowTest, CoversTheScreenAndTakesTheKeyboard) {
+  start();
+  EXPECT_EQ(window().calls, (std::vector<std::string>{"cover", "activate"}));
+  EXPECT_FALSE(hasEnded());
+}
+
+TEST_F(ShowTest, AnyKeyEndsItBeforeAnythingWasDrawn) {
+  start();
+  window().onKeyDown(65);
+  EXPECT_TRUE(hasEnded());
+  EXPECT_TRUE(window().closed);
+  EXPECT_TRUE(machine.taskbar.visible);
+}
+
+TEST_F(ShowTest, AnyButtonEndsItOverThePictureToo) {
+  stage.addPicture({1000, 700}, kRed);
+  start();
+  stage.runFor(1000);
+  window().onMouseDown({512, 384});
+  EXPECT_TRUE(hasEnded());
+}
+
+TEST_F(ShowTest, AKeyInTheMiddleOfATransitionEndsItAtOnce) {
+  stage.addPicture({600, 400}, kRed);
+  stage.set("transitions/bCenter", "1");
+  stage.set("extras/transitionTime", "5000");
+  start();
+  stage.loop.postAfter(2000, [&] { window().onKeyDown(27); });
+  stage.runFor(60000);
+  EXPECT_TRUE(hasEnded());
+  EXPECT_LT(stage.clock.tickMs(), 1000 + 2100) << "no time passed after the key";
+}
+
+TEST_F(ShowTest, TheFirstMoveOnlyRecordsAndTheThresholdCountsTheOthers) {
+  stage.set("image/mouseSensitivity", "28");
+  start();
+  move(100, 100);
+  move(200, 100);
+  EXPECT_FALSE(hasEnded());
+  move(300, 100);
+  EXPECT_TRUE(hasEnded());
+}
+
+TEST_F(ShowTest, MovesOverTheBackgroundAreInTwipsSoOnePixelCounts) {
+  stage.set("image/mouseSensitivity", "30");
+  start();
+  move(100, 100);
+  move(101, 100);
+  EXPECT_TRUE(hasEnded());
+}
+
+TEST_F(ShowTest, MovesOverThePictureAreInPixelsSoThreeOfThemNeverCount) {
+  stage.addPicture({900, 680}, kRed);
+  stage.set("image/mouseSensitivity", "30");
+  start();
+  stage.runFor(1000);
+  move(500, 400);
+  for (int i = 0; i < 50; ++i) move(500 + 3 * (i % 2), 400 - 3 * (i % 2));
+  EXPECT_FALSE(hasEnded());
+  move(510, 400);
+  EXPECT_TRUE(hasEnded());
+}
+
+TEST_F(ShowTest, AfterAGradientTheFormMeasuresItsHeightIn256Parts) {
+  stage.set("image/mouseSensitivity", "30");
+  stage.set("background/backEffect", "3");
+  start();
+  move(100, 100);
+  move(100, 108);  // 8 pixels of 768 are 2.7 parts
+  EXPECT_FALSE(hasEnded());
+  move(100, 118);
+  EXPECT_TRUE(hasEnded());
+}
+
+TEST_F(ShowTest, APictureThatFloatsUnderARestingPointerCountsNothing) {
+  stage.addPicture({400, 300}, kRed);
+  stage.set("image/mouseSensitivity", "30");
+  stage.set("image/picRandom", "rand");
+  stage.set("image/picSpeed", "5");
+  start();
+  move(512, 384);
+  stage.runFor(500);
+  for (int i = 0; i < 300; ++i) {
+    stage.runFor(50);
+    move(512, 384);
+  }
+  EXPECT_FALSE(hasEnded());
+}
+
+TEST_F(ShowTest, APoliteCloseEndsIt) {
+  start();
+  window().onCloseRequest();
+  EXPECT_TRUE(hasEnded());
+}
+
+TEST_F(ShowTest, TheEndOfTheSessionPutsTheSystemBackWithoutAskingForAPassword) {
+  machine.passwords.accepts = false;
+  start({.osPlatformId = 1, .usePassword = 1});
+  EXPECT_TRUE(machine.flags.running);
+  window().onSessionEnd();
+  EXPECT_TRUE(hasEnded());
+  EXPECT_FALSE(machine.flags.running);
+  EXPECT_TRUE(machine.taskbar.visible);
+}
+
+TEST_F(ShowTest, ARunTimeErrorEndsItWithoutAMessageAndPutsTheSystemBack) {
+  stage.addPicture({40, 30}, kRed);
+  stage.set("image/timeInterval", "soon");
+  start();
+  stage.runFor(1000);
+  EXPECT_TRUE(hasEnded());
+  EXPECT_TRUE(machine.taskbar.visible);
+  EXPECT_TRUE(window().closed);
+}
+
+TEST_F(ShowTest, AnErrorWhileLoadingEndsItToo) {
+  stage.set("font/newFontForeColor", "white");
+  start();
+  EXPECT_TRUE(hasEnded());
+  EXPECT_TRUE(machine.taskbar.visible);
+}
+
+TEST_F(ShowTest, ARefusedPasswordShowsTheWindowAgainAndTheShowGoesOn) {
+  machine.passwords.accepts = false;
+  start({.osPlatformId = 1, .usePassword = 1});
+  window().onKeyDown(65);
+  EXPECT_FALSE(hasEnded());
+  EXPECT_EQ(window().calls.back(), "activate");
+  machine.passwords.accepts = true;
+  window().onKeyDown(65);
+  EXPECT_TRUE(hasEnded());
+}
+
+TEST_F(ShowTest, FurtherScreensAreCoveredOnlyWhenTheSettingSaysSoAndTheirInputEndsTheShow) {
+  stage.screen.others = {{1024, 0, 800, 600}, {-640, 0, 640, 480}};
+  stage.set("extras/otherScreens", "black");
+  start();
+  ASSERT_EQ(covers.size(), 2U);
+  EXPECT_EQ(covers[0]->covered, (base::PixelRect{1024, 0, 800, 600}));
+  covers[1]->onKeyDown(65);
+  EXPECT_TRUE(hasEnded());
+  EXPECT_TRUE(covers[0]->closed);
+}
+
+TEST_F(ShowTest, WithoutTheSettingOnlyThePrimaryScreenIsCovered) {
+  stage.screen.others = {{1024, 0, 800, 600}};
+  start();
+  EXPECT_TRUE(covers.empty());
+}
+
+}  // namespace
