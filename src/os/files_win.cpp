@@ -6,6 +6,7 @@
 #include <atomic>
 
 #include "os/file_handle_win.h"
+#include "os/long_path.h"
 #include "os/utf16_win.h"
 #include "os/wide_path_win.h"
 
