@@ -27,7 +27,8 @@ if(LUMORA_TESTS)
   add_library(lumora_win_support STATIC EXCLUDE_FROM_ALL ${windows_support_sources} tests/support/empty.cpp)
   target_link_libraries(lumora_win_support PUBLIC lumora_support lumora_win)
 
-  add_executable(lumora_win_tests ${windows_test_sources})
+  # The tests' windows are those of the program: with its manifest, in the system's visual style.
+  add_executable(lumora_win_tests ${windows_test_sources} tests/support/win_tests.rc)
   target_link_libraries(lumora_win_tests PRIVATE lumora_win_support gtest_main)
   target_link_options(lumora_win_tests PRIVATE -static)
 

@@ -1,6 +1,5 @@
 #include "forms/control_peer_win.h"
 
-#include <commctrl.h>
 #include <shellapi.h>
 #include <windowsx.h>
 
@@ -13,8 +12,6 @@
 namespace forms {
 
 namespace {
-
-constexpr UINT_PTR kSubclass = 1;
 
 // Makes a peer deaf for a scope.
 class Applying {
@@ -31,7 +28,21 @@ class Applying {
 }  // namespace
 
 ControlPeer::~ControlPeer() {
-  if (window_) RemoveWindowSubclass(window_, Procedure, kSubclass);
+  if (window_) leave();
+}
+
+// A list of thousands is filled by thousands of messages, so the way to the peer has to be short: the
+// window's own user data, and no list of procedures in between.
+void ControlPeer::watch() {
+  SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  original_ = reinterpret_cast<WNDPROC>(
+      SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure)));
+}
+
+void ControlPeer::leave() {
+  SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(original_));
+  SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+  window_ = nullptr;
 }
 
 void ControlPeer::make(HWND parent, int id) {
@@ -46,7 +57,7 @@ void ControlPeer::make(HWND parent, int id) {
                       at.top, at.width, at.height, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
                       GetModuleHandleW(nullptr), nullptr);
   if (!window_) return;
-  SetWindowSubclass(window_, Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+  watch();
   send(WM_SETFONT, reinterpret_cast<WPARAM>(owner_.font()), FALSE);
   fill();
   place();
@@ -127,15 +138,15 @@ void ControlPeer::dropFiles(HDROP drop) {
   });
 }
 
-LRESULT CALLBACK ControlPeer::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                        DWORD_PTR self) {
-  auto* peer = reinterpret_cast<ControlPeer*>(self);
+LRESULT CALLBACK ControlPeer::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  auto* peer = reinterpret_cast<ControlPeer*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  if (!peer) return DefWindowProcW(window, message, wParam, lParam);
+  const WNDPROC original = peer->original_;
   std::optional<LRESULT> answer = peer->onMessage(message, wParam, lParam);
   if (!answer) {
     switch (message) {
       case WM_NCDESTROY:
-        RemoveWindowSubclass(window, Procedure, kSubclass);
-        peer->window_ = nullptr;
+        peer->leave();
         break;
       case WM_LBUTTONDOWN:
         answer = peer->mouseMessage(message, lParam);
@@ -164,7 +175,7 @@ LRESULT CALLBACK ControlPeer::Procedure(HWND window, UINT message, WPARAM wParam
         break;
     }
   }
-  return answer ? *answer : DefSubclassProc(window, message, wParam, lParam);
+  return answer ? *answer : CallWindowProcW(original, window, message, wParam, lParam);
 }
 
 }  // namespace forms

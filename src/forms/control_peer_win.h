@@ -97,13 +97,15 @@ class ControlPeer {
   Control& control_;
 
  private:
-  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                    DWORD_PTR self);
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  void watch();
+  void leave();
   std::optional<LRESULT> mouseMessage(UINT message, LPARAM lParam);
   void dropFiles(HDROP drop);
 
   PeerOwner& owner_;
-  HWND window_ = nullptr;  // goes with its parent
+  HWND window_ = nullptr;       // goes with its parent
+  WNDPROC original_ = nullptr;  // the window's own procedure, behind ours
   int applying_ = 0;
 };
 

@@ -186,7 +186,7 @@ void FormWindow::addToolTip(const ControlPeer& peer) {
   std::wstring text = os::ToWide(peer.control().toolTip());
   TTTOOLINFOW tool{};
   tool.cbSize = TTTOOLINFOW_V1_SIZE;
-  tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tool.uFlags = TTF_IDISHWND;  // fed by filter()
   tool.hwnd = GetParent(peer.window());
   tool.uId = reinterpret_cast<UINT_PTR>(peer.window());
   tool.lpszText = text.data();
@@ -289,6 +289,9 @@ base::PixelSize FormWindow::innerSize() const {
 
 bool FormWindow::filter(MSG& message) {
   if (!window_ || (message.hwnd != window_ && !IsChild(window_, message.hwnd))) return false;
+  if (message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST) {
+    SendMessageW(toolTips_, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&message));
+  }
   if (message.message == WM_MOUSEMOVE) reportPointer(message);
   if (message.message == WM_KEYDOWN && switchTab(message)) return true;
   return window_ && IsDialogMessageW(window_, &message) != FALSE;

@@ -4,17 +4,19 @@
 
 namespace forms {
 
+// The others give up the choice before anybody is told, so that whoever is told sees one choice.
 bool OptionButton::assign(bool value) {
   if (value_ == value) return false;
   value_ = value;
-  changed(Change::Value);
-  if (!value_) return true;
-  for (Control* other : form().controls()) {
-    if (other == this || other->kind() != ControlKind::OptionButton || other->container() != container()) {
-      continue;
+  if (value_) {
+    for (Control* other : form().controls()) {
+      if (other == this || other->kind() != ControlKind::OptionButton || other->container() != container()) {
+        continue;
+      }
+      static_cast<OptionButton*>(other)->assign(false);
     }
-    static_cast<OptionButton*>(other)->assign(false);
   }
+  changed(Change::Value);
   return true;
 }
 

@@ -12,15 +12,37 @@ namespace {
 
 constexpr int kPatienceMs = 10000;
 constexpr int kStepMs = 20;
+constexpr int kReportMs = 500;
 
 }  // namespace
 
 RealDialog::RealDialog(DialogMachine& machine) {
+  const std::int64_t start = clock_.tickMs();
   loop_.setErrorHandler([](const std::exception&) { std::abort(); });
   dialog_ = std::make_unique<dialog::SettingsDialogWin>(
       dialog::DialogMachineWin{loop_, machine.files, machine.ansi, machine.pictures},
       DialogMachine::kProgramFolder);
   waitFor([this] { return GetForegroundWindow() == window() && GetFocus() != nullptr; });
+  openedInMs_ = clock_.tickMs() - start;
+  settleKeyboard();
+}
+
+// After the keyboard's focus has come, a display server may report which keys are really down, which releases
+// a key that was pressed in a program. That report is waited for, as long as one may be on its way.
+void RealDialog::settleKeyboard() {
+  keyboard(VK_SHIFT, 0);
+  const std::int64_t deadline = clock_.tickMs() + kReportMs;
+  waitFor([&] { return GetKeyState(VK_SHIFT) >= 0 || clock_.tickMs() > deadline; });
+  keyboard(VK_SHIFT, KEYEVENTF_KEYUP);
+}
+
+void RealDialog::keyboard(WORD key, DWORD flags) {
+  INPUT input{};
+  input.type = INPUT_KEYBOARD;
+  input.ki.wVk = key;
+  input.ki.dwFlags = flags;
+  SendInput(1, &input, sizeof(input));
+  loop_.waitUntil(clock_.tickMs() + kStepMs);
 }
 
 bool RealDialog::waitFor(const std::function<bool()>& condition) {
@@ -70,24 +92,11 @@ HWND RealDialog::windowOf(const forms::Control& control) const {
   return search.found;
 }
 
-void RealDialog::sendInput(const INPUT& input) {
-  INPUT sent = input;
-  SendInput(1, &sent, sizeof(sent));
-  loop_.waitUntil(clock_.tickMs() + kStepMs);
-}
-
 void RealDialog::press(WORD key, WORD with) {
-  INPUT input{};
-  input.type = INPUT_KEYBOARD;
-  const auto send = [&](WORD which, DWORD flags) {
-    input.ki.wVk = which;
-    input.ki.dwFlags = flags;
-    sendInput(input);
-  };
-  if (with) send(with, 0);
-  send(key, 0);
-  send(key, KEYEVENTF_KEYUP);
-  if (with) send(with, KEYEVENTF_KEYUP);
+  if (with) keyboard(with, 0);
+  keyboard(key, 0);
+  keyboard(key, KEYEVENTF_KEYUP);
+  if (with) keyboard(with, KEYEVENTF_KEYUP);
 }
 
 void RealDialog::type(const std::string& digits) {
@@ -101,14 +110,15 @@ void RealDialog::pointAt(const forms::Control& control, int dx, int dy) {
   loop_.waitUntil(clock_.tickMs() + kStepMs);
 }
 
+// Both in one step: a scroll bar or an open list keeps the thread until the button is up.
 void RealDialog::click(const forms::Control& control, int dx, int dy) {
   pointAt(control, dx, dy);
-  INPUT input{};
-  input.type = INPUT_MOUSE;
-  input.mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-  sendInput(input);
-  input.mi.dwFlags = MOUSEEVENTF_LEFTUP;
-  sendInput(input);
+  INPUT inputs[2] = {};
+  inputs[0].type = inputs[1].type = INPUT_MOUSE;
+  inputs[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
+  inputs[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
+  SendInput(2, inputs, sizeof(INPUT));
+  loop_.waitUntil(clock_.tickMs() + kStepMs);
 }
 
 void RealDialog::showTab(int tab) {

@@ -21,6 +21,8 @@ class RealDialog {
 
   HWND window() const { return dialog_->windows().windowOf(form()); }
   dialog::Form2& form() const { return dialog_->form(); }
+  // How long it took from the start until the dialog had the keyboard.
+  std::int64_t openedInMs() const { return openedInMs_; }
   bool isOpen() const { return window() != nullptr; }
 
   // Runs events until the condition holds. False when it does not within ten seconds.
@@ -48,11 +50,13 @@ class RealDialog {
 
  private:
   POINT placeOf(const forms::Control& control) const;
-  void sendInput(const INPUT& input);
+  void keyboard(WORD key, DWORD flags);
+  void settleKeyboard();
 
   os::ClockWin clock_;
   os::EventLoopWin loop_{clock_};
   std::unique_ptr<dialog::SettingsDialogWin> dialog_;
+  std::int64_t openedInMs_ = 0;
 };
 
 }  // namespace support
