@@ -24,8 +24,8 @@ class frmAbout : public forms::Form {
   // The lines of one paragraph.
   std::array<forms::Label, 4> lblAbout{
       {{*this, "lblAbout(0)"}, {*this, "lblAbout(1)"}, {*this, "lblAbout(2)"}, {*this, "lblAbout(3)"}}};
+  forms::CommandButton cmdOK{*this, "cmdOK"};  // first, so that it has the keyboard
   forms::CommandButton Command1{*this, "Command1"};
-  forms::CommandButton cmdOK{*this, "cmdOK"};
 
   void Form_Load();
   void Command1_Click();

@@ -21,6 +21,7 @@ class RealDialog {
 
   HWND window() const { return dialog_->windows().windowOf(form()); }
   dialog::Form2& form() const { return dialog_->form(); }
+  dialog::SettingsDialogWin& program() const { return *dialog_; }
   // How long it took from the start until the dialog had the keyboard.
   std::int64_t openedInMs() const { return openedInMs_; }
   bool isOpen() const { return window() != nullptr; }
