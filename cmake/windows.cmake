@@ -38,6 +38,11 @@ if(LUMORA_TESTS)
   target_link_libraries(password_stand_in PRIVATE lumora_flags)
   target_link_options(password_stand_in PRIVATE -static)
 
+  file(GLOB bench_sources CONFIGURE_DEPENDS tests/bench/*.cpp)
+  add_executable(lumora_bench EXCLUDE_FROM_ALL ${bench_sources} tests/support/win_tests.rc)
+  target_link_libraries(lumora_bench PRIVATE lumora_win_support)
+  target_link_options(lumora_bench PRIVATE -static)
+
   file(GLOB e2e_sources CONFIGURE_DEPENDS tests/e2e/*.cpp)
   add_executable(lumora_e2e ${e2e_sources})
   target_link_libraries(lumora_e2e PRIVATE lumora_win_support gtest)

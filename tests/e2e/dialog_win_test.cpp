@@ -1,0 +1,137 @@
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "e2e/program_folder.h"
+#include "e2e/running_program.h"
+#include "os/utf16_win.h"
+
+namespace {
+
+// The visible child window of a class with a text, wherever it lies inside.
+struct Wanted {
+  const wchar_t* className;
+  const wchar_t* text;
+  HWND found = nullptr;
+};
+
+BOOL CALLBACK LookAt(HWND window, LPARAM parameter) {
+  auto* wanted = reinterpret_cast<Wanted*>(parameter);
+  wchar_t className[64] = {};
+  wchar_t text[256] = {};
+  GetClassNameW(window, className, 64);
+  SendMessageW(window, WM_GETTEXT, 256, reinterpret_cast<LPARAM>(text));
+  if (!IsWindowVisible(window) || std::wstring(className) != wanted->className ||
+      std::wstring(text) != wanted->text) {
+    return TRUE;
+  }
+  wanted->found = window;
+  return FALSE;
+}
+
+HWND ChildOf(HWND parent, const wchar_t* className, const wchar_t* text) {
+  Wanted wanted{className, text};
+  EnumChildWindows(parent, LookAt, reinterpret_cast<LPARAM>(&wanted));
+  return wanted.found;
+}
+
+HWND DialogOf(const e2e::RunningProgram& program) {
+  HWND window = nullptr;
+  e2e::WaitFor([&] {
+    window = FindWindowW(nullptr, L" Lumora Screen Saver");
+    DWORD owner = 0;
+    if (window) GetWindowThreadProcessId(window, &owner);
+    if (owner != program.processId() || !IsWindowVisible(window)) window = nullptr;
+    return window != nullptr;
+  });
+  return window;
+}
+
+void ClickOn(HWND window) {
+  RECT place;
+  GetWindowRect(window, &place);
+  e2e::MoveMouseTo((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+  e2e::ClickMouse();
+}
+
+std::string Replaced(std::string text, const std::string& from, const std::string& to) {
+  const std::size_t at = text.find(from);
+  EXPECT_NE(at, std::string::npos) << from;
+  return at == std::string::npos ? text : text.replace(at, from.size(), to);
+}
+
+std::string ReadFileText(const std::wstring& path) {
+  const HANDLE file =
+      CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+  std::string text(static_cast<std::size_t>(GetFileSize(file, nullptr)), '\0');
+  DWORD got = 0;
+  ReadFile(file, text.data(), static_cast<DWORD>(text.size()), &got, nullptr);
+  CloseHandle(file);
+  return text;
+}
+
+// The installed program folder, opened in the dialog as a new user would.
+class DialogTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    for (const wchar_t* name : {L"zbfaone.ini", L"image1.gif", L"image2.gif"}) {
+      ASSERT_TRUE(CopyFileW((e2e::builtFolder + L"\\" + name).c_str(), (folder.path() + L"\\" + name).c_str(),
+                            FALSE));
+    }
+    installed = ReadFileText(folder.settingsFile());
+  }
+
+  e2e::ProgramFolder folder{L"dialog"};
+  std::string installed;
+};
+
+TEST_F(DialogTest, ACaptionTypedByHandIsSavedAndNothingElseIs) {
+  e2e::RunningProgram program(folder.program(), L"/c:0");
+  const HWND dialog = DialogOf(program);
+  ASSERT_NE(dialog, nullptr);
+  HWND caption = nullptr;
+  ASSERT_TRUE(
+      e2e::WaitFor([&] { return (caption = ChildOf(dialog, L"Edit", L"Mountains at dusk")) != nullptr; }));
+  ClickOn(caption);
+  e2e::PressKey(VK_END);
+  e2e::PressKey('1');
+  ASSERT_TRUE(e2e::WaitFor([&] { return ChildOf(dialog, L"Edit", L"Mountains at dusk1") != nullptr; }));
+  const HWND ok = ChildOf(dialog, L"Button", L"&OK");
+  ASSERT_NE(ok, nullptr);
+  ClickOn(ok);
+  ASSERT_TRUE(program.waitForEnd());
+
+  const std::string path = os::FromWide(folder.path());
+  std::string expected = Replaced(installed, "samples=1", "samples=0");
+  expected = Replaced(expected, "[images]\r\n",
+                      "[images]\r\n0=" + path + "\\image1.gif\r\n1=" + path + "\\image2.gif\r\n2=\r\n");
+  expected = Replaced(expected, "0=Mountains at dusk\r\n", "0=Mountains at dusk1\r\n");
+  EXPECT_EQ(ReadFileText(folder.settingsFile()), expected);
+
+  // The show has the caption, and the dialog shows everything as it was left.
+  e2e::RunningProgram again(folder.program(), L"/C");
+  const HWND reopened = DialogOf(again);
+  ASSERT_NE(reopened, nullptr);
+  EXPECT_TRUE(e2e::WaitFor([&] { return ChildOf(reopened, L"Edit", L"Mountains at dusk1") != nullptr; }));
+  EXPECT_NE(ChildOf(reopened, L"Edit", L"Total: 2"), nullptr);
+}
+
+TEST_F(DialogTest, CancelWritesNothing) {
+  e2e::RunningProgram first(folder.program(), L"/C");
+  HWND dialog = DialogOf(first);
+  ASSERT_NE(dialog, nullptr);
+  // The first run has put the samples in; from here on nothing may change.
+  const std::string before = ReadFileText(folder.settingsFile());
+  HWND caption = nullptr;
+  ASSERT_TRUE(
+      e2e::WaitFor([&] { return (caption = ChildOf(dialog, L"Edit", L"Mountains at dusk")) != nullptr; }));
+  ClickOn(caption);
+  e2e::PressKey('1');
+  const HWND cancel = ChildOf(dialog, L"Button", L"&Cancel");
+  ASSERT_NE(cancel, nullptr);
+  ClickOn(cancel);
+  ASSERT_TRUE(first.waitForEnd());
+  EXPECT_EQ(ReadFileText(folder.settingsFile()), before);
+}
+
+}  // namespace

@@ -1,0 +1,58 @@
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "e2e/running_program.h"
+#include "e2e/saving_process.h"
+#include "os/ansi_code_page_win.h"
+#include "os/files_win.h"
+#include "os/utf16_win.h"
+#include "settings/load_settings.h"
+#include "settings/settings_path.h"
+#include "support/temporary_folder_win.h"
+
+namespace {
+
+// Which of the two kinds of list a file holds, whole; empty for anything else.
+std::string KindOf(const settings::SaverSettings& loaded) {
+  if (loaded.lastImageIndex + 1 != e2e::kSavedPictures || loaded.record.newFontName.empty()) return "";
+  for (int i = 0; i < e2e::kSavedPictures; ++i) {
+    const auto index = static_cast<std::size_t>(i);
+    if (loaded.imageCaptions[index] != loaded.record.newFontName + std::to_string(i)) return "";
+    if (!loaded.imageFiles[index].ends_with(loaded.record.newFontName + ".jpg")) return "";
+  }
+  return loaded.record.newFontName;
+}
+
+TEST(Saving, AProcessKilledAtAnyInstantLeavesTheOldFileOrTheNewOneWhole) {
+  const support::TemporaryFolder folder;
+  os::FilesWin files;
+  const os::AnsiCodePageWin ansi;
+  e2e::SaveOnce(folder.path(), "odd");
+  wchar_t self[MAX_PATH];
+  GetModuleFileNameW(nullptr, self, MAX_PATH);
+  std::mt19937 random(20261121);
+  int odd = 0;
+  int even = 0;
+  for (int kill = 0; kill < 200; ++kill) {
+    {
+      e2e::RunningProgram saver(self, L"--save-for-ever \"" + os::ToWide(folder.path()) + L"\"");
+      ASSERT_TRUE(saver.hasStarted());
+      const std::string started = folder.path() + "\\started";
+      ASSERT_TRUE(e2e::WaitFor([&] { return files.exists(started); }));
+      Sleep(random() % 12);  // the instant is what varies; nothing is waited for
+      TerminateProcess(saver.process(), 1);
+      WaitForSingleObject(saver.process(), 5000);
+      DeleteFileW(os::ToWide(started).c_str());
+    }
+    settings::SaverSettings loaded;
+    settings::LoadSettings(loaded, files, ansi, folder.path());
+    const std::string kind = KindOf(loaded);
+    ASSERT_TRUE(kind == "odd" || kind == "even") << "after kill " << kill;
+    ++(kind == "odd" ? odd : even);
+  }
+  EXPECT_GT(odd, 10);
+  EXPECT_GT(even, 10);
+}
+
+}  // namespace
