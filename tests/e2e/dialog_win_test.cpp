@@ -54,6 +54,54 @@ void ClickOn(HWND window) {
   e2e::ClickMouse();
 }
 
+// Types text as a keyboard would, whatever its letters.
+void Type(const std::wstring& text) {
+  for (const wchar_t letter : text) {
+    INPUT input[2]{};
+    input[0].type = INPUT_KEYBOARD;
+    input[0].ki.wScan = letter;
+    input[0].ki.dwFlags = KEYEVENTF_UNICODE;
+    input[1] = input[0];
+    input[1].ki.dwFlags |= KEYEVENTF_KEYUP;
+    SendInput(2, input, sizeof(INPUT));
+  }
+}
+
+// Goes to the next tab with the keyboard.
+void NextTab() {
+  INPUT input[4]{};
+  const WORD keys[] = {VK_CONTROL, VK_TAB, VK_TAB, VK_CONTROL};
+  for (int i = 0; i < 4; ++i) {
+    input[i].type = INPUT_KEYBOARD;
+    input[i].ki.wVk = keys[i];
+    if (i >= 2) input[i].ki.dwFlags = KEYEVENTF_KEYUP;
+  }
+  SendInput(4, input, sizeof(INPUT));
+}
+
+// Goes on through the tabs until a control is there, and clicks it.
+testing::AssertionResult FindAndClick(HWND dialog, const wchar_t* className, const wchar_t* text) {
+  for (int tab = 0; tab < 9; ++tab) {
+    HWND control = nullptr;
+    e2e::WaitFor([&] { return (control = ChildOf(dialog, className, text)) != nullptr; }, 400);
+    if (control) {
+      ClickOn(control);
+      return testing::AssertionSuccess();
+    }
+    NextTab();
+  }
+  return testing::AssertionFailure() << os::FromWide(text) << " is on no tab";
+}
+
+HWND WindowTitled(const wchar_t* title) {
+  HWND window = nullptr;
+  e2e::WaitFor([&] {
+    window = FindWindowW(nullptr, title);
+    return window != nullptr && IsWindowVisible(window);
+  });
+  return window;
+}
+
 std::string Replaced(std::string text, const std::string& from, const std::string& to) {
   const std::size_t at = text.find(from);
   EXPECT_NE(at, std::string::npos) << from;
@@ -114,6 +162,71 @@ TEST_F(DialogTest, ACaptionTypedByHandIsSavedAndNothingElseIs) {
   ASSERT_NE(reopened, nullptr);
   EXPECT_TRUE(e2e::WaitFor([&] { return ChildOf(reopened, L"Edit", L"Mountains at dusk1") != nullptr; }));
   EXPECT_NE(ChildOf(reopened, L"Edit", L"Total: 2"), nullptr);
+}
+
+TEST_F(DialogTest, PicturesAddedMovedAndOptionsChangedOnEveryTabAreInTheFile) {
+  // One picture to be chosen by name, two in a folder in which the program starts.
+  const std::string single = folder.writeBitmap("single.bmp", {30, 20}, base::Rgb(1, 2, 3));
+  e2e::ProgramFolder album(L"album");
+  const std::string first = album.writeBitmap("a.bmp", {30, 20}, base::Rgb(1, 2, 3));
+  const std::string second = album.writeBitmap("b.bmp", {30, 20}, base::Rgb(1, 2, 3));
+  wchar_t before[MAX_PATH];
+  GetCurrentDirectoryW(MAX_PATH, before);
+  SetCurrentDirectoryW(album.path().c_str());
+  e2e::RunningProgram program(folder.program(), L"/C");
+  SetCurrentDirectoryW(before);
+  const HWND dialog = DialogOf(program);
+  ASSERT_NE(dialog, nullptr);
+
+  ASSERT_TRUE(FindAndClick(dialog, L"Button", L"Folder..."));
+  HWND addAll = nullptr;
+  ASSERT_TRUE(e2e::WaitFor([&] {
+    HWND window = nullptr;
+    while (!addAll && (window = FindWindowExW(nullptr, window, nullptr, nullptr)) != nullptr) {
+      DWORD owner = 0;
+      GetWindowThreadProcessId(window, &owner);
+      if (owner == program.processId()) addAll = ChildOf(window, L"Button", L"&Add All Images");
+    }
+    return addAll != nullptr;
+  }));
+  ClickOn(addAll);
+  ASSERT_TRUE(e2e::WaitFor([&] { return ChildOf(dialog, L"Edit", L"Position: 4") != nullptr; }));
+
+  ASSERT_TRUE(FindAndClick(dialog, L"Button", L"Add..."));
+  ASSERT_NE(WindowTitled(L"Select a file to open"), nullptr);
+  Type(os::ToWide(single));
+  e2e::PressKey(VK_RETURN);
+  ASSERT_TRUE(e2e::WaitFor([&] { return ChildOf(dialog, L"Edit", L"Total: 5") != nullptr; }));
+
+  ASSERT_TRUE(FindAndClick(dialog, L"Button", L"Move image up"));
+  ASSERT_TRUE(e2e::WaitFor([&] { return ChildOf(dialog, L"Edit", L"Position: 4") != nullptr; }));
+
+  for (const wchar_t* option : {L"&Float", L"Desktop ", L"Default", L"Fade", L"Scrolling ", L"Countdown"}) {
+    ASSERT_TRUE(FindAndClick(dialog, L"Button", option)) << os::FromWide(option);
+  }
+  ASSERT_TRUE(FindAndClick(dialog, L"Button", L"&OK"));
+  ASSERT_TRUE(program.waitForEnd());
+
+  const std::string path = os::FromWide(folder.path());
+  std::string expected = Replaced(installed, "samples=1", "samples=0");
+  expected = Replaced(expected, "[images]\r\n",
+                      "[images]\r\n0=" + path + "\\image1.gif\r\n1=" + path + "\\image2.gif\r\n2=" + first +
+                          "\r\n3=" + single + "\r\n4=" + second + "\r\n5=\r\n");
+  expected = Replaced(expected, "total=2", "total=5");
+  expected = Replaced(expected, "1=Night sky over the lake\r\n2=\r\n",
+                      "1=Night sky over the lake\r\n2=\r\n3=\r\n4=\r\n5=\r\n");
+  expected = Replaced(expected, "picRandom=cent", "picRandom=rand");
+  expected = Replaced(expected, "backEffect=3", "backEffect=1");
+  expected = Replaced(expected, "bFade=1", "bFade=0");
+  expected = Replaced(expected, "scroll=1", "scroll=0");
+  expected = Replaced(expected, "timeDisplay=1", "timeDisplay=2");
+  EXPECT_EQ(ReadFileText(folder.settingsFile()), expected);
+
+  // The show runs on what was saved.
+  e2e::RunningProgram show(folder.program(), L"/S");
+  ASSERT_NE(show.waitForShow(), nullptr);
+  EXPECT_TRUE(show.endsByKey());
+  EXPECT_EQ(show.exitCode(), 0U);
 }
 
 TEST_F(DialogTest, CancelWritesNothing) {
