@@ -39,7 +39,8 @@ if(LUMORA_TESTS)
   target_link_options(password_stand_in PRIVATE -static)
 
   file(GLOB bench_sources CONFIGURE_DEPENDS tests/bench/*.cpp)
-  add_executable(lumora_bench EXCLUDE_FROM_ALL ${bench_sources} tests/support/win_tests.rc)
+  add_executable(lumora_bench EXCLUDE_FROM_ALL ${bench_sources} tests/e2e/program_folder.cpp
+                 tests/e2e/running_program.cpp tests/support/win_tests.rc)
   target_link_libraries(lumora_bench PRIVATE lumora_win_support)
   target_link_options(lumora_bench PRIVATE -static)
 

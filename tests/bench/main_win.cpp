@@ -3,10 +3,14 @@
 
 #include <cstdio>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/number_text.h"
+#include "bench/bare_window.h"
 #include "bench/bench_table.h"
+#include "bench/start_and_end.h"
+#include "e2e/program_folder.h"
 #include "os/ansi_code_page_win.h"
 #include "os/files_win.h"
 #include "os/utf16_win.h"
@@ -135,8 +139,12 @@ void BenchDayOfShow() {
 
 }  // namespace
 
-int main() {
+// Argument: the built program folder (Windows path).
+int main(int argc, char** argv) {
+  if (argc > 1 && std::string_view(argv[1]) == "--bare") return bench::RunBareWindow();
+  if (argc > 1) e2e::builtFolder = os::ToWide(argv[1]);
   std::printf("%-52s | %-52s | %10s | %s\n", "work", "reference", "ratio", "bar");
+  bench::BenchStartAndEnd();
   BenchSettings();
   BenchDialog();
   BenchDayOfShow();
