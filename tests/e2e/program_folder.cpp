@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "os/utf16_win.h"
+#include "support/plain_show.h"
 
 namespace e2e {
 
@@ -34,48 +35,10 @@ void RemoveTree(const std::wstring& folder) {
   RemoveDirectoryW(folder.c_str());
 }
 
-const std::map<std::string, std::string> kPlainSettings = {
-    {"image/randomPick", "0"},
-    {"image/picSpeed", "2"},
-    {"image/timeInterval", "1"},
-    {"image/picRandom", "cent"},
-    {"image/picChange", "ch"},
-    {"image/mouseSensitivity", "23"},
-    {"image/picturePercent", "90"},
-    {"image/timeDisplay", "0"},
-    {"background/newBackColor", "0"},
-    {"background/backEffect", "0"},
-    {"background/backgroundImage", ""},
-    {"background/backgroundDisplay", "0"},
-    {"background/redBackground", "0"},
-    {"background/greenBackground", "0"},
-    {"background/blueBackground", "0"},
-    {"font/newFontName", "Arial"},
-    {"font/newFontSize", "20"},
-    {"font/newFontBold", "False"},
-    {"font/newFontItalic", "False"},
-    {"font/newFontUnderline", "False"},
-    {"font/newFontFontStrikethru", "False"},
-    {"font/newFontForeColor", "16777215"},
-    {"font/scroll", "1"},
-    {"font/scrollSpeed", "150"},
-    {"transitions/bStandard", "0"},
-    {"transitions/bLeftWipe", "0"},
-    {"transitions/bRightWipe", "0"},
-    {"transitions/bRightandLeftWipe", "0"},
-    {"transitions/bUpAndDown", "0"},
-    {"transitions/bCenter", "0"},
-    {"transitions/bHorizontalBlinds", "0"},
-    {"transitions/bVerticalBlinds", "0"},
-    {"transitions/bFade", "0"},
-    {"date/countdownMonth", "01"},
-    {"date/countdownDay", "01"},
-    {"date/countdownYear", "2040"},
-};
-
 }  // namespace
 
-ProgramFolder::ProgramFolder(const std::wstring& name) : settings_(kPlainSettings) {
+ProgramFolder::ProgramFolder(const std::wstring& name) : settings_(support::PlainShow()) {
+  settings_["font/newFontSize"] = "20";  // large enough to be found on the screen
   wchar_t temp[MAX_PATH];
   GetTempPathW(MAX_PATH, temp);
   static int serial = 0;

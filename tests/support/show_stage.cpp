@@ -2,54 +2,18 @@
 
 #include "base/errors.h"
 #include "base/twips.h"
+#include "support/plain_show.h"
 
 namespace support {
 
 namespace {
-
-const std::map<std::string, std::string> kPlainShow = {
-    {"image/randomPick", "0"},
-    {"image/picSpeed", "2"},
-    {"image/timeInterval", "1"},
-    {"image/picRandom", "cent"},
-    {"image/mouseSensitivity", "23"},
-    {"image/picturePercent", "90"},
-    {"image/timeDisplay", "0"},
-    {"background/newBackColor", "0"},
-    {"background/backEffect", "0"},
-    {"background/backgroundDisplay", "0"},
-    {"background/redBackground", "0"},
-    {"background/greenBackground", "0"},
-    {"background/blueBackground", "0"},
-    {"font/newFontName", "Arial"},
-    {"font/newFontSize", "10"},
-    {"font/newFontBold", "False"},
-    {"font/newFontItalic", "False"},
-    {"font/newFontUnderline", "False"},
-    {"font/newFontFontStrikethru", "False"},
-    {"font/newFontForeColor", "16777215"},
-    {"font/scroll", "1"},
-    {"font/scrollSpeed", "150"},
-    {"transitions/bStandard", "0"},
-    {"transitions/bLeftWipe", "0"},
-    {"transitions/bRightWipe", "0"},
-    {"transitions/bRightandLeftWipe", "0"},
-    {"transitions/bUpAndDown", "0"},
-    {"transitions/bCenter", "0"},
-    {"transitions/bHorizontalBlinds", "0"},
-    {"transitions/bVerticalBlinds", "0"},
-    {"transitions/bFade", "0"},
-    {"date/countdownMonth", "12"},
-    {"date/countdownDay", "25"},
-    {"date/countdownYear", "2026"},
-};
 
 constexpr const char* kFolder = "C:\\Lumora";
 
 }  // namespace
 
 ShowStage::ShowStage(base::PixelSize screenSize, int dpi)
-    : window(screenSize), stage(window, text, base::TwipsPerPixelForDpi(dpi)), settings_(kPlainShow) {
+    : window(screenSize), stage(window, text, base::TwipsPerPixelForDpi(dpi)), settings_(PlainShow()) {
   screen.size = screenSize;
   screen.dotsPerInch = dpi;
 }
