@@ -24,7 +24,7 @@ target_link_options(Lumora PRIVATE -municode -static -s -Wl,--gc-sections
 target_compile_options(lumora_flags INTERFACE -ffunction-sections -fdata-sections)
 
 if(LUMORA_TESTS)
-  add_library(lumora_win_support STATIC EXCLUDE_FROM_ALL ${windows_support_sources} tests/support/empty.cpp)
+  add_library(lumora_win_support STATIC EXCLUDE_FROM_ALL ${windows_support_sources})
   target_link_libraries(lumora_win_support PUBLIC lumora_support lumora_win)
 
   # The tests' windows are those of the program: with its manifest, in the system's visual style.

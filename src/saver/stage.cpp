@@ -73,9 +73,7 @@ void Stage::flush() {
 }
 
 void Stage::present(const base::PixelRect& area) {
-  if (area.isEmpty()) return;
-  presentedPixels_ += area.area();
-  window_.present(area);
+  if (!area.isEmpty()) window_.present(area);
 }
 
 void Stage::compose(const base::PixelRect& area) {

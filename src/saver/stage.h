@@ -42,9 +42,6 @@ class Stage : public forms::FormHost {
   // A control of the show has come to another place, appeared or gone; called by the flush() that shows it.
   std::function<void()> onPlacesChanged;
 
-  // Pixels put on the screen so far.
-  long long presentedPixels() const { return presentedPixels_; }
-
   void controlChanged(forms::Control& control, forms::Change change) override;
   void controlDrawn(forms::Control& control, const base::PixelRect& area) override;
   base::PixelSize measureText(const base::Font& font, const std::string& text) override;
@@ -74,7 +71,6 @@ class Stage : public forms::FormHost {
   base::PixelRect pictureWas_;          // where the picture box was composed last; empty while hidden
   std::vector<base::PixelRect> dirty_;  // areas of the window to compose anew
   bool placesChanged_ = false;
-  long long presentedPixels_ = 0;
 };
 
 }  // namespace saver
