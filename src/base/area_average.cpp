@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <type_traits>
 #include <utility>
 
 namespace base {
@@ -19,22 +20,62 @@ int NarrowFractionBits(double rows) {
   return bits;
 }
 
+// The most rows that are added to the sums in one go: each saves a way of the sums through memory.
+constexpr int kMostRowsAtOnce = 4;
+
+// Bytes of up to so many rows of a picture, one below the other.
+struct Rows {
+  const std::uint8_t* first;
+  std::ptrdiff_t stride;  // in bytes
+
+  const std::uint8_t* row(int i) const { return first + i * stride; }
+};
+
 // The loops below stay in the width of a sum, so that the compiler can run them on whole vectors.
 
-template <class Sum>
-void AddWhole(Sum* __restrict sums, const std::uint8_t* __restrict bytes, std::size_t count, Sum unit) {
-  for (std::size_t i = 0; i < count; ++i) sums[i] = static_cast<Sum>(sums[i] + bytes[i] * unit);
+template <int kRows, class Sum>
+Sum SumOf(const Rows& rows, std::size_t i) {
+  Sum sum = 0;
+  for (int r = 0; r < kRows; ++r) sum = static_cast<Sum>(sum + rows.row(r)[i]);
+  return sum;
 }
 
-// A row that lies across a border: `share` (of 256 x unit) goes to the row above the border, the rest below.
-template <class Sum>
-void AddShared(Sum* __restrict above, Sum* __restrict below, const std::uint8_t* __restrict bytes,
-               std::size_t count, Sum unit, std::uint16_t share) {
+template <int kRows, class Sum>
+void AddWhole(Sum* __restrict sums, Rows rows, std::size_t count, Sum unit) {
   for (std::size_t i = 0; i < count; ++i) {
-    const auto high = static_cast<std::uint16_t>(bytes[i] << 8);
+    sums[i] = static_cast<Sum>(sums[i] + static_cast<Sum>(SumOf<kRows, Sum>(rows, i) * unit));
+  }
+}
+
+// The last rows of a target row: so many whole ones, and one that lies across the border, of which `share`
+// (of 256 x unit) goes to the row above the border and the rest below.
+template <int kRows, class Sum>
+void AddLast(Sum* __restrict finished, Sum* __restrict sums, Rows rows, std::size_t count, Sum unit,
+             std::uint16_t share) {
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::uint8_t across = rows.row(kRows)[i];
+    const auto high = static_cast<std::uint16_t>(across << 8);
     const auto part = static_cast<std::uint16_t>((static_cast<std::uint32_t>(high) * share) >> 16);
-    above[i] = static_cast<Sum>(above[i] + part);
-    below[i] = static_cast<Sum>(bytes[i] * unit - part);
+    const auto whole = static_cast<Sum>(SumOf<kRows, Sum>(rows, i) * unit);
+    finished[i] = static_cast<Sum>(sums[i] + whole + part);
+    sums[i] = static_cast<Sum>(static_cast<Sum>(across * unit) - part);
+  }
+}
+
+// Calls `loop` with a whole number that is known when compiling.
+template <class Loop>
+void WithRows(int rows, Loop loop) {
+  switch (rows) {
+    case 0:
+      return loop(std::integral_constant<int, 0>());
+    case 1:
+      return loop(std::integral_constant<int, 1>());
+    case 2:
+      return loop(std::integral_constant<int, 2>());
+    case 3:
+      return loop(std::integral_constant<int, 3>());
+    default:
+      return loop(std::integral_constant<int, kMostRowsAtOnce>());
   }
 }
 
@@ -48,12 +89,15 @@ std::uint32_t Reciprocal(int bits, double divisor) {
 // One pixel more than a row has, which stays zero: the one across the last border.
 template <class Sum>
 void AreaAverage::ColumnSums<Sum>::resize(std::size_t lanes) {
-  current.resize(lanes + kChannels);
-  next.resize(lanes + kChannels);
+  sums.resize(lanes + kChannels);
+  finished.resize(lanes + kChannels);
 }
 
 AreaAverage::AreaAverage(PixelSize source, PixelSize target)
-    : source_(source), target_(target), columns_(source.width, target.width), result_(target) {
+    : source_(source),
+      target_(target),
+      columns_(source.width, target.width),
+      result_(Bitmap::unfilled(target)) {
   assert(!target.isEmpty() && target.width <= source.width && target.height <= source.height);
   assert(source.width <= kLongestSide && source.height <= kLongestSide);
   const double rowsEach = static_cast<double>(source.height) / target.height;
@@ -71,47 +115,57 @@ AreaAverage::AreaAverage(PixelSize source, PixelSize target)
 }
 
 void AreaAverage::add(const Pixel* rows, int count, std::ptrdiff_t stride) {
-  for (int i = 0; i < count && !isComplete(); ++i) {
-    const Pixel* row = rows + i * stride;
+  const Pixel* const end = rows + std::min(count, source_.height - nextRow_) * stride;
+  while (rows != end) {
+    const auto left = static_cast<int>((end - rows) / stride);
+    int taken = 1;
     if (source_ == target_) {
-      std::copy_n(row, source_.width, result_.row(nextRow_));
+      std::copy_n(rows, source_.width, result_.row(nextRow_));
     } else if (narrow_) {
-      addRow(narrowSums_, row);
+      taken = addRows(narrowSums_, rows, left, stride);
     } else {
-      addRow(wideSums_, row);
+      taken = addRows(wideSums_, rows, left, stride);
     }
-    ++nextRow_;
+    nextRow_ += taken;
+    rows += taken * stride;
   }
 }
 
+// Adds as many of the rows as can be added in one go, and gives their number.
 template <class Sum>
-void AreaAverage::addRow(ColumnSums<Sum>& sums, const Pixel* row) {
-  const auto* bytes = reinterpret_cast<const std::uint8_t*>(row);
-  const std::size_t lanes = sums.current.size() - kChannels;
+int AreaAverage::addRows(ColumnSums<Sum>& columns, const Pixel* first, int count, std::ptrdiff_t stride) {
+  const Rows rows{reinterpret_cast<const std::uint8_t*>(first),
+                  stride * static_cast<std::ptrdiff_t>(sizeof(Pixel))};
+  const std::size_t lanes = columns.sums.size() - kChannels;
   const auto unit = static_cast<Sum>(1 << fractionBits_);
+  Sum* const sums = columns.sums.data();
+  Sum* const finished = columns.finished.data();
   const std::int64_t end = (targetRow_ + std::int64_t{1}) * source_.height;  // in parts of a row
-  const int wholeRows = static_cast<int>(end / target_.height);
+  const int whole = static_cast<int>(end / target_.height) - nextRow_;  // that the target row still takes
   const auto rest = static_cast<int>(end % target_.height);
-  if (nextRow_ < wholeRows) {
-    AddWhole<Sum>(sums.current.data(), bytes, lanes, unit);
-    if (nextRow_ + 1 < wholeRows || rest != 0) return;
-    finishRow(sums.current);
-    std::fill(sums.current.begin(), sums.current.end(), Sum{0});
-  } else {
+  if (rest != 0 && whole < kMostRowsAtOnce && whole < count) {
     const std::int64_t share = (std::int64_t{rest} * 256 << fractionBits_) / target_.height;
-    AddShared<Sum>(sums.current.data(), sums.next.data(), bytes, lanes, unit,
-                   static_cast<std::uint16_t>(share));
-    finishRow(sums.current);
-    std::swap(sums.current, sums.next);
+    WithRows(whole, [&](auto number) {
+      AddLast<number()>(finished, sums, rows, lanes, unit, static_cast<std::uint16_t>(share));
+    });
+    finishRow(columns.finished);
+    return whole + 1;
   }
+  const int taken = std::min({whole, count, kMostRowsAtOnce});
+  WithRows(taken, [&](auto number) { AddWhole<number()>(sums, rows, lanes, unit); });
+  if (taken == whole && rest == 0) {
+    finishRow(columns.sums);
+    std::fill(columns.sums.begin(), columns.sums.end(), Sum{0});
+  }
+  return taken;
 }
 
 void AreaAverage::finishRow(const std::vector<std::uint32_t>& sums) {
   for (std::size_t i = 0; i < sums.size(); ++i) {
-    narrowSums_.current[i] =
+    narrowSums_.finished[i] =
         static_cast<std::uint16_t>((static_cast<std::uint64_t>(sums[i]) * narrowing_) >> 32);
   }
-  finishRow(narrowSums_.current);
+  finishRow(narrowSums_.finished);
 }
 
 void AreaAverage::finishRow(const std::vector<std::uint16_t>& sums) {

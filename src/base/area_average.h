@@ -36,12 +36,12 @@ class AreaAverage {
   template <class Sum>
   struct ColumnSums {
     void resize(std::size_t lanes);
-    std::vector<Sum> current;
-    std::vector<Sum> next;
+    std::vector<Sum> sums;      // of the rows that have been added since the last border
+    std::vector<Sum> finished;  // of a whole target row
   };
 
   template <class Sum>
-  void addRow(ColumnSums<Sum>& sums, const Pixel* row);
+  int addRows(ColumnSums<Sum>& columns, const Pixel* first, int count, std::ptrdiff_t stride);
   void finishRow(const std::vector<std::uint16_t>& sums);
   void finishRow(const std::vector<std::uint32_t>& sums);
 
