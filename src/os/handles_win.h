@@ -22,15 +22,21 @@ struct Give {
   static void back(HMENU handle) { DestroyMenu(handle); }
 };
 
+// How many handles of all kinds are owned now: a long run must not let it grow. The program has one thread.
+inline long ownedHandles = 0;
+
 // Owns one handle. Moves, never copies; null when it owns nothing.
 template <typename Handle>
 class Owned {
  public:
   Owned() = default;
-  explicit Owned(Handle handle) : handle_(handle) {}
+  explicit Owned(Handle handle) { reset(handle); }
   Owned(Owned&& other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
   Owned& operator=(Owned&& other) noexcept {
-    if (this != &other) reset(std::exchange(other.handle_, nullptr));
+    if (this != &other) {
+      reset();
+      handle_ = std::exchange(other.handle_, nullptr);
+    }
     return *this;
   }
   ~Owned() { reset(); }
@@ -38,8 +44,12 @@ class Owned {
   Handle get() const { return handle_; }
   explicit operator bool() const { return handle_ != nullptr; }
   void reset(Handle handle = nullptr) {
-    if (handle_) Give::back(handle_);
+    if (handle_) {
+      Give::back(handle_);
+      --ownedHandles;
+    }
     handle_ = handle;
+    if (handle_) ++ownedHandles;
   }
 
  private:
