@@ -26,6 +26,14 @@ Bitmap::Bitmap(PixelSize size, Pixel fill)
       pixels_(PixelCount(size), fill),
       opaque_(fill >> 24 == 0xFF) {}
 
+Bitmap Bitmap::unfilled(PixelSize size) {
+  Bitmap bitmap;
+  if (size.isEmpty()) return bitmap;
+  bitmap.size_ = size;
+  bitmap.pixels_.resize(PixelCount(size));
+  return bitmap;
+}
+
 void FillRect(BitmapView target, PixelRect area, Pixel pixel) {
   const PixelRect part = area.intersected(PixelRect::ofSize(target.size));
   for (int y = part.top; y < part.bottom(); ++y) {
@@ -39,6 +47,24 @@ void CopyRect(BitmapView target, PixelPoint to, const Bitmap& source, PixelRect 
   for (int y = part.top; y < part.bottom(); ++y) {
     std::memcpy(target.row(y - from.top + to.y) + x, source.row(y) + part.left,
                 static_cast<std::size_t>(part.width) * sizeof(Pixel));
+  }
+}
+
+void CopyRects(BitmapView target, PixelPoint at, const Bitmap& source, std::span<const PixelRect> areas) {
+  while (!areas.empty()) {
+    const PixelRect& first = areas.front();
+    const auto end = std::find_if(areas.begin(), areas.end(), [&](const PixelRect& area) {
+      return area.top != first.top || area.height != first.height;
+    });
+    const std::span<const PixelRect> sameRows = areas.first(static_cast<std::size_t>(end - areas.begin()));
+    for (int y = first.top; y < first.bottom(); ++y) {
+      Pixel* to = target.row(y);
+      const Pixel* from = source.row(y - at.y);
+      for (const PixelRect& area : sameRows) {
+        std::copy_n(from + (area.left - at.x), area.width, to + area.left);
+      }
+    }
+    areas = areas.subspan(sameRows.size());
   }
 }
 

@@ -4,6 +4,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <new>
+#include <span>
+#include <utility>
 #include <vector>
 
 #include "base/color.h"
@@ -29,11 +32,31 @@ struct BitmapView {
   Pixel* row(int y) const { return pixels + y * stride; }
 };
 
+// Gives memory as it is found, where no value is asked for.
+template <typename T>
+struct UnfilledAllocator : std::allocator<T> {
+  template <typename U>
+  struct rebind {
+    using other = UnfilledAllocator<U>;
+  };
+  template <typename U>
+  void construct(U* place) noexcept {
+    ::new (static_cast<void*>(place)) U;
+  }
+  template <typename U, typename... Values>
+  void construct(U* place, Values&&... values) {
+    std::construct_at(place, std::forward<Values>(values)...);
+  }
+};
+
 // Pixels of its own. A new bitmap is transparent.
 class Bitmap {
  public:
   Bitmap() = default;
   explicit Bitmap(PixelSize size, Pixel fill = kTransparent);
+
+  // For a bitmap whose every pixel is written before any is read.
+  static Bitmap unfilled(PixelSize size);
 
   PixelSize size() const { return size_; }
   bool isEmpty() const { return size_.isEmpty(); }
@@ -50,7 +73,7 @@ class Bitmap {
 
  private:
   PixelSize size_;
-  std::vector<Pixel> pixels_;
+  std::vector<Pixel, UnfilledAllocator<Pixel>> pixels_;
   bool opaque_ = false;
 };
 
@@ -61,6 +84,10 @@ void FillRect(BitmapView target, PixelRect area, Pixel pixel);
 
 // Puts source pixels `from` at `to` of the target, replacing what was there (alpha too). Cut to both.
 void CopyRect(BitmapView target, PixelPoint to, const Bitmap& source, PixelRect from);
+
+// Puts the pixels that a source whose top left corner lies at `at` of the target has in `areas` of the target
+// there. The areas lie inside both. Strips side by side are copied row by row.
+void CopyRects(BitmapView target, PixelPoint at, const Bitmap& source, std::span<const PixelRect> areas);
 
 // Lays source pixels `from` over the target at `to` (source over). Cut to both; copies when the source is
 // opaque.

@@ -148,10 +148,11 @@ void Form2::blueSlider_Change() {
 void Form2::UpdateGradientPreview() {
   const base::PixelSize size = GradientPicture.scaleSize();
   // Read leniently: after a loading that failed early, a component may have no text yet.
-  const base::Bitmap drawn =
-      DrawGradient(size, base::LenientInt32(record.redBackground), base::LenientInt32(record.greenBackground),
-                   base::LenientInt32(record.blueBackground));
-  GradientPicture.paintPart(drawn, base::PixelRect::ofSize(size));
+  GradientPicture.paintPart(
+      std::make_shared<base::Bitmap>(DrawGradient(size, base::LenientInt32(record.redBackground),
+                                                  base::LenientInt32(record.greenBackground),
+                                                  base::LenientInt32(record.blueBackground))),
+      base::PixelRect::ofSize(size));
 }
 
 void Form2::aChange_Click() {

@@ -1,6 +1,7 @@
 // What realises a form: the stage of the show, or real windows.
 #pragma once
 
+#include <span>
 #include <string>
 
 #include "base/font.h"
@@ -37,8 +38,8 @@ class FormHost {
 
   virtual void controlChanged(Control& control, Change change) = 0;
 
-  // A picture box was drawn on inside `area` (its own pixels).
-  virtual void controlDrawn(Control& control, const base::PixelRect& area) = 0;
+  // A picture box was drawn on inside `areas` (its own pixels).
+  virtual void controlDrawn(Control& control, std::span<const base::PixelRect> areas) = 0;
 
   virtual void formChanged(Form&, FormChange) {}
 

@@ -254,7 +254,7 @@ void FormWindow::keepFocusOff(const Control& disabled) {
   }
 }
 
-void FormWindow::controlDrawn(Control& control, const base::PixelRect&) {
+void FormWindow::controlDrawn(Control& control, std::span<const base::PixelRect>) {
   if (auto* drawn = dynamic_cast<DrawnPeer*>(peerOf(control))) drawn->invalidate();
 }
 

@@ -45,7 +45,7 @@ class FormWindow : public FormHost, private PeerOwner {
   bool filter(MSG& message);
 
   void controlChanged(Control& control, Change change) override;
-  void controlDrawn(Control& control, const base::PixelRect& area) override;
+  void controlDrawn(Control& control, std::span<const base::PixelRect> areas) override;
   void formChanged(Form& form, FormChange change) override;
   void listChanged(ListBox& list, const ListEdit& edit) override;
   base::PixelSize measureText(const base::Font& font, const std::string& text) override;

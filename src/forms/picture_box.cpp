@@ -7,6 +7,13 @@
 
 namespace forms {
 
+namespace {
+
+// Parts that lie scattered are copied to the drawing before keeping count of them costs more than that.
+constexpr std::size_t kMostPaintedRects = 256;
+
+}  // namespace
+
 PictureBox::PictureBox(Form& form, std::string name) : Control(form, std::move(name)) {}
 
 base::PixelSize PictureBox::scaleSize() const {
@@ -21,8 +28,7 @@ float PictureBox::scaleHeight() const { return static_cast<float>(scaleSize().he
 
 void PictureBox::setPicture(SharedPicture picture) {
   picture_ = std::move(picture);
-  drawing_.reset();
-  writable_.reset();
+  dropDrawing();
   if (autoSize_ && picture_) {
     const base::PixelSize size = picture_->size();
     const auto perPixel = static_cast<float>(form().twipsPerPixel());
@@ -34,29 +40,70 @@ void PictureBox::setPicture(SharedPicture picture) {
 }
 
 void PictureBox::cls() {
-  if (!drawing_) return;
+  if (!drawing_ && painted_.isEmpty()) return;
+  dropDrawing();
+  tellDrawn(base::PixelRect::ofSize(scaleSize()));
+}
+
+void PictureBox::dropDrawing() {
   drawing_.reset();
   writable_.reset();
-  if (host()) host()->controlDrawn(*this, base::PixelRect::ofSize(scaleSize()));
+  paintedFrom_.reset();
+  painted_.clear();
+  isPaintedDrawn_ = true;
+}
+
+void PictureBox::tellDrawn(const base::PixelRect& area) {
+  if (host()) host()->controlDrawn(*this, {&area, 1});
 }
 
 void PictureBox::paintPicture(const Picture& source, base::PixelSize size) {
   base::SharedBitmap drawn = source.drawnAt(size);
   if (!drawn) return;
+  drawPainted();
+  paintedFrom_.reset();
+  painted_.clear();
   if (!drawing_ && size == scaleSize()) {
     drawing_ = std::move(drawn);  // the whole box: no second copy of the pixels
   } else {
     base::CopyRect(writableDrawing().view(), {0, 0}, *drawn, base::PixelRect::ofSize(size));
   }
-  if (host()) host()->controlDrawn(*this, base::PixelRect::ofSize(size));
+  tellDrawn(base::PixelRect::ofSize(size));
 }
 
-void PictureBox::paintPart(const base::Bitmap& source, const base::PixelRect& area) {
-  base::CopyRect(writableDrawing().view(), {area.left, area.top}, source, area);
-  if (host()) host()->controlDrawn(*this, area);
+void PictureBox::paintParts(const base::SharedBitmap& source, std::span<const base::PixelRect> areas) {
+  if (source != paintedFrom_) {
+    drawPainted();
+    painted_.clear();
+    paintedFrom_ = source;
+  }
+  if (painted_.rects().size() > kMostPaintedRects) {
+    drawPainted();
+    painted_.clear();
+  }
+  const base::PixelRect common =
+      base::PixelRect::ofSize(scaleSize()).intersected(base::PixelRect::ofSize(source->size()));
+  for (const base::PixelRect& area : areas) painted_.add(area.intersected(common));
+  isPaintedDrawn_ = painted_.isEmpty();
+  if (host()) host()->controlDrawn(*this, areas);
+}
+
+void PictureBox::drawPainted() const {
+  if (isPaintedDrawn_) return;
+  const base::BitmapView target = writableDrawing().view();
+  for (const base::PixelRect& rect : painted_.rects()) {
+    base::CopyRect(target, {rect.left, rect.top}, *paintedFrom_, rect);
+  }
+  isPaintedDrawn_ = true;
+}
+
+const base::SharedBitmap& PictureBox::drawing() const {
+  drawPainted();
+  return drawing_;
 }
 
 base::SharedBitmap PictureBox::image() const {
+  drawPainted();
   const base::PixelSize size = scaleSize();
   if (drawing_ && drawing_->size() == size && (!picture_ || drawing_->isOpaque())) return drawing_;
   auto image = std::make_shared<base::Bitmap>(size);
@@ -69,12 +116,12 @@ base::SharedBitmap PictureBox::image() const {
   return image;
 }
 
-base::Bitmap& PictureBox::writableDrawing() {
+base::Bitmap& PictureBox::writableDrawing() const {
   // Pixels that were handed out as an image, or taken over from a picture, are not ours to change.
   const bool ours = writable_ && writable_ == drawing_ && writable_.use_count() == 2;
   if (!ours) {
-    writable_ = drawing_ ? std::make_shared<base::Bitmap>(*drawing_)
-                         : std::make_shared<base::Bitmap>(scaleSize());
+    writable_ =
+        drawing_ ? std::make_shared<base::Bitmap>(*drawing_) : std::make_shared<base::Bitmap>(scaleSize());
     writable_->setOpaque(false);
     drawing_ = writable_;
   }

@@ -1,9 +1,11 @@
 // A box that holds an assigned picture and a drawing surface over it. Works in pixels inside.
 #pragma once
 
+#include <span>
 #include <string>
 
 #include "base/bitmap.h"
+#include "base/region.h"
 #include "forms/control.h"
 #include "forms/picture.h"
 
@@ -35,24 +37,40 @@ class PictureBox : public Control {
   // Draws the whole of a picture, stretched to `size` pixels at (0, 0).
   void paintPicture(const Picture& source, base::PixelSize size);
 
-  // Copies the pixels `area` of `source` to the same place of the drawing surface; cut to both. Shown at
-  // once.
-  void paintPart(const base::Bitmap& source, const base::PixelRect& area);
+  // Copies the pixels in `areas` of `source` to the same places of the drawing surface; cut to both. Shown at
+  // once. The source is held until something else is drawn or assigned.
+  void paintParts(const base::SharedBitmap& source, std::span<const base::PixelRect> areas);
+  void paintPart(const base::SharedBitmap& source, const base::PixelRect& area) {
+    paintParts(source, {&area, 1});
+  }
+
+  // The source of the last parts that were painted, and which of its pixels the box shows.
+  const base::SharedBitmap& paintedFrom() const { return paintedFrom_; }
+  const base::Region& painted() const { return painted_; }
 
   // Everything drawn so far on top of the assigned picture, at the box's size in pixels. Shares the pixels
   // with the box where one of them is all there is.
   base::SharedBitmap image() const;
 
   // What was drawn, or null. As large as the box was when it was first drawn on.
-  const base::SharedBitmap& drawing() const { return drawing_; }
+  const base::SharedBitmap& drawing() const;
 
  private:
-  base::Bitmap& writableDrawing();
+  void dropDrawing();
+  void tellDrawn(const base::PixelRect& area);
+  void drawPainted() const;
+  base::Bitmap& writableDrawing() const;
 
   SharedPicture picture_;
   bool autoSize_ = false;
-  base::SharedBitmap drawing_;              // shared with whoever asked for the image
-  std::shared_ptr<base::Bitmap> writable_;  // the same bitmap while nobody else may hold it
+  mutable base::SharedBitmap drawing_;              // shared with whoever asked for the image
+  mutable std::shared_ptr<base::Bitmap> writable_;  // the same bitmap while nobody else may hold it
+
+  // Parts that were painted last. They are copied to the drawing when somebody asks for it: a transition ends
+  // without that.
+  base::SharedBitmap paintedFrom_;
+  base::Region painted_;
+  mutable bool isPaintedDrawn_ = true;
 };
 
 }  // namespace forms

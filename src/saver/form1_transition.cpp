@@ -45,7 +45,7 @@ void Form1::RunTransition() {
                                                  .random = random_});
     services_.stage.flush();
     TransitionRunner(services_.clock, services_.loop, over)
-        .run(plan, DisplayingPicture, *pixels, ParseTransitionTime(settings_.record.transitionTime));
+        .run(plan, DisplayingPicture, pixels, ParseTransitionTime(settings_.record.transitionTime));
   } catch (const base::RunTimeError&) {
     return;
   }

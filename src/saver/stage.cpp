@@ -4,6 +4,7 @@
 #include <optional>
 #include <utility>
 
+#include "base/rect_difference.h"
 #include "base/system_colors.h"
 #include "saver/text_layer.h"
 
@@ -68,32 +69,26 @@ void Stage::flush() {
   if (!form_) return;
   const std::vector<base::PixelRect> areas = std::exchange(dirty_, {});
   for (const base::PixelRect& area : areas) compose(area);
-  for (const base::PixelRect& area : areas) present(area);
+  present(areas);
   if (std::exchange(placesChanged_, false) && onPlacesChanged) onPlacesChanged();
 }
 
-void Stage::present(const base::PixelRect& area) {
-  if (!area.isEmpty()) window_.present(area);
+void Stage::present(const std::vector<base::PixelRect>& areas) {
+  if (!areas.empty()) window_.present(areas);
 }
 
 void Stage::compose(const base::PixelRect& area) {
   const base::BitmapView target = window_.backBuffer();
-  const base::PixelRect covered = picture_->visible() ? picture_->pixelRect() : base::PixelRect{};
-  const bool hidden = assigned_ && assigned_->isOpaque() && covered.intersected(area) == area &&
-                      assigned_->size() == covered.size();
-  if (!hidden) composeBackground(target, area);
+  for (const base::PixelRect& open : base::Difference(area, opaquePicture())) composeBackground(target, open);
   composePicture(target, area);
-  for (const auto& layer : texts_) {
-    const forms::Label& label = *layer->label;
-    const base::PixelRect place = shownPlace(label);
-    if (place.intersected(area).isEmpty()) continue;
-    if (!layer->mask) layer->mask = text_.draw(label.font(), label.caption());
-    if (!label.transparent()) {
-      base::FillRect(target, place.intersected(area), base::OpaquePixel(base::PlainColor(label.backColor())));
-    }
-    BlendText(target, {place.left, place.top}, *layer->mask, base::PlainColor(label.foreColor()),
-              place.intersected(area));
-  }
+  composeTexts(target, area);
+}
+
+// Where the assigned picture hides the background; empty where it may let it through.
+base::PixelRect Stage::opaquePicture() const {
+  if (!picture_->visible() || !assigned_ || !assigned_->isOpaque()) return {};
+  const base::PixelRect place = picture_->pixelRect();
+  return base::PixelRect::ofSize(assigned_->size()).movedBy(place.left, place.top).intersected(place);
 }
 
 void Stage::composeBackground(const base::BitmapView& target, const base::PixelRect& area) const {
@@ -111,6 +106,20 @@ void Stage::composePicture(const base::BitmapView& target, const base::PixelRect
   const base::PixelRect inside = part.movedBy(-place.left, -place.top);
   if (assigned_) base::BlendRect(target, {part.left, part.top}, *assigned_, inside);
   if (picture_->drawing()) base::BlendRect(target, {part.left, part.top}, *picture_->drawing(), inside);
+}
+
+void Stage::composeTexts(const base::BitmapView& target, const base::PixelRect& area) {
+  for (const auto& layer : texts_) {
+    const forms::Label& label = *layer->label;
+    const base::PixelRect place = shownPlace(label);
+    if (place.intersected(area).isEmpty()) continue;
+    if (!layer->mask) layer->mask = text_.draw(label.font(), label.caption());
+    if (!label.transparent()) {
+      base::FillRect(target, place.intersected(area), base::OpaquePixel(base::PlainColor(label.backColor())));
+    }
+    BlendText(target, {place.left, place.top}, *layer->mask, base::PlainColor(label.foreColor()),
+              place.intersected(area));
+  }
 }
 
 base::PixelRect Stage::shownPlace(const forms::Control& control) const {
@@ -150,7 +159,15 @@ void Stage::pictureBoxChanged(forms::Change change) {
   if (change == forms::Change::Picture) {
     const forms::SharedPicture& picture = picture_->picture();
     assigned_ = picture ? picture->drawnAt(picture->size()) : nullptr;
+    if (assigned_ && assigned_ == transitionTo_ && place == pictureWas_) {
+      // At the end of a transition nearly every pixel of the picture is there already.
+      const base::PixelRect there = painted_.movedBy(place.left, place.top);
+      for (const base::PixelRect& open : base::Difference(place, there)) invalidate(open);
+      forgetPainted();
+      return;
+    }
   }
+  forgetPainted();
   if (pictureWas_.intersected(place).isEmpty()) {
     invalidate(pictureWas_);
     invalidate(place);
@@ -160,11 +177,51 @@ void Stage::pictureBoxChanged(forms::Change change) {
   pictureWas_ = place;
 }
 
-void Stage::controlDrawn(forms::Control& control, const base::PixelRect& area) {
+void Stage::controlDrawn(forms::Control& control, std::span<const base::PixelRect> areas) {
   if (!form_ || &control != picture_ || !picture_->visible()) return;
-  const base::PixelRect place = picture_->pixelRect();
-  invalidate(area.movedBy(place.left, place.top).intersected(place));
   flush();
+  if (paintsOpaquely(areas)) {
+    showPainted(areas);
+    return;
+  }
+  forgetPainted();
+  const base::PixelRect place = picture_->pixelRect();
+  for (const base::PixelRect& area : areas) {
+    invalidate(area.movedBy(place.left, place.top).intersected(place));
+  }
+  flush();
+}
+
+// True when the areas show what was painted there last and nothing of what lies behind it.
+bool Stage::paintsOpaquely(std::span<const base::PixelRect> areas) const {
+  const base::SharedBitmap& painted = picture_->paintedFrom();
+  if (!painted || !painted->isOpaque()) return false;
+  const base::PixelRect common =
+      base::PixelRect::ofSize(painted->size()).intersected(base::PixelRect::ofSize(picture_->scaleSize()));
+  return std::all_of(areas.begin(), areas.end(),
+                     [&](const base::PixelRect& area) { return area.intersected(common) == area; });
+}
+
+// Copies what was painted straight from where it came from: the way of every frame of a transition.
+void Stage::showPainted(std::span<const base::PixelRect> areas) {
+  const base::BitmapView target = window_.backBuffer();
+  const base::PixelRect place = picture_->pixelRect();
+  const base::PixelRect bounds = base::PixelRect::ofSize(target.size);
+  std::vector<base::PixelRect> shown;
+  for (const base::PixelRect& area : areas) {
+    const base::PixelRect part = area.movedBy(place.left, place.top).intersected(bounds);
+    if (!part.isEmpty()) shown.push_back(part);
+  }
+  base::CopyRects(target, {place.left, place.top}, *picture_->paintedFrom(), shown);
+  for (const base::PixelRect& part : shown) composeTexts(target, part);
+  present(shown);
+  transitionTo_ = picture_->paintedFrom();
+  painted_ = picture_->painted().largest();
+}
+
+void Stage::forgetPainted() {
+  transitionTo_ = nullptr;
+  painted_ = {};
 }
 
 base::PixelSize Stage::measureText(const base::Font& font, const std::string& text) {

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "base/bitmap.h"
@@ -43,7 +44,7 @@ class Stage : public forms::FormHost {
   std::function<void()> onPlacesChanged;
 
   void controlChanged(forms::Control& control, forms::Change change) override;
-  void controlDrawn(forms::Control& control, const base::PixelRect& area) override;
+  void controlDrawn(forms::Control& control, std::span<const base::PixelRect> areas) override;
   base::PixelSize measureText(const base::Font& font, const std::string& text) override;
   int twipsPerPixel() const override { return twipsPerPixel_; }
 
@@ -54,7 +55,12 @@ class Stage : public forms::FormHost {
   void compose(const base::PixelRect& area);
   void composeBackground(const base::BitmapView& target, const base::PixelRect& area) const;
   void composePicture(const base::BitmapView& target, const base::PixelRect& area) const;
-  void present(const base::PixelRect& area);
+  void composeTexts(const base::BitmapView& target, const base::PixelRect& area);
+  void present(const std::vector<base::PixelRect>& areas);
+  base::PixelRect opaquePicture() const;
+  bool paintsOpaquely(std::span<const base::PixelRect> areas) const;
+  void showPainted(std::span<const base::PixelRect> areas);
+  void forgetPainted();
   base::PixelRect shownPlace(const forms::Control& control) const;
   TextLayer* textLayerOf(const forms::Control& control);
   void pictureBoxChanged(forms::Change change);
@@ -68,6 +74,8 @@ class Stage : public forms::FormHost {
   std::vector<std::unique_ptr<TextLayer>> texts_;
   base::SharedBitmap backgroundPixels_;
   base::SharedBitmap assigned_;         // the picture box's assigned picture, as far as it shows
+  base::SharedBitmap transitionTo_;     // the picture that was painted on the box last, and
+  base::PixelRect painted_;             // where the box shows it for certain
   base::PixelRect pictureWas_;          // where the picture box was composed last; empty while hidden
   std::vector<base::PixelRect> dirty_;  // areas of the window to compose anew
   bool placesChanged_ = false;

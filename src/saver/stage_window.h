@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <span>
 
 #include "base/bitmap.h"
 #include "base/geometry.h"
@@ -29,8 +30,8 @@ class StageWindow {
   // The pixels that a paint message shows. As large as the area covered; valid until the next cover().
   virtual base::BitmapView backBuffer() = 0;
 
-  // Puts that part of the back buffer on the screen at once.
-  virtual void present(const base::PixelRect& area) = 0;
+  // Puts those parts of the back buffer on the screen at once. None is empty or reaches beyond it.
+  virtual void present(std::span<const base::PixelRect> areas) = 0;
 
   // What the user and the system do to the window.
   std::function<void(int keyCode)> onKeyDown;

@@ -16,6 +16,8 @@ constexpr const wchar_t* kClassName = L"WindowsScreenSaverClass";
 StageWindowWin::StageWindowWin(HINSTANCE instance, Guard guard) : guard_(std::move(guard)) {
   WNDCLASSEXW description{};
   description.cbSize = sizeof(description);
+  // A device context of its own, so that a frame of a transition need not ask for one anew.
+  description.style = CS_OWNDC;
   description.lpfnWndProc = Procedure;
   description.hInstance = instance;
   description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
@@ -53,10 +55,12 @@ base::BitmapView StageWindowWin::backBuffer() {
   return back_->view();
 }
 
-void StageWindowWin::present(const base::PixelRect& area) {
+void StageWindowWin::present(std::span<const base::PixelRect> areas) {
   if (!window_ || !back_) return;
   const os::WindowDc dc(window_.get());
-  BitBlt(dc.get(), area.left, area.top, area.width, area.height, back_->dc(), area.left, area.top, SRCCOPY);
+  for (const base::PixelRect& area : areas) {
+    BitBlt(dc.get(), area.left, area.top, area.width, area.height, back_->dc(), area.left, area.top, SRCCOPY);
+  }
 }
 
 void StageWindowWin::paint() {

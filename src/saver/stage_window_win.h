@@ -25,7 +25,7 @@ class StageWindowWin : public StageWindow {
   std::intptr_t handle() const override { return reinterpret_cast<std::intptr_t>(window_.get()); }
   void close() override;
   base::BitmapView backBuffer() override;
-  void present(const base::PixelRect& area) override;
+  void present(std::span<const base::PixelRect> areas) override;
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "support/fake_stage_window.h"
 #include "support/fake_text_renderer.h"
 
@@ -11,6 +13,10 @@ constexpr base::Pixel kRed = 0xFFFF0000U;
 constexpr base::Pixel kGreen = 0xFF00FF00U;
 constexpr base::Pixel kBlue = 0xFF0000FFU;
 constexpr base::Pixel kBlackPixel = 0xFF000000U;
+
+base::SharedBitmap PlainPixels(base::PixelSize size, base::Pixel pixel) {
+  return std::make_shared<base::Bitmap>(size, pixel);
+}
 
 forms::SharedPicture Plain(int width, int height, base::Pixel pixel) {
   return forms::MakePicture(std::make_shared<base::Bitmap>(base::PixelSize{width, height}, pixel));
@@ -76,7 +82,7 @@ TEST_F(StageTest, ABoxThatAppearsShowsWhatIsBehindItUntilSomethingIsDrawn) {
   picture.setVisible(true);
   stage.flush();
   EXPECT_EQ(screenAt(3, 3), kBlue);
-  picture.paintPart(base::Bitmap({10, 8}, kGreen), {2, 2, 3, 3});
+  picture.paintPart(PlainPixels({10, 8}, kGreen), {2, 2, 3, 3});
   EXPECT_EQ(screenAt(3, 3), kGreen);
   EXPECT_EQ(screenAt(6, 3), kBlue);
 }
@@ -87,17 +93,108 @@ TEST_F(StageTest, DrawingOnThePictureBoxIsOnTheScreenAtOnceAndOnlyThere) {
   picture.setPicture(picture.picture());
   stage.flush();
   window.presented.clear();
-  picture.paintPart(base::Bitmap({10, 8}, kGreen), {0, 0, 4, 8});
+  picture.paintPart(PlainPixels({10, 8}, kGreen), {0, 0, 4, 8});
   EXPECT_EQ(window.presented, (std::vector<base::PixelRect>{{0, 0, 4, 8}}));
   EXPECT_EQ(screenAt(3, 7), kGreen);
   EXPECT_EQ(screenAt(4, 7), kRed);
+}
+
+TEST_F(StageTest, ATransparentPictureIsPaintedOverWhatIsBehindIt) {
+  background.setPicture(Plain(40, 30, kBlue));
+  picture.setPicture(Plain(10, 8, kRed));
+  picture.setVisible(true);
+  stage.flush();
+  picture.paintPart(PlainPixels({10, 8}, 0x80400000U), {0, 0, 10, 8});
+  EXPECT_EQ(screenAt(1, 1), 0xFF40007FU);
+}
+
+TEST_F(StageTest, PaintedPartsBeyondTheirSourceShowWhatIsBehindThem) {
+  background.setPicture(Plain(40, 30, kBlue));
+  picture.setPicture(Plain(10, 8, kRed));
+  picture.setVisible(true);
+  stage.flush();
+  picture.paintPart(PlainPixels({4, 4}, kGreen), {0, 0, 10, 8});
+  EXPECT_EQ(screenAt(3, 3), kGreen);
+  EXPECT_EQ(screenAt(4, 3), kBlue);
+}
+
+TEST_F(StageTest, APictureAssignedAtTheEndOfItsTransitionPresentsOnlyWhatIsNotThereYet) {
+  picture.setPicture(Plain(10, 8, kRed));
+  picture.setVisible(true);
+  stage.flush();
+  const base::SharedBitmap next = PlainPixels({10, 8}, kGreen);
+  picture.paintPart(next, {0, 0, 6, 8});
+  picture.paintPart(next, {6, 0, 3, 8});
+  window.presented.clear();
+  picture.setPicture(forms::MakePicture(next));
+  stage.flush();
+  EXPECT_EQ(window.presented, (std::vector<base::PixelRect>{{9, 0, 1, 8}}));
+  EXPECT_EQ(screenAt(9, 7), kGreen);
+}
+
+TEST_F(StageTest, AnotherPictureThanThePaintedOneIsPresentedWhole) {
+  picture.setPicture(Plain(10, 8, kRed));
+  picture.setVisible(true);
+  stage.flush();
+  picture.paintPart(PlainPixels({10, 8}, kGreen), {0, 0, 10, 8});
+  picture.setPicture(Plain(10, 8, kBlue));
+  stage.flush();
+  EXPECT_EQ(screenAt(5, 5), kBlue);
+}
+
+// Whatever was presented in parts is what composing everything anew gives.
+TEST_F(StageTest, TheScreenShowsAFreshCompositionAfterAnySequenceOfChanges) {
+  std::mt19937 random(20261121);
+  const auto below = [&](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
+  const std::vector<base::Pixel> pixels{kRed, kGreen, 0x80004000U, kBlue};
+  base::SharedBitmap source = PlainPixels({10, 8}, kGreen);
+  label.setAutoSize(true);
+  for (int step = 0; step < 20000; ++step) {
+    switch (below(12)) {
+      case 0:
+        source = PlainPixels({1 + below(14), 1 + below(12)}, pixels[static_cast<std::size_t>(below(4))]);
+        break;
+      case 1:
+        picture.setPicture(forms::MakePicture(source));
+        break;
+      case 2:
+        placePicture(below(44) - 4, below(34) - 4);
+        break;
+      case 3:
+        picture.setVisible(below(4) != 0);
+        break;
+      case 4:
+        label.setCaption(std::string(static_cast<std::size_t>(below(5)), 'x'));
+        break;
+      case 5:
+        label.setVisible(below(2) == 0);
+        break;
+      case 6:
+        background.setPicture(below(3) == 0 ? nullptr : Plain(40, 1 + below(30), kBlue));
+        break;
+      case 7:
+        picture.cls();
+        break;
+      case 8:
+        if (below(8) == 0) picture.paintPicture(*forms::MakePicture(source), {1 + below(14), 1 + below(12)});
+        break;
+      default:
+        picture.paintPart(source, {below(12) - 1, below(10) - 1, below(14), below(12)});
+        break;
+    }
+    stage.flush();
+    const base::Bitmap shown = window.screen;
+    stage.invalidateAll();
+    stage.flush();
+    ASSERT_EQ(shown, window.screen) << "after step " << step;
+  }
 }
 
 TEST_F(StageTest, ClearingDropsWhatWasDrawnAndGoesOnShowingTheAssignedPicture) {
   picture.setPicture(Plain(10, 8, kRed));
   picture.setVisible(true);
   picture.setPicture(picture.picture());
-  picture.paintPart(base::Bitmap({10, 8}, kGreen), {0, 0, 4, 8});
+  picture.paintPart(PlainPixels({10, 8}, kGreen), {0, 0, 4, 8});
   picture.cls();
   EXPECT_EQ(screenAt(2, 2), kRed);
 }

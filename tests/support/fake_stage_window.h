@@ -24,9 +24,11 @@ class FakeStageWindow : public saver::StageWindow {
     closed = true;
   }
   base::BitmapView backBuffer() override { return back_.view(); }
-  void present(const base::PixelRect& area) override {
-    presented.push_back(area);
-    base::CopyRect(screen.view(), {area.left, area.top}, back_, area);
+  void present(std::span<const base::PixelRect> areas) override {
+    for (const base::PixelRect& area : areas) {
+      presented.push_back(area);
+      base::CopyRect(screen.view(), {area.left, area.top}, back_, area);
+    }
   }
 
   std::vector<std::string> calls;

@@ -45,7 +45,7 @@ class FakeWindowSystem : public forms::WindowSystem, public forms::FormHost {
   void controlChanged(forms::Control& control, forms::Change change) override {
     changes.emplace_back(control.name(), change);
   }
-  void controlDrawn(forms::Control& control, const base::PixelRect&) override {
+  void controlDrawn(forms::Control& control, std::span<const base::PixelRect>) override {
     changes.emplace_back(control.name(), forms::Change::Picture);
   }
   void listChanged(forms::ListBox&, const forms::ListEdit&) override { ++listEdits; }

@@ -17,14 +17,15 @@ base::Bitmap LetteredBitmap(base::PixelSize size) {
 
 }  // namespace
 
-TransitionScene::TransitionScene(base::PixelSize size) : source(LetteredBitmap(size)) {
+TransitionScene::TransitionScene(base::PixelSize size)
+    : source(std::make_shared<base::Bitmap>(LetteredBitmap(size))) {
   form.setHost(this);
   box.move(0, 0, static_cast<float>(size.width * 15), static_cast<float>(size.height * 15));
 }
 
 saver::TransitionPlan TransitionScene::plan(int effect) {
-  return saver::EffectNumbered(effect).makePlan({.scaleWidth = static_cast<float>(source.size().width),
-                                                 .scaleHeight = static_cast<float>(source.size().height),
+  return saver::EffectNumbered(effect).makePlan({.scaleWidth = static_cast<float>(source->size().width),
+                                                 .scaleHeight = static_cast<float>(source->size().height),
                                                  .destinationWidth = box.scaleWidth(),
                                                  .destinationHeight = box.scaleHeight(),
                                                  .outerWidthTwips = box.width(),
@@ -32,7 +33,7 @@ saver::TransitionPlan TransitionScene::plan(int effect) {
 }
 
 base::Bitmap TransitionScene::shown() const {
-  return box.drawing() ? *box.drawing() : base::Bitmap(source.size());
+  return box.drawing() ? *box.drawing() : base::Bitmap(source->size());
 }
 
 std::string TextOfPicture(const base::Bitmap& picture) {
@@ -53,8 +54,8 @@ long long TransitionScene::pixelsDrawn() const {
   return pixels;
 }
 
-void TransitionScene::controlDrawn(forms::Control&, const base::PixelRect& area) {
-  drawn.push_back(area);
+void TransitionScene::controlDrawn(forms::Control&, std::span<const base::PixelRect> areas) {
+  drawn.insert(drawn.end(), areas.begin(), areas.end());
   if (onDrawn) onDrawn();
 }
 

@@ -30,14 +30,14 @@ class TransitionScene : public forms::FormHost {
   long long pixelsDrawn() const;
 
   void controlChanged(forms::Control&, forms::Change) override {}
-  void controlDrawn(forms::Control&, const base::PixelRect& area) override;
+  void controlDrawn(forms::Control&, std::span<const base::PixelRect> areas) override;
   base::PixelSize measureText(const base::Font&, const std::string&) override { return {}; }
   int twipsPerPixel() const override { return 15; }
 
   base::Random random;
   forms::Form form{"scene"};
   forms::PictureBox box{form, "DisplayingPicture"};
-  base::Bitmap source;
+  base::SharedBitmap source;
   std::vector<base::PixelRect> drawn;  // in the order of drawing
   std::function<void()> onDrawn;
 };

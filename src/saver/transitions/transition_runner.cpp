@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "saver/transitions/rect_difference.h"
+#include "base/rect_difference.h"
 
 namespace saver {
 
@@ -15,40 +15,61 @@ constexpr int kFramesPerSecond = 60;
 // One picture on its way onto a box.
 class Canvas {
  public:
-  Canvas(const TransitionPlan& plan, forms::PictureBox& box, const base::Bitmap& source)
-      : plan_(plan), box_(box), source_(source) {}
+  Canvas(const TransitionPlan& plan, forms::PictureBox& box, const base::SharedBitmap& source)
+      : plan_(plan),
+        box_(box),
+        source_(source),
+        bounds_(base::PixelRect::ofSize(source->size())
+                    .intersected(base::PixelRect::ofSize(box.pixelRect().size()))) {}
 
   // The step as it stands, every rectangle whole.
   void drawWhole(int step) {
-    for (const base::PixelRect& rect : plan_.rectsOfStep(step)) paint(rect);
+    addWhole(step);
+    paint();
   }
 
   // Brings the box from the steps before `shown_` to the first `due` steps, painting only what is new.
   void advanceTo(int due) {
     if (due <= shown_) return;
     if (plan_.growth == Growth::Accumulating) {
-      while (shown_ < due) drawWhole(shown_++);
-      return;
+      while (shown_ < due) addWhole(shown_++);
+    } else {
+      addNew(plan_.rectsOfStep(due - 1));
+      shown_ = due;
     }
-    std::vector<base::PixelRect> rects = plan_.rectsOfStep(due - 1);
-    covered_.resize(rects.size());
-    for (std::size_t j = 0; j < rects.size(); ++j) {
-      for (const base::PixelRect& part : Difference(rects[j], covered_[j])) paint(part);
-    }
-    covered_ = std::move(rects);
-    shown_ = due;
+    paint();
   }
 
  private:
-  void paint(const base::PixelRect& rect) {
-    const base::PixelRect part = rect.intersected(base::PixelRect::ofSize(source_.size()))
-                                     .intersected(base::PixelRect::ofSize(box_.pixelRect().size()));
-    if (!part.isEmpty()) box_.paintPart(source_, part);
+  void addWhole(int step) {
+    for (const base::PixelRect& rect : plan_.rectsOfStep(step)) add(rect);
+  }
+
+  // What each rectangle has more than the one that it covers.
+  void addNew(std::vector<base::PixelRect> rects) {
+    covered_.resize(rects.size());
+    for (std::size_t j = 0; j < rects.size(); ++j) {
+      for (const base::PixelRect& part : base::Difference(rects[j], covered_[j])) add(part);
+    }
+    covered_ = std::move(rects);
+  }
+
+  void add(const base::PixelRect& rect) {
+    const base::PixelRect part = rect.intersected(bounds_);
+    if (!part.isEmpty()) parts_.push_back(part);
+  }
+
+  // All parts of a frame come to the screen together.
+  void paint() {
+    if (!parts_.empty()) box_.paintParts(source_, parts_);
+    parts_.clear();
   }
 
   const TransitionPlan& plan_;
   forms::PictureBox& box_;
-  const base::Bitmap& source_;
+  base::SharedBitmap source_;
+  base::PixelRect bounds_;
+  std::vector<base::PixelRect> parts_;    // to paint next
   int shown_ = 0;                         // steps shown so far
   std::vector<base::PixelRect> covered_;  // rectangles of the last of them
 };
@@ -65,14 +86,14 @@ TransitionRunner::TransitionRunner(const os::Clock& clock, os::EventLoop& loop, 
     : clock_(clock), loop_(loop), isOver_(std::move(isOver)) {}
 
 bool TransitionRunner::run(const TransitionPlan& plan, forms::PictureBox& destination,
-                           const base::Bitmap& source, std::optional<int> transitionTimeMs) {
+                           const base::SharedBitmap& source, std::optional<int> transitionTimeMs) {
   if (hasEnded()) return false;
   if (transitionTimeMs) return runPaced(plan, destination, source, *transitionTimeMs);
   return runTight(plan, destination, source);
 }
 
 bool TransitionRunner::runTight(const TransitionPlan& plan, forms::PictureBox& destination,
-                                const base::Bitmap& source) {
+                                const base::SharedBitmap& source) {
   Canvas canvas(plan, destination, source);
   std::int64_t nextCheck = clock_.tickMs() + kEventCheckMs;
   for (int step = 0; step < plan.stepCount; ++step) {
@@ -88,7 +109,7 @@ bool TransitionRunner::runTight(const TransitionPlan& plan, forms::PictureBox& d
 // Every step has an equal share of the time, so the last one too is seen for its share before the effect
 // ends.
 bool TransitionRunner::runPaced(const TransitionPlan& plan, forms::PictureBox& destination,
-                                const base::Bitmap& source, int transitionTimeMs) {
+                                const base::SharedBitmap& source, int transitionTimeMs) {
   Canvas canvas(plan, destination, source);
   const std::int64_t start = clock_.tickMs();
   for (;;) {

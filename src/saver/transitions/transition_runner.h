@@ -20,15 +20,15 @@ class TransitionRunner {
  public:
   TransitionRunner(const os::Clock& clock, os::EventLoop& loop, std::function<bool()> isOver);
 
-  // Draws from `source`, where every pixel goes to its own place in the box; rectangles are cut to both. With
-  // a time the steps are paced over it, without one they follow each other as fast as they can be drawn.
-  // False when the show ended on the way.
-  bool run(const TransitionPlan& plan, forms::PictureBox& destination, const base::Bitmap& source,
+  // Draws from `source` (not null), where every pixel goes to its own place in the box; rectangles are cut to
+  // both. With a time the steps are paced over it, without one they follow each other as fast as they can be
+  // drawn. False when the show ended on the way.
+  bool run(const TransitionPlan& plan, forms::PictureBox& destination, const base::SharedBitmap& source,
            std::optional<int> transitionTimeMs);
 
  private:
-  bool runTight(const TransitionPlan& plan, forms::PictureBox& destination, const base::Bitmap& source);
-  bool runPaced(const TransitionPlan& plan, forms::PictureBox& destination, const base::Bitmap& source,
+  bool runTight(const TransitionPlan& plan, forms::PictureBox& destination, const base::SharedBitmap& source);
+  bool runPaced(const TransitionPlan& plan, forms::PictureBox& destination, const base::SharedBitmap& source,
                 int transitionTimeMs);
   bool waitUntil(std::int64_t deadlineMs);
   bool hasEnded() const { return isOver_() || loop_.isQuitting(); }

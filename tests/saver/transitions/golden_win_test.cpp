@@ -21,7 +21,7 @@ std::string PictureAfterStep(int effect, int step) {
   support::TransitionScene scene(support::kGoldenSize);
   const os::Dib source(support::kGoldenSize);
   const os::Dib target(support::kGoldenSize);
-  base::CopyRect(source.view(), {0, 0}, scene.source, base::PixelRect::ofSize(support::kGoldenSize));
+  base::CopyRect(source.view(), {0, 0}, *scene.source, base::PixelRect::ofSize(support::kGoldenSize));
   const TransitionPlan plan = scene.plan(effect);
   for (int i = 0; i <= step; ++i) {
     for (const base::PixelRect& r : plan.rectsOfStep(i)) {

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <map>
 
-#include "saver/transitions/rect_difference.h"
+#include "base/rect_difference.h"
 #include "support/documented_effects.h"
 #include "support/fake_event_loop.h"
 #include "support/transition_scene.h"
@@ -43,26 +43,26 @@ class TransitionRunnerTest : public testing::Test {
   // The documented loop on a bitmap of its own: what each step shows, and every rectangle that is not empty.
   static std::vector<PixelRect> documented(int effect, const support::TransitionScene& scene,
                                            const std::function<void(int step, const Bitmap&)>& seeStep) {
-    const PixelSize size = scene.source.size();
+    const PixelSize size = scene.source->size();
     Bitmap shown(size);
     std::vector<PixelRect> painted;
     int step = 0;
     base::Random random;
-    support::RunDocumentedLoop(effect,
-                               {static_cast<float>(size.width), static_cast<float>(size.height),
-                                static_cast<float>(size.width * 15)},
-                               random,
-                               {.paint =
-                                    [&](double x, double y, double w, double h) {
-                                      const PixelRect rect{static_cast<int>(std::floor(x)),
-                                                           static_cast<int>(std::floor(y)),
-                                                           static_cast<int>(w), static_cast<int>(h)};
-                                      const PixelRect part = rect.intersected(PixelRect::ofSize(size));
-                                      if (part.isEmpty()) return;
-                                      painted.push_back(part);
-                                      base::CopyRect(shown.view(), {part.left, part.top}, scene.source, part);
-                                    },
-                                .endOfStep = [&] { seeStep(step++, shown); }});
+    support::RunDocumentedLoop(
+        effect,
+        {static_cast<float>(size.width), static_cast<float>(size.height),
+         static_cast<float>(size.width * 15)},
+        random,
+        {.paint =
+             [&](double x, double y, double w, double h) {
+               const PixelRect rect{static_cast<int>(std::floor(x)), static_cast<int>(std::floor(y)),
+                                    static_cast<int>(w), static_cast<int>(h)};
+               const PixelRect part = rect.intersected(PixelRect::ofSize(size));
+               if (part.isEmpty()) return;
+               painted.push_back(part);
+               base::CopyRect(shown.view(), {part.left, part.top}, *scene.source, part);
+             },
+         .endOfStep = [&] { seeStep(step++, shown); }});
     return painted;
   }
 
@@ -91,7 +91,8 @@ TEST_F(TransitionRunnerTest, PacedShowsWhatTheDocumentedLoopShowsAtTheSameStep) 
   for (const PixelSize size : kSizes) {
     for (int effect = 1; effect < kEffectCount; ++effect) {
       for (const int timeMs : {100, 700, 5000}) {
-        if (timeMs == 5000 && size.width * size.height > 3000) continue;  // enough frames for every step of the smaller ones
+        if (timeMs == 5000 && size.width * size.height > 3000)
+          continue;  // enough frames for every step of the smaller ones
         support::TransitionScene scene(size);
         const TransitionPlan plan = scene.plan(effect);
         std::map<int, Bitmap> seen;  // the last one with all steps
@@ -180,7 +181,7 @@ TEST_F(TransitionRunnerTest, PacedSkipsStepsThatAreLate) {
   EXPECT_TRUE(run(scene, scene.plan(1), 700));
   EXPECT_LE(scene.drawn.size(), 12U);
   EXPECT_LE(clock.tickMs() - start, 700 + 70 + 70);
-  EXPECT_EQ(scene.shown(), scene.source);
+  EXPECT_EQ(scene.shown(), *scene.source);
 }
 
 TEST_F(TransitionRunnerTest, PacedLetsEventsRunBetweenFramesWithoutDrawingMore) {
@@ -253,12 +254,12 @@ TEST_F(TransitionRunnerTest, CutsItsRectanglesToTheSmallerOfPictureAndBox) {
 
 TEST(RectDifference, IsWhatTheHoleLeaves) {
   const PixelRect whole{10, 10, 10, 10};
-  EXPECT_EQ(Difference(whole, {0, 0, 5, 5}), (std::vector{whole}));
-  EXPECT_TRUE(Difference(whole, {0, 0, 40, 40}).empty());
-  EXPECT_EQ(Difference(whole, {12, 13, 2, 3}),
+  EXPECT_EQ(base::Difference(whole, {0, 0, 5, 5}), (std::vector{whole}));
+  EXPECT_TRUE(base::Difference(whole, {0, 0, 40, 40}).empty());
+  EXPECT_EQ(base::Difference(whole, {12, 13, 2, 3}),
             (std::vector<PixelRect>{{10, 10, 10, 3}, {10, 13, 2, 3}, {14, 13, 6, 3}, {10, 16, 10, 4}}));
-  EXPECT_EQ(Difference(whole, {10, 10, 10, 9}), (std::vector<PixelRect>{{10, 19, 10, 1}}));
-  EXPECT_TRUE(Difference({}, {}).empty());
+  EXPECT_EQ(base::Difference(whole, {10, 10, 10, 9}), (std::vector<PixelRect>{{10, 19, 10, 1}}));
+  EXPECT_TRUE(base::Difference({}, {}).empty());
 }
 
 }  // namespace

@@ -5,10 +5,10 @@
 
 #include "base/geometry.h"
 
-namespace saver {
+namespace base {
 
 // The part of `whole` outside `hole` as rectangles that do not overlap: above, left, right, below. None is
 // empty.
-std::vector<base::PixelRect> Difference(const base::PixelRect& whole, const base::PixelRect& hole);
+std::vector<PixelRect> Difference(const PixelRect& whole, const PixelRect& hole);
 
-}  // namespace saver
+}  // namespace base

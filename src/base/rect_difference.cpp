@@ -1,13 +1,13 @@
-#include "saver/transitions/rect_difference.h"
+#include "base/rect_difference.h"
 
-namespace saver {
+namespace base {
 
-std::vector<base::PixelRect> Difference(const base::PixelRect& whole, const base::PixelRect& hole) {
-  std::vector<base::PixelRect> parts;
-  const auto add = [&parts](const base::PixelRect& part) {
+std::vector<PixelRect> Difference(const PixelRect& whole, const PixelRect& hole) {
+  std::vector<PixelRect> parts;
+  const auto add = [&parts](const PixelRect& part) {
     if (!part.isEmpty()) parts.push_back(part);
   };
-  const base::PixelRect cut = whole.intersected(hole);
+  const PixelRect cut = whole.intersected(hole);
   if (cut.isEmpty()) {
     add(whole);
     return parts;
@@ -19,4 +19,4 @@ std::vector<base::PixelRect> Difference(const base::PixelRect& whole, const base
   return parts;
 }
 
-}  // namespace saver
+}  // namespace base
