@@ -91,21 +91,13 @@ std::string ProgramFolder::writeBitmap(const std::string& name, base::PixelSize 
 }
 
 void ProgramFolder::writeSettings() const {
-  std::map<std::string, std::map<std::string, std::string>> sections;
-  for (const auto& [where, value] : settings_) {
-    const std::size_t slash = where.find('/');
-    sections[where.substr(0, slash)][where.substr(slash + 1)] = value;
-  }
-  sections["total"].try_emplace("total", std::to_string(pictures_.size()));
+  support::Settings settings = settings_;
+  settings.try_emplace("total/total", std::to_string(pictures_.size()));
   for (std::size_t i = 0; i < pictures_.size(); ++i) {
-    sections["images"][std::to_string(i)] = pictures_[i].first;
-    sections["caption"][std::to_string(i)] = pictures_[i].second;
+    settings["images/" + std::to_string(i)] = pictures_[i].first;
+    settings["caption/" + std::to_string(i)] = pictures_[i].second;
   }
-  std::string text;
-  for (const auto& [section, keys] : sections) {
-    text += "[" + section + "]\r\n";
-    for (const auto& [key, value] : keys) text += key + "=" + value + "\r\n";
-  }
+  const std::string text = support::IniText(settings);
   const HANDLE file =
       CreateFileW(settingsFile().c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
   DWORD written = 0;

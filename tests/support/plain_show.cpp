@@ -2,7 +2,7 @@
 
 namespace support {
 
-std::map<std::string, std::string> PlainShow() {
+Settings PlainShow() {
   return {
       {"image/randomPick", "0"},
       {"image/picSpeed", "2"},
@@ -41,6 +41,17 @@ std::map<std::string, std::string> PlainShow() {
       {"date/countdownDay", "25"},
       {"date/countdownYear", "2026"},
   };
+}
+
+std::string IniText(const Settings& settings) {
+  Settings sections;
+  for (const auto& [where, value] : settings) {
+    const std::size_t slash = where.find('/');
+    sections[where.substr(0, slash)] += where.substr(slash + 1) + "=" + value + "\r\n";
+  }
+  std::string text;
+  for (const auto& [section, keys] : sections) text += "[" + section + "]\r\n" + keys;
+  return text;
 }
 
 }  // namespace support

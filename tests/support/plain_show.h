@@ -6,7 +6,13 @@
 
 namespace support {
 
-// By "section/key": centred pictures in order, one second each, black behind, no effect, no clock.
-std::map<std::string, std::string> PlainShow();
+// By "section/key".
+using Settings = std::map<std::string, std::string>;
+
+// Centred pictures in order, one second each, black behind, no effect, no clock.
+Settings PlainShow();
+
+// The settings file.
+std::string IniText(const Settings& settings);
 
 }  // namespace support

@@ -2,7 +2,6 @@
 
 #include "base/errors.h"
 #include "base/twips.h"
-#include "support/plain_show.h"
 
 namespace support {
 
@@ -30,13 +29,7 @@ const char* ShowStage::programFolder() { return kFolder; }
 
 void ShowStage::writeSettings() {
   settings_.try_emplace("total/total", std::to_string(pictures_));
-  std::map<std::string, std::string> sections;
-  for (const auto& [where, value] : settings_) {
-    const std::size_t slash = where.find('/');
-    sections[where.substr(0, slash)] += where.substr(slash + 1) + "=" + value + "\r\n";
-  }
-  std::string& file = files.content[std::string(kFolder) + "\\zbfaone.ini"];
-  for (const auto& [section, keys] : sections) file += "[" + section + "]\r\n" + keys;
+  files.content[std::string(kFolder) + "\\zbfaone.ini"] = IniText(settings_);
 }
 
 void ShowStage::start() {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <exception>
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -15,16 +14,12 @@
 #include "support/fake_pictures.h"
 #include "support/fake_screen.h"
 #include "support/fake_stage_window.h"
+#include "support/fake_system_flags.h"
 #include "support/fake_text_renderer.h"
+#include "support/plain_show.h"
 #include "support/windows_1252.h"
 
 namespace support {
-
-class FakeSystemFlags : public os::SystemFlags {
- public:
-  void setScreenSaverRunning(bool running) override { calls.push_back(running); }
-  std::vector<bool> calls;
-};
 
 // Settings start as a plain show: centred, in order, one second a picture, no effects, no captions, black.
 class ShowStage {
@@ -72,7 +67,7 @@ class ShowStage {
   std::vector<std::string> errors;  // what reached the event border; each has ended the show
 
  private:
-  std::map<std::string, std::string> settings_;
+  Settings settings_;
   int pictures_ = 0;
 };
 

@@ -5,7 +5,7 @@
 
 #include "bench/bare_window.h"
 #include "bench/bench_table.h"
-#include "bench/start_and_end.h"
+#include "bench/rows.h"
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
 
@@ -17,8 +17,6 @@ struct Times {
   double startMs = 0;
   double endMs = 0;
 };
-
-double NowMs() { return static_cast<double>(GetTickCount64()); }
 
 // From the start of the process to a filled screen, and from a key to its end.
 Times RunOnce(const std::wstring& program, const std::wstring& arguments, const wchar_t* className) {

@@ -1,0 +1,84 @@
+// Whether the frames of a paced effect come in time.
+#include <windows.h>
+
+#include <memory>
+#include <string>
+
+#include "bench/bench_stage_win.h"
+#include "bench/bench_table.h"
+#include "bench/rows.h"
+#include "forms/picture.h"
+#include "os/clock_win.h"
+#include "os/event_loop_win.h"
+#include "saver/transitions/effects.h"
+#include "saver/transitions/transition_runner.h"
+
+namespace bench {
+
+namespace {
+
+constexpr base::PixelSize kScreen{1920, 1080};
+constexpr int kEffectMs = 2000;
+constexpr int kFrames = kEffectMs * 60 / 1000;
+constexpr double kFrameMs = 1000.0 / 60;
+
+// Passes everything on, and counts the frames whose work was done before the next frame was due.
+class FrameWatch : public os::EventLoop {
+ public:
+  explicit FrameWatch(os::EventLoop& loop) : loop_(loop), dueMs_(NowMs()) {}
+
+  void waitUntil(std::int64_t deadlineMs) override {
+    // A wait for the next frame begins when a frame has been drawn; an event may make it begin again.
+    if (deadlineMs != deadlineMs_) {
+      if (NowMs() - dueMs_ <= kFrameMs) ++inTime;
+      dueMs_ = static_cast<double>(deadlineMs);  // the clocks count alike
+      deadlineMs_ = deadlineMs;
+    }
+    loop_.waitUntil(deadlineMs);
+  }
+
+  void runPending() override { loop_.runPending(); }
+  TimerId startTimer(int intervalMs, std::function<void()> tick) override {
+    return loop_.startTimer(intervalMs, std::move(tick));
+  }
+  void stopTimer(TimerId timer) override { loop_.stopTimer(timer); }
+  void run() override { loop_.run(); }
+  void quit() override { loop_.quit(); }
+  bool isQuitting() const override { return loop_.isQuitting(); }
+  void setErrorHandler(std::function<void(const std::exception&)> handler) override {
+    loop_.setErrorHandler(std::move(handler));
+  }
+
+  int inTime = 0;
+
+ private:
+  os::EventLoop& loop_;
+  double dueMs_;
+  std::int64_t deadlineMs_ = 0;
+};
+
+void BenchEffect(int number) {
+  BenchStage stage(kScreen);
+  stage.placePicture(base::PixelRect::ofSize(kScreen));
+  stage.picture.setVisible(true);
+  stage.picture.setPicture(forms::MakePicture(std::make_shared<base::Bitmap>(PhotoLike(kScreen))));
+  stage.stage.flush();
+  const auto next = std::make_shared<base::Bitmap>(kScreen, 0xFF336699);
+  base::Random random;
+  const saver::TransitionPlan plan = PlanFor(number, stage.picture, random);
+  const os::ClockWin clock;
+  os::EventLoopWin loop(clock);
+  loop.runPending();
+  FrameWatch watch(loop);
+  saver::TransitionRunner(clock, watch, [] { return false; }).run(plan, stage.picture, next, kEffectMs);
+  PrintRow(std::string("frames of a paced ") + saver::EffectNumbered(number).name + " done within 16.7 ms",
+           "60 frames a second at 1920 x 1080", static_cast<double>(watch.inTime) / kFrames, ">= 0.99");
+}
+
+}  // namespace
+
+void BenchFrames() {
+  for (const int number : {2, 5, 6, 7}) BenchEffect(number);
+}
+
+}  // namespace bench

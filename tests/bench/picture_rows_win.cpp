@@ -1,0 +1,110 @@
+// A large photograph on its way to the screen, beside the machine's decoder alone.
+#include <wincodec.h>
+#include <windows.h>
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "bench/bench_stage_win.h"
+#include "bench/bench_table.h"
+#include "bench/heap_count_win.h"
+#include "bench/rows.h"
+#include "forms/picture.h"
+#include "os/com_pointer_win.h"
+#include "os/file_head_win.h"
+#include "os/files_win.h"
+#include "os/picture_decoder_win.h"
+#include "os/picture_loader.h"
+#include "os/utf16_win.h"
+#include "support/temporary_folder_win.h"
+#include "support/wic_encoder_win.h"
+
+namespace bench {
+
+namespace {
+
+constexpr base::PixelSize kScreen{1920, 1080};
+
+void Check(HRESULT result) {
+  if (FAILED(result)) throw std::runtime_error("the decoder refused a picture of the benchmark");
+}
+
+// Every pixel in the decoder's own format, a few rows at a time, so that nothing is paid for but decoding.
+void DecodeAlone(const std::string& path) {
+  os::ComPointer<IWICImagingFactory> factory;
+  os::ComPointer<IWICBitmapDecoder> decoder;
+  os::ComPointer<IWICBitmapFrameDecode> frame;
+  Check(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IWICImagingFactory,
+                         factory.putVoid()));
+  Check(factory->CreateDecoderFromFilename(os::ToWide(path).c_str(), nullptr, GENERIC_READ,
+                                           WICDecodeMetadataCacheOnDemand, decoder.put()));
+  Check(decoder->GetFrame(0, frame.put()));
+  UINT width = 0;
+  UINT height = 0;
+  Check(frame->GetSize(&width, &height));
+  constexpr UINT kRows = 16;
+  std::vector<BYTE> rows(std::size_t{kRows} * width * 4);
+  for (UINT top = 0; top < height; top += kRows) {
+    const WICRect band{0, static_cast<INT>(top), static_cast<INT>(width),
+                       static_cast<INT>(std::min(kRows, height - top))};
+    Check(frame->CopyPixels(&band, width * 4, static_cast<UINT>(rows.size()), rows.data()));
+  }
+}
+
+// The program's whole way of a file to the screen.
+class Way {
+ public:
+  void show(const std::string& path) {
+    const std::shared_ptr<const os::PictureFile> file = loader_.open(path);
+    if (!file) throw std::runtime_error("a picture of the benchmark cannot be opened");
+    const base::PixelSize size = file->size();
+    const base::PixelSize shown{kScreen.height * size.width / size.height, kScreen.height};
+    base::SharedBitmap drawn = forms::MakePicture(file)->drawnAt(shown);
+    if (!drawn) throw std::runtime_error("a picture of the benchmark cannot be decoded");
+    stage_.picture.setVisible(false);
+    stage_.placePicture({(kScreen.width - shown.width) / 2, 0, shown.width, shown.height});
+    stage_.picture.setVisible(true);
+    stage_.picture.setPicture(forms::MakePicture(std::move(drawn)));
+    stage_.stage.flush();
+  }
+
+  void clear() {
+    stage_.picture.setPicture(nullptr);
+    stage_.stage.flush();
+  }
+
+  long long shownBytes() const {
+    return stage_.picture.pixelRect().area() * static_cast<long long>(sizeof(base::Pixel));
+  }
+
+ private:
+  os::FileHeadWin heads_;
+  os::PictureDecoderWin decoder_;
+  os::FilePictureLoader loader_{heads_, decoder_};
+  BenchStage stage_{kScreen};
+};
+
+void BenchPhotograph(const std::string& name, base::PixelSize size) {
+  const support::TemporaryFolder folder;
+  const std::string path = folder.path() + "\\photograph.jpg";
+  os::FilesWin().replace(path, support::Encode(PhotoLike(size), support::EncodedAs::jpeg));
+  Way way;
+  PrintRow("load, shrink and compose a " + name + " JPEG at 1920 x 1080", "the decoder alone, every pixel",
+           TimeRatio([&] { way.show(path); }, [&] { DecodeAlone(path); }), "<= 1.25 times");
+  way.clear();
+  const long long before = HeldHeap();
+  ResetPeakHeap();
+  way.show(path);
+  PrintRow("memory held at the peak of that, the decoder's own apart", "the pixels shown",
+           static_cast<double>(PeakHeap() - before) / static_cast<double>(way.shownBytes()), "<= 3 times");
+}
+
+}  // namespace
+
+void BenchPictures() {
+  BenchPhotograph("12-megapixel", {4000, 3000});
+  BenchPhotograph("48-megapixel", {8000, 6000});
+}
+
+}  // namespace bench

@@ -1,0 +1,43 @@
+#include "support/real_show_win.h"
+
+#include <stdexcept>
+#include <utility>
+
+#include "os/date_text_win.h"
+#include "settings/settings_path.h"
+
+namespace support {
+
+RealShow::RealShow(const os::Clock& clock, os::EventLoop& loop, base::PixelSize screenSize)
+    : dates_(os::MakeDateText()),
+      clock_(clock),
+      loop_(loop),
+      window_(GetModuleHandleW(nullptr), [](const std::function<void()>& handler) { handler(); }) {
+  screen_.size = screenSize;
+}
+
+RealShow::~RealShow() { window_.close(); }
+
+void RealShow::addPicture(const std::string& name, const std::string& bytes, const std::string& caption) {
+  const std::string path = folder() + "\\" + name;
+  if (!files_.replace(path, bytes)) throw std::runtime_error("cannot write " + path);
+  addPath(path, caption);
+}
+
+void RealShow::addPath(const std::string& path, const std::string& caption) {
+  const std::string number = std::to_string(count_++);
+  set("images/" + number, path);
+  set("caption/" + number, caption);
+}
+
+void RealShow::start() {
+  settings_.try_emplace("total/total", std::to_string(count_));
+  files_.replace(settings::IniPath(folder()), IniText(settings_));
+  form_ = std::make_unique<saver::Form1>(
+      saver::ShowServices{files_, ansi_, pictures_, clock_, loop_, screen_, flags_, *dates_, stage_, window_},
+      os::SystemFacts{}, folder());
+  loop_.setErrorHandler([this](const std::exception&) { form_->unload(); });
+  form_->Form_Load();
+}
+
+}  // namespace support
