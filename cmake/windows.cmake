@@ -41,7 +41,7 @@ if(LUMORA_TESTS)
   file(GLOB bench_sources CONFIGURE_DEPENDS tests/bench/*.cpp)
   add_executable(lumora_bench EXCLUDE_FROM_ALL ${bench_sources} tests/e2e/program_folder.cpp
                  tests/e2e/running_program.cpp tests/support/win_tests.rc)
-  target_link_libraries(lumora_bench PRIVATE lumora_win_support psapi)
+  target_link_libraries(lumora_bench PRIVATE lumora_win_support)
   target_link_options(lumora_bench PRIVATE -static)
 
   file(GLOB e2e_sources CONFIGURE_DEPENDS tests/e2e/*.cpp)

@@ -53,6 +53,8 @@ class FormWindow : public FormHost, private PeerOwner {
   base::PixelSize innerSize() const override;
 
  private:
+  static constexpr int kFirstMenuId = 0x4000;
+
   static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   INT_PTR handle(UINT message, WPARAM wParam, LPARAM lParam);
 
