@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <cmath>
 #include <type_traits>
 #include <utility>
 
@@ -81,7 +82,7 @@ void WithRows(int rows, Loop loop) {
 
 // A whole number nearest to 2^bits / divisor.
 std::uint32_t Reciprocal(int bits, double divisor) {
-  return static_cast<std::uint32_t>(static_cast<double>(std::uint64_t{1} << bits) / divisor + 0.5);
+  return static_cast<std::uint32_t>(std::llround(static_cast<double>(std::uint64_t{1} << bits) / divisor));
 }
 
 }  // namespace

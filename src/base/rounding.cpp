@@ -40,7 +40,8 @@ std::int32_t WholeDivide(double dividend, double divisor) {
   const std::int64_t a = ToInt32(dividend);
   const std::int64_t b = ToInt32(divisor);
   if (b == 0) throw Overflow();
-  return ToInt32(static_cast<double>(a / b));
+  const std::int64_t quotient = a / b;
+  return ToInt32(static_cast<double>(quotient));
 }
 
 std::int32_t MultiplyInt32(std::int32_t a, std::int32_t b) {

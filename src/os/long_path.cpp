@@ -3,7 +3,7 @@
 namespace os {
 
 std::wstring LongPath(std::wstring_view absolutePath) {
-  const std::wstring path(absolutePath);
+  std::wstring path(absolutePath);
   if (path.starts_with(L"\\\\?\\") || path.starts_with(L"\\\\.\\")) return path;
   if (path.starts_with(L"\\\\")) return L"\\\\?\\UNC" + path.substr(1);
   return L"\\\\?\\" + path;

@@ -30,7 +30,7 @@ Stage::Stage(StageWindow& window, os::TextRenderer& text, int twipsPerPixel)
 Stage::~Stage() = default;
 
 void Stage::show(forms::Form& form, forms::PictureBox& background, forms::PictureBox& picture,
-                 std::vector<forms::Label*> labels) {
+                 const std::vector<forms::Label*>& labels) {
   form_ = &form;
   background_ = &background;
   picture_ = &picture;

@@ -25,7 +25,7 @@ class Stage : public forms::FormHost {
   // The form to show: behind everything its background colour, then the background box's picture, then the
   // picture box, then the labels in their order. The controls must outlive the stage.
   void show(forms::Form& form, forms::PictureBox& background, forms::PictureBox& picture,
-            std::vector<forms::Label*> labels);
+            const std::vector<forms::Label*>& labels);
 
   // Composes everything that has changed and puts it on the screen.
   void flush();
