@@ -22,7 +22,7 @@ need_packages() {
   as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-build_packages=(cmake ninja-build g++ googletest libgtest-dev)
+build_packages=(cmake ninja-build g++ googletest libgtest-dev zlib1g-dev)
 windows_packages=(g++-mingw-w64-x86-64-posix)
 show_packages=(wine wine64 xvfb xauth xdotool imagemagick x11-utils x11-apps fonts-liberation)
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "pictures/canvas.h"
+#include "pictures/png_writer.h"
 
 namespace pictures {
 
@@ -101,6 +102,19 @@ std::string PixelOf(const Measures& measures, int side, int column, int row) {
   return bytes;
 }
 
+// The large picture, packed: systems that show it read it so.
+std::string PackedPictureOf(int side) {
+  const Measures measures(side);
+  std::string pixels;
+  for (int row = 0; row < side; ++row) {
+    for (int column = 0; column < side; ++column) {
+      const std::string pixel = PixelOf(measures, side, column, row);
+      pixels += {pixel[2], pixel[1], pixel[0], pixel[3]};
+    }
+  }
+  return PngFile(side, pixels);
+}
+
 // A picture as icon files hold it: a bitmap header of twice the height, the pixels from the bottom up, then
 // the one-bit mask of older systems, where a set bit is transparent.
 std::string PictureOf(int side) {
@@ -130,7 +144,7 @@ std::string IconFile(const std::vector<int>& sides) {
   std::string pictures;
   std::size_t at = 6 + 16 * sides.size();
   for (const int side : sides) {
-    const std::string picture = PictureOf(side);
+    const std::string picture = side < 256 ? PictureOf(side) : PackedPictureOf(side);
     const std::size_t shown = side == 256 ? 0 : static_cast<std::size_t>(side);  // a byte; 0 stands for 256
     entries += Number(shown, 1) + Number(shown, 1) + Number(0, 2) + Number(1, 2) + Number(32, 2) +
                Number(picture.size(), 4) + Number(at, 4);

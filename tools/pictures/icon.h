@@ -6,7 +6,8 @@
 
 namespace pictures {
 
-// An icon file with a 32-bit picture of each side length, drawn anew for each.
+// An icon file with a 32-bit picture of each side length, drawn anew for each; 256 pixels as PNG, the others
+// as bitmaps.
 std::string IconFile(const std::vector<int>& sides);
 
 }  // namespace pictures
