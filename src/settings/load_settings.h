@@ -31,7 +31,8 @@ struct SaverSettings {
 // What to do with text that a strict conversion refuses.
 enum class Conversion {
   Mend,    // go on with the key's default, whose text replaces the field, and report the key
-  Strict,  // throw base::TypeMismatch at the first, with the fields read so far set and the rest untouched
+  Strict,  // throw at the first (base::TypeMismatch, or base::Overflow for a number that its type cannot
+           // hold), with the fields read so far set and the rest untouched
 };
 
 // Reads `zbfaone.ini` in `programFolder` into `into`, seeding the sample pictures first when the file carries
