@@ -71,7 +71,7 @@ std::size_t GifBytesNeeded(base::PixelSize screen, std::size_t headBytes) {
 
 std::optional<GifFirstFrame> GifFirstFrame::decode(std::string_view file) {
   const auto block = FindFirstGifFrame(file);
-  if (!block || !IsDecodable(ScreenAround(*block))) return std::nullopt;
+  if (!block || !IsDecodable(ScreenAround(*block), kGifBytesPerPixel)) return std::nullopt;
   GifFirstFrame frame;
   frame.size_ = ScreenAround(*block);
   frame.frame_ = block->place;

@@ -22,6 +22,9 @@ std::optional<base::PixelSize> ReadGifSize(std::string_view head);
 // and as many clear codes between them, take less than three bytes a pixel.
 std::size_t GifBytesNeeded(base::PixelSize screen, std::size_t headBytes);
 
+// Those bytes, and the indices while their room grows: what decoding may hold of each pixel.
+constexpr int kGifBytesPerPixel = 6;
+
 // Holds one byte for each pixel that the file really gave.
 class GifFirstFrame {
  public:

@@ -1,5 +1,6 @@
 #include "os/picture_header.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <limits>
 
@@ -40,29 +41,40 @@ bool IsStartOfFrame(std::uint8_t marker) {
   return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
 }
 
-std::optional<base::PixelSize> JpegSize(std::string_view head) {
+// Progressive files, and those with a scan for each component, are gathered as two bytes for each component
+// before the first row can be given.
+PictureHeader JpegHeader(std::string_view head) {
+  constexpr int kBytesPerComponent = 2;
+  PictureHeader header{PictureKind::jpeg, std::nullopt};
   JpegSegments segments(head);
   while (const auto segment = segments.next()) {
     if (!IsStartOfFrame(segment->marker)) continue;
     const ByteReader frame(segment->content, ByteOrder::bigEndian);
-    return Sides(frame.u16(3), frame.u16(1));
+    header.size = Sides(frame.u16(3), frame.u16(1));
+    header.bytesPerPixel = std::max(header.bytesPerPixel, kBytesPerComponent * frame.u8(5).value_or(0));
+    break;
   }
-  return std::nullopt;
+  return header;
 }
 
-std::optional<base::PixelSize> PngSize(std::string_view head) {
+// Channels of up to 16 bits each; interlaced pictures are decoded as a whole.
+PictureHeader PngHeader(std::string_view head) {
+  constexpr int kDeepPixel = 8;
+  PictureHeader header{PictureKind::png, std::nullopt};
   const ByteReader bytes(head, ByteOrder::bigEndian);
-  if (bytes.part(12, 4) != "IHDR") return std::nullopt;
-  return Sides(bytes.u32(16), bytes.u32(20));
+  if (bytes.part(12, 4) != "IHDR") return header;
+  header.size = Sides(bytes.u32(16), bytes.u32(20));
+  if (bytes.u8(24).value_or(0) > 8) header.bytesPerPixel = kDeepPixel;
+  return header;
 }
 
 }  // namespace
 
 std::optional<PictureHeader> ReadPictureHeader(std::string_view head) {
   if (head.starts_with("BM")) return PictureHeader{PictureKind::bitmap, BitmapSize(head)};
-  if (BeginsLikeGif(head)) return PictureHeader{PictureKind::gif, ReadGifSize(head)};
-  if (BeginsLikeJpeg(head)) return PictureHeader{PictureKind::jpeg, JpegSize(head)};
-  if (head.starts_with(kPngSignature)) return PictureHeader{PictureKind::png, PngSize(head)};
+  if (BeginsLikeGif(head)) return PictureHeader{PictureKind::gif, ReadGifSize(head), kGifBytesPerPixel};
+  if (BeginsLikeJpeg(head)) return JpegHeader(head);
+  if (head.starts_with(kPngSignature)) return PngHeader(head);
   return std::nullopt;
 }
 

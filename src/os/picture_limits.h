@@ -8,8 +8,8 @@
 
 namespace os {
 
-// Pixels of a file: the largest cameras' pictures fit, and as 32-bit pixels they take 1 GiB at most.
-constexpr std::int64_t kMostStoredPixels = std::int64_t{1} << 28;
+// Bytes that a decoder may hold at once: the largest cameras' pictures fit.
+constexpr std::int64_t kMostDecodingBytes = std::int64_t{1} << 30;
 
 // Pixels to draw: while a picture is turned upright it stands in memory twice, 1 GiB at most together.
 constexpr std::int64_t kMostDrawnPixels = std::int64_t{1} << 27;
@@ -18,8 +18,9 @@ inline std::int64_t PixelCount(base::PixelSize size) {
   return size.isEmpty() ? 0 : static_cast<std::int64_t>(size.width) * size.height;
 }
 
-inline bool IsDecodable(base::PixelSize stored) {
-  return !stored.isEmpty() && PixelCount(stored) <= kMostStoredPixels &&
+// `bytesPerPixel`: what a decoder may hold of each pixel, at least 1.
+inline bool IsDecodable(base::PixelSize stored, int bytesPerPixel) {
+  return !stored.isEmpty() && PixelCount(stored) <= kMostDecodingBytes / bytesPerPixel &&
          stored.width <= base::AreaAverage::kLongestSide && stored.height <= base::AreaAverage::kLongestSide;
 }
 

@@ -37,7 +37,9 @@ std::optional<CheckedHead> ReadHead(FileHead& heads, const std::string& path, st
 std::optional<CheckedHead> CheckHead(FileHead& heads, const std::string& path) {
   auto head = ReadHead(heads, path, kHeadBytes);
   if (head && !head->header.size && !head->isWholeFile) head = ReadHead(heads, path, kLongHeadBytes);
-  if (!head || !head->header.size || !IsDecodable(*head->header.size)) return std::nullopt;
+  if (!head || !head->header.size || !IsDecodable(*head->header.size, head->header.bytesPerPixel)) {
+    return std::nullopt;
+  }
   return head;
 }
 
@@ -62,7 +64,7 @@ OpenedPicture OpenPicture(FileHead& heads, PictureDecoder& decoder, const std::s
   if (!head) return {};
   const bool isGif = head->header.kind == PictureKind::gif;
   auto source = isGif ? OpenGif(heads, path, *head) : decoder.open(path);
-  if (!source || !IsDecodable(source->size())) return {};
+  if (!source || !IsDecodable(source->size(), head->header.bytesPerPixel)) return {};
   return {std::move(source), ReadExifOrientation(head->bytes)};
 }
 

@@ -76,6 +76,24 @@ TEST(PictureHeader, AGifTellsItsSize) {
   EXPECT_EQ(header->size, (base::PixelSize{320, 200}));
 }
 
+TEST(PictureHeader, APixelTakesAsManyBytesAsADecoderMayHoldOfIt) {
+  const auto png = [](char depth) {
+    return std::string("\x89PNG\r\n\x1A\n\0\0\0\x0DIHDR\0\0\4\0\0\0\3\0", 24) + depth;
+  };
+  EXPECT_EQ(ReadPictureHeader(png(8))->bytesPerPixel, 4);
+  EXPECT_EQ(ReadPictureHeader(png(16))->bytesPerPixel, 8);
+  const std::string grey = support::JpegHead("", {64, 48});
+  std::string colors = grey;
+  colors[11] = 3;
+  std::string inks = grey;
+  inks[11] = 4;
+  EXPECT_EQ(ReadPictureHeader(grey)->bytesPerPixel, 4);
+  EXPECT_EQ(ReadPictureHeader(colors)->bytesPerPixel, 6);
+  EXPECT_EQ(ReadPictureHeader(inks)->bytesPerPixel, 8);
+  EXPECT_EQ(ReadPictureHeader("GIF89a")->bytesPerPixel, 6);
+  EXPECT_EQ(ReadPictureHeader("BM")->bytesPerPixel, 4);
+}
+
 TEST(PictureHeader, EverythingElseIsNoPicture) {
   for (const std::string& bytes :
        {std::string(), std::string("B"), std::string("GIF88a"), std::string("\xFF\xD8"),
