@@ -57,7 +57,6 @@ void ProgramFolder::addPicture(base::PixelSize size, base::PackedColor color, co
 
 std::string ProgramFolder::writeBitmap(const std::string& name, base::PixelSize size,
                                        base::PackedColor color) const {
-  const std::string path = os::FromWide(path_) + "\\" + name;
   const int stride = (size.width * 3 + 3) / 4 * 4;
   std::string bytes(54 + static_cast<std::size_t>(stride) * static_cast<std::size_t>(size.height), '\0');
   const auto put = [&](std::size_t at, unsigned value, int count) {
@@ -82,8 +81,13 @@ std::string ProgramFolder::writeBitmap(const std::string& name, base::PixelSize 
       bytes[at + 2] = static_cast<char>(base::RedOf(color));
     }
   }
-  const std::wstring wide = os::ToWide(path);
-  const HANDLE file = CreateFileW(wide.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+  return writeFile(name, bytes);
+}
+
+std::string ProgramFolder::writeFile(const std::string& name, const std::string& bytes) const {
+  const std::string path = os::FromWide(path_) + "\\" + name;
+  const HANDLE file =
+      CreateFileW(os::ToWide(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
   DWORD written = 0;
   WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
   CloseHandle(file);

@@ -34,7 +34,8 @@ class FakePictureFile : public os::PictureFile {
 std::shared_ptr<const os::PictureFile> FakePictures::open(const std::string& path) {
   opened.push_back(path);
   const auto found = files_.find(path);
-  return found == files_.end() ? nullptr : found->second;
+  if (found != files_.end()) return found->second;
+  return others ? others->open(path) : nullptr;
 }
 
 void FakePictures::add(const std::string& path, base::PixelSize size, base::PackedColor color) {

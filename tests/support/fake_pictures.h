@@ -21,6 +21,9 @@ class FakePictures : public os::PictureLoader {
   // A picture with pixels of its own; drawn at another size it is resampled.
   void add(const std::string& path, base::Bitmap pixels);
 
+  // Asked for every path that has no picture here; null: there are no others.
+  os::PictureLoader* others = nullptr;
+
   std::vector<std::string> opened;          // paths in the order of opening
   std::vector<base::PixelSize> drawnSizes;  // sizes in the order of drawing
 

@@ -1,0 +1,134 @@
+// The hostile picture set against everything that the program decodes by itself, and against its border to
+// the machine's decoder.
+#include "support/hostile/hostile_pictures.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+
+#include "os/picture_header.h"
+#include "os/picture_limits.h"
+#include "os/picture_loader.h"
+#include "support/allocation_watch.h"
+#include "support/fake_picture_decoder.h"
+
+namespace os {
+namespace {
+
+constexpr base::PixelSize kThumbnail{48, 36};
+
+bool IsGif(const support::HostilePicture& picture) { return picture.bytes.starts_with("GIF8"); }
+
+// A decoder that opens everything that it is asked for, at the size that the file claims, and then breaks.
+class TrustingDecoder final : public PictureDecoder {
+ public:
+  explicit TrustingDecoder(support::FakeFileHead& heads) : heads_(heads) {}
+
+  std::unique_ptr<PictureSource> open(const std::string& path) override {
+    const auto header = ReadPictureHeader(heads_.content[path]);
+    EXPECT_TRUE(header && header->size) << path << " has no size and came to the decoder";
+    opened.insert(path);
+    return std::make_unique<Source>(*header->size);
+  }
+
+  std::set<std::string> opened;
+
+ private:
+  class Source final : public PictureSource {
+   public:
+    explicit Source(base::PixelSize size) : size_(size) {}
+    base::PixelSize size() const override { return size_; }
+    bool hasAlpha() const override { return false; }
+    std::vector<int> reductions() const override { return {1}; }
+    base::PixelSize reducedSize(int) const override { return size_; }
+    bool readRows(int, int, int, base::Pixel*) override { return false; }
+
+   private:
+    base::PixelSize size_;
+  };
+
+  support::FakeFileHead& heads_;
+};
+
+class HostilePictures : public testing::Test {
+ protected:
+  HostilePictures() {
+    for (const auto& picture : all) heads.content[picture.name] = picture.bytes;
+  }
+
+  const support::HostilePictures all = support::AllHostilePictures();
+  support::FakeFileHead heads;
+};
+
+TEST_F(HostilePictures, EveryNameStandsForOneFile) {
+  std::set<std::string> names;
+  for (const auto& picture : all) EXPECT_TRUE(names.insert(picture.name).second) << picture.name;
+}
+
+TEST_F(HostilePictures, OurOwnDecoderDrawsWhatItShouldAndRefusesTheRest) {
+  support::FakePictureDecoder none;
+  FilePictureLoader loader(heads, none);
+  int drawnOnes = 0;
+  for (const auto& picture : all) {
+    if (!IsGif(picture)) continue;
+    const auto opened = loader.open(picture.name);
+    const auto drawn = opened ? opened->draw(kThumbnail) : std::nullopt;
+    if (picture.outcome != support::Outcome::either) {
+      EXPECT_EQ(drawn.has_value(), picture.outcome == support::Outcome::drawn) << picture.name;
+    }
+    if (!drawn) continue;
+    ++drawnOnes;
+    EXPECT_EQ(drawn->size(), kThumbnail) << picture.name;
+    EXPECT_EQ(opened->size(), picture.size.value_or(opened->size())) << picture.name;
+    if (!picture.corners) continue;
+    const auto whole = opened->draw(opened->size());
+    ASSERT_TRUE(whole) << picture.name;
+    EXPECT_EQ(whole->at(0, 0), picture.corners->topLeft) << picture.name;
+    EXPECT_EQ(whole->at(opened->size().width - 1, opened->size().height - 1), picture.corners->bottomRight)
+        << picture.name;
+  }
+  EXPECT_GT(drawnOnes, 10);
+}
+
+TEST_F(HostilePictures, NoClaimBeyondTheBoundComesToTheMachinesDecoder) {
+  TrustingDecoder decoder(heads);
+  FilePictureLoader loader(heads, decoder);
+  for (const auto& picture : all) {
+    const auto opened = loader.open(picture.name);
+    EXPECT_FALSE(opened && !IsGif(picture) && opened->draw({1, 1})) << picture.name;
+    if (!decoder.opened.contains(picture.name)) continue;
+    const auto header = ReadPictureHeader(picture.bytes);
+    EXPECT_LE(PixelCount(*header->size) * header->bytesPerPixel, std::int64_t{1} << 30) << picture.name;
+  }
+  EXPECT_GT(decoder.opened.size(), 100U);
+  for (const auto& name : {"bmp-claims-65535-squared.bmp", "jpeg-claims-65535-squared.jpg",
+                           "jpeg-claims-coefficients-beyond-all-memory.jpg", "png-claims-65535-squared.png",
+                           "png-claims-deep-pixels.png", "bmp-claims-all-it-can.bmp"}) {
+    ASSERT_TRUE(heads.content.contains(name)) << name;
+    EXPECT_FALSE(decoder.opened.contains(name)) << name;
+  }
+}
+
+TEST_F(HostilePictures, NoFileMakesTheProgramAskForMuchMoreThanItsPixelsNeed) {
+  TrustingDecoder decoder(heads);
+  FilePictureLoader loader(heads, decoder);
+  for (const auto& picture : all) {
+    support::AllocationWatch watch;
+    const auto opened = loader.open(picture.name);
+    if (opened) opened->draw(kThumbnail);
+    // A band of rows of the widest picture, and what the file itself holds.
+    const std::size_t bound =
+        (std::size_t{65535} * 16 * 4) + 64 * picture.bytes.size() + (std::size_t{1} << 20);
+    EXPECT_LE(watch.largest(), bound) << picture.name;
+  }
+}
+
+TEST_F(HostilePictures, TheWatchOnAllocationsSeesThem) {
+  support::AllocationWatch watch;
+  const std::vector<char> large(12345678);
+  EXPECT_GE(watch.largest(), large.size());
+}
+
+}  // namespace
+}  // namespace os

@@ -1,0 +1,164 @@
+// The hostile picture set, and hostile places, against the machine's own decoder.
+#include "support/hostile/hostile_pictures.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <psapi.h>
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "os/file_head_win.h"
+#include "os/picture_decoder_win.h"
+#include "os/picture_loader.h"
+#include "os/wide_path_win.h"
+#include "support/hostile/bitmap_files.h"
+#include "support/temporary_folder_win.h"
+#include "support/wic_encoder_win.h"
+
+namespace os {
+namespace {
+
+constexpr base::PixelSize kThumbnail{48, 36};
+constexpr SIZE_T kMost = SIZE_T{1} << 30;
+
+void WriteFileAt(const std::string& path, const std::string& bytes) {
+  const FileHandle file(
+      CreateFileW(WidePath(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+  DWORD written = 0;
+  ASSERT_TRUE(file.isOpen()) << path;
+  ASSERT_TRUE(WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr));
+}
+
+// Bytes of memory that this process has ever held at once. Where the system does not keep the peak of what
+// was promised, that of what was used stands in.
+SIZE_T PeakMemory() {
+  PROCESS_MEMORY_COUNTERS counters{};
+  counters.cb = sizeof counters;
+  GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
+  return std::max(counters.PeakPagefileUsage, counters.PeakWorkingSetSize);
+}
+
+// Lossy formats bring colours back nearly.
+bool IsNearly(base::Pixel a, base::Pixel b) {
+  for (int shift = 0; shift < 32; shift += 8) {
+    if (std::abs(static_cast<int>(a >> shift & 0xFF) - static_cast<int>(b >> shift & 0xFF)) > 4) return false;
+  }
+  return true;
+}
+
+class HostilePicturesWin : public testing::Test {
+ protected:
+  std::string put(const std::string& name, const std::string& bytes) const {
+    const std::string path = folder.path() + "\\" + name;
+    WriteFileAt(path, bytes);
+    return path;
+  }
+
+  support::ComScope com;
+  support::TemporaryFolder folder;
+  FileHeadWin heads;
+  PictureDecoderWin decoder;
+  FilePictureLoader loader{heads, decoder};
+};
+
+TEST_F(HostilePicturesWin, EachIsDrawnAsItShouldBeOrRefused) {
+  int drawnOnes = 0;
+  int refusedOnes = 0;
+  for (const auto& picture : support::AllHostilePictures()) {
+    const auto opened = loader.open(put(picture.name, picture.bytes));
+    const auto drawn = opened ? opened->draw(kThumbnail) : std::nullopt;
+    (drawn ? drawnOnes : refusedOnes) += 1;
+    if (picture.outcome != support::Outcome::either) {
+      EXPECT_EQ(drawn.has_value(), picture.outcome == support::Outcome::drawn) << picture.name;
+    }
+    if (!drawn) continue;
+    EXPECT_EQ(drawn->size(), kThumbnail) << picture.name;
+    EXPECT_EQ(opened->size(), picture.size.value_or(opened->size())) << picture.name;
+    if (!picture.corners) continue;
+    const auto whole = opened->draw(opened->size());
+    ASSERT_TRUE(whole) << picture.name;
+    EXPECT_TRUE(IsNearly(whole->at(0, 0), picture.corners->topLeft))
+        << picture.name << std::hex << " " << whole->at(0, 0);
+    const base::Pixel last = whole->at(opened->size().width - 1, opened->size().height - 1);
+    EXPECT_TRUE(IsNearly(last, picture.corners->bottomRight)) << picture.name << std::hex << " " << last;
+  }
+  EXPECT_GT(drawnOnes, 60);
+  EXPECT_GT(refusedOnes, 60);
+}
+
+TEST_F(HostilePicturesWin, NoneOfThemTakesMoreMemoryThanTheBound) {
+  const SIZE_T before = PeakMemory();
+  for (const auto& picture : support::AllHostilePictures()) {
+    const auto opened = loader.open(put(picture.name, picture.bytes));
+    if (opened) opened->draw({320, 200});
+    ASSERT_LT(PeakMemory(), std::max(before, kMost)) << picture.name;
+  }
+}
+
+TEST_F(HostilePicturesWin, AFolderWithAPicturesNameIsRefused) {
+  const std::string path = folder.path() + "\\x.jpg";
+  ASSERT_TRUE(CreateDirectoryW(WidePath(path).c_str(), nullptr));
+  EXPECT_FALSE(loader.open(path));
+}
+
+TEST_F(HostilePicturesWin, ADeviceWithAPicturesNameIsRefused) {
+  for (const char* name : {"CON", "CON.jpg", "NUL", "NUL.jpg", "COM1", "COM1.bmp", "AUX.gif", "PRN.png",
+                           "LPT1.jpg", "CONIN$", "CONOUT$"}) {
+    EXPECT_FALSE(loader.open(name)) << name;
+    EXPECT_FALSE(loader.open(folder.path() + "\\" + name)) << name;
+  }
+  for (const char* path : {"\\\\.\\CON", "\\\\.\\NUL", "\\\\.\\C:", "\\\\.\\PhysicalDrive0",
+                           "\\\\.\\pipe\\none.jpg", "\\\\?\\", "\\\\", "\\", "C:", "C:\\", "..", "."}) {
+    EXPECT_FALSE(loader.open(path)) << path;
+  }
+}
+
+TEST_F(HostilePicturesWin, ANamedPipeIsNotWaitedFor) {
+  const std::wstring name = L"\\\\.\\pipe\\lumora-test-" + std::to_wstring(GetCurrentProcessId());
+  const HANDLE pipe =
+      CreateNamedPipeW(name.c_str(), PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE | PIPE_WAIT, 1, 0, 0, 0, nullptr);
+  ASSERT_NE(pipe, INVALID_HANDLE_VALUE);
+  const FileHandle owner(pipe);
+  EXPECT_FALSE(loader.open("\\\\.\\pipe\\lumora-test-" + std::to_string(GetCurrentProcessId())));
+}
+
+TEST_F(HostilePicturesWin, APathOfThreeHundredCharactersIsAsGoodAsAnyOther) {
+  std::string path = folder.path();
+  while (path.size() < 300 - 60) {
+    path += "\\" + std::string(50, 'p');
+    ASSERT_TRUE(CreateDirectoryW(WidePath(path, 12).c_str(), nullptr)) << GetLastError();
+  }
+  path += "\\" + std::string(300 - path.size() - 5, 'f') + ".bmp";
+  ASSERT_EQ(path.size(), 300U);
+  EXPECT_FALSE(loader.open(path));
+  WriteFileAt(path, support::RedOverBlue(24, 0, false).bytes());
+  const auto opened = loader.open(path);
+  ASSERT_TRUE(opened);
+  EXPECT_TRUE(opened->draw(kThumbnail));
+  EXPECT_FALSE(loader.open(std::string(40000, 'x') + ".jpg"));
+}
+
+// How long a server that does not answer holds a caller is the system's to say; here nobody listens.
+TEST_F(HostilePicturesWin, ADeadNetworkPathIsRefused) {
+  EXPECT_FALSE(loader.open("\\\\127.0.0.1\\none\\x.jpg"));
+  EXPECT_FALSE(loader.open("\\\\?\\UNC\\127.0.0.1\\none\\x.jpg"));
+}
+
+TEST_F(HostilePicturesWin, AFileThatGrowsOrShrinksBehindTheProgramsBackIsDrawnOrRefused) {
+  const std::string whole = support::RedOverBlue(24, 0, false).bytes();
+  const std::string path = put("a.bmp", whole);
+  const auto opened = loader.open(path);
+  ASSERT_TRUE(opened);
+  ASSERT_TRUE(opened->draw(kThumbnail));
+  WriteFileAt(path, whole.substr(0, 60));
+  EXPECT_FALSE(opened->draw(kThumbnail));
+  WriteFileAt(path, whole);
+  EXPECT_TRUE(opened->draw(kThumbnail));
+  DeleteFileW(WidePath(path).c_str());
+  EXPECT_FALSE(opened->draw(kThumbnail));
+}
+
+}  // namespace
+}  // namespace os
