@@ -6,7 +6,8 @@ set(fuzzed_sources ${portable_sources})
 list(FILTER fuzzed_sources INCLUDE REGEX "/src/((base|os|settings)/|startup/command_line\\.cpp)")
 
 set(fuzz_instrumentation -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
-add_library(lumora_fuzzed STATIC ${fuzzed_sources} tests/support/windows_1252.cpp tests/support/jpeg_builder.cpp)
+add_library(lumora_fuzzed STATIC ${fuzzed_sources} tests/support/windows_1252.cpp tests/support/jpeg_builder.cpp
+            tests/support/gif_builder.cpp)
 target_include_directories(lumora_fuzzed PUBLIC ${CMAKE_SOURCE_DIR}/tests)
 target_compile_options(lumora_fuzzed PUBLIC ${fuzz_instrumentation})
 target_link_options(lumora_fuzzed PUBLIC -fsanitize=fuzzer,address,undefined)

@@ -11,6 +11,7 @@
 #include "os/gif_first_frame.h"
 #include "os/lzw_decoder.h"
 #include "os/picture_limits.h"
+#include "support/gif_builder.h"
 
 namespace {
 
@@ -134,11 +135,32 @@ void CheckCodes(std::string_view bytes) {
   }
 }
 
+// A small whole file made of the bytes: sizes and flags first, then a pixel each.
+void CheckMadeFile(std::string_view bytes) {
+  const auto byte = [bytes](std::size_t at) {
+    return at < bytes.size() ? static_cast<int>(static_cast<unsigned char>(bytes[at])) : 0;
+  };
+  support::GifBuilder gif;
+  gif.screen = {byte(0) % 16, byte(1) % 40};
+  gif.frame = {byte(2) % 8, byte(3) % 8, 1 + byte(4) % 8, 1 + byte(5) % 40};
+  const int flags = byte(6);
+  gif.interlaced = (flags & 1) != 0;
+  if ((flags & 2) != 0) gif.globalColors = std::string(bytes.substr(0, 6)) + std::string(6, '\x7F');
+  if ((flags & 4) != 0) gif.localColors = std::string(24, '\x11');
+  if ((flags & 8) != 0) gif.transparentIndex = static_cast<std::uint8_t>(byte(7));
+  for (std::size_t at = 8; at < bytes.size() && at < 8 + 400; ++at) {
+    gif.indices.push_back(static_cast<std::uint8_t>(byte(at)));
+  }
+  gif.globalColors.resize(gif.globalColors.size() / 6 * 6);
+  CheckFile(gif.file());
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view bytes = fuzz::Text(data, size);
   CheckFile(bytes);
+  CheckMadeFile(bytes);
   CheckCodes(bytes);
   return 0;
 }
