@@ -6,7 +6,6 @@ namespace {
 
 constexpr std::uint8_t kStartOfImage = 0xD8;
 constexpr std::uint8_t kEndOfImage = 0xD9;
-constexpr std::uint8_t kStartOfScan = 0xDA;
 
 // Markers that stand alone, without a length after them: TEM and the restart markers.
 bool StandsAlone(std::uint8_t marker) {
@@ -23,7 +22,7 @@ std::optional<JpegSegment> JpegSegments::next() {
       ++at_;
       continue;
     }
-    if (*marker == 0 || *marker == kStartOfScan || *marker == kEndOfImage) return std::nullopt;
+    if (*marker == 0 || *marker == kEndOfImage) return std::nullopt;
     if (StandsAlone(*marker)) {
       at_ += 2;
       continue;
@@ -31,7 +30,7 @@ std::optional<JpegSegment> JpegSegments::next() {
     const auto length = bytes_.u16(at_ + 2);  // counts itself
     if (!length || *length < 2) return std::nullopt;
     const JpegSegment segment{*marker, bytes_.part(at_ + 4, *length - 2U)};
-    at_ += 2U + *length;
+    at_ = *marker == kStartOfScan ? bytes_.size() : at_ + 2U + *length;
     return segment;
   }
   return std::nullopt;

@@ -9,6 +9,9 @@
 
 namespace os {
 
+// Before the first image data.
+constexpr std::uint8_t kStartOfScan = 0xDA;
+
 struct JpegSegment {
   std::uint8_t marker = 0;   // the byte after 0xFF
   std::string_view content;  // after the length; cut short where the bytes end
@@ -19,8 +22,8 @@ class JpegSegments {
   // The bytes of the file's beginning, as many as have been read.
   explicit JpegSegments(std::string_view head) : bytes_(head, ByteOrder::bigEndian) {}
 
-  // The next segment; nothing at the start of the image data, at the end of the bytes, or at something that
-  // is no marker.
+  // The next segment, up to the head of the first scan; nothing behind it, at the end of the bytes, or at
+  // something that is no marker.
   std::optional<JpegSegment> next();
 
  private:

@@ -41,18 +41,30 @@ bool IsStartOfFrame(std::uint8_t marker) {
   return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
 }
 
-// Progressive files, and those with a scan for each component, are gathered as two bytes for each component
-// before the first row can be given.
+// One scan of all components, block after block: the process that gives rows as they come.
+bool ComesInRows(std::uint8_t process, int components, const std::optional<JpegSegment>& scan) {
+  constexpr std::uint8_t kBaseline = 0xC0;
+  constexpr std::uint8_t kExtendedSequential = 0xC1;
+  return (process == kBaseline || process == kExtendedSequential) && scan && !scan->content.empty() &&
+         static_cast<std::uint8_t>(scan->content.front()) == components;
+}
+
+// Every other process gathers two bytes for each component of the whole picture before the first row, beside
+// the rows themselves.
 PictureHeader JpegHeader(std::string_view head) {
-  constexpr int kBytesPerComponent = 2;
+  constexpr int kGatheredBytes = 2 + 1;
   PictureHeader header{PictureKind::jpeg, std::nullopt};
   JpegSegments segments(head);
-  while (const auto segment = segments.next()) {
-    if (!IsStartOfFrame(segment->marker)) continue;
-    const ByteReader frame(segment->content, ByteOrder::bigEndian);
-    header.size = Sides(frame.u16(3), frame.u16(1));
-    header.bytesPerPixel = std::max(header.bytesPerPixel, kBytesPerComponent * frame.u8(5).value_or(0));
-    break;
+  auto frame = segments.next();
+  while (frame && !IsStartOfFrame(frame->marker)) frame = segments.next();
+  if (!frame) return header;
+  const ByteReader numbers(frame->content, ByteOrder::bigEndian);
+  header.size = Sides(numbers.u16(3), numbers.u16(1));
+  auto scan = segments.next();
+  while (scan && scan->marker != kStartOfScan) scan = segments.next();
+  const int components = numbers.u8(5).value_or(0);
+  if (!ComesInRows(frame->marker, components, scan)) {
+    header.bytesPerPixel = std::max(header.bytesPerPixel, kGatheredBytes * components);
   }
   return header;
 }

@@ -97,6 +97,12 @@ TEST_F(HostilePicturesWin, NoneOfThemTakesMoreMemoryThanTheBound) {
   }
 }
 
+TEST_F(HostilePicturesWin, TheMeasureOfMemorySeesWhatIsUsed) {
+  const SIZE_T before = PeakMemory();
+  const std::vector<char> large(before + (SIZE_T{64} << 20), 'x');
+  EXPECT_GE(PeakMemory(), large.size());
+}
+
 TEST_F(HostilePicturesWin, AFolderWithAPicturesNameIsRefused) {
   const std::string path = folder.path() + "\\x.jpg";
   ASSERT_TRUE(CreateDirectoryW(WidePath(path).c_str(), nullptr));

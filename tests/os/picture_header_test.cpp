@@ -82,16 +82,27 @@ TEST(PictureHeader, APixelTakesAsManyBytesAsADecoderMayHoldOfIt) {
   };
   EXPECT_EQ(ReadPictureHeader(png(8))->bytesPerPixel, 4);
   EXPECT_EQ(ReadPictureHeader(png(16))->bytesPerPixel, 8);
-  const std::string grey = support::JpegHead("", {64, 48});
-  std::string colors = grey;
-  colors[11] = 3;
-  std::string inks = grey;
-  inks[11] = 4;
-  EXPECT_EQ(ReadPictureHeader(grey)->bytesPerPixel, 4);
-  EXPECT_EQ(ReadPictureHeader(colors)->bytesPerPixel, 6);
-  EXPECT_EQ(ReadPictureHeader(inks)->bytesPerPixel, 8);
   EXPECT_EQ(ReadPictureHeader("GIF89a")->bytesPerPixel, 6);
   EXPECT_EQ(ReadPictureHeader("BM")->bytesPerPixel, 4);
+}
+
+TEST(PictureHeader, AJpegThatIsGatheredBeforeItsFirstRowTakesMoreBytes) {
+  const auto jpeg = [](std::uint8_t process, char components, char inFirstScan) {
+    const std::string frame = std::string("\x08\0\x30\0\x40", 5) + components + std::string(3 * 4, '\1');
+    return "\xFF\xD8" + support::JpegSegmentBytes(process, frame) +
+           support::JpegSegmentBytes(0xC4, "tables") +
+           support::JpegSegmentBytes(0xDA, std::string(1, inFirstScan) + std::string(11, '\1'));
+  };
+  EXPECT_EQ(ReadPictureHeader(jpeg(0xC0, 3, 3))->bytesPerPixel, 4);
+  EXPECT_EQ(ReadPictureHeader(jpeg(0xC1, 4, 4))->bytesPerPixel, 4);
+  EXPECT_EQ(ReadPictureHeader(jpeg(0xC0, 3, 1))->bytesPerPixel, 9) << "a scan for each component";
+  EXPECT_EQ(ReadPictureHeader(jpeg(0xC2, 1, 1))->bytesPerPixel, 4);
+  EXPECT_EQ(ReadPictureHeader(jpeg(0xC2, 3, 3))->bytesPerPixel, 9);
+  EXPECT_EQ(ReadPictureHeader(jpeg(0xC2, 4, 4))->bytesPerPixel, 12);
+  const std::string whole = jpeg(0xC0, 3, 3);
+  EXPECT_EQ(ReadPictureHeader(whole.substr(0, whole.size() - 14))->bytesPerPixel, 9)
+      << "its scan is not in sight";
+  EXPECT_EQ(ReadPictureHeader(whole.substr(0, whole.size() - 14))->size, (base::PixelSize{64, 48}));
 }
 
 TEST(PictureHeader, EverythingElseIsNoPicture) {

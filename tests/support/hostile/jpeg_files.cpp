@@ -92,9 +92,13 @@ void AddClaims(HostilePictures& set) {
   add("a-long-line", 60000, 1, Outcome::either);
   add("a-high-column", 1, 60000, Outcome::either);
   add("a-large-photo", 9000, 6000, Outcome::either);
-  std::string progressive = FlatJpeg{.progressive = true, .levels = DarkCorner(4, kBlocks, 0, 255)}.bytes();
-  progressive.replace(progressive.find("\xFF\xC2") + 5, 4, BigEndian(16000, 2) + BigEndian(16000, 2));
-  set.push_back({"jpeg-claims-coefficients-beyond-all-memory.jpg", progressive, Outcome::refused});
+  const auto inks = [](int side) {
+    std::string file = FlatJpeg{.progressive = true, .levels = DarkCorner(4, kBlocks, 0, 255)}.bytes();
+    const auto length = static_cast<std::uint32_t>(side);
+    return file.replace(file.find("\xFF\xC2") + 5, 4, BigEndian(length, 2) + BigEndian(length, 2));
+  };
+  set.push_back({"jpeg-claims-coefficients-beyond-all-memory.jpg", inks(16384), Outcome::refused});
+  set.push_back({"jpeg-claims-coefficients-just-allowed.jpg", inks(9000), Outcome::either});
 }
 
 }  // namespace
