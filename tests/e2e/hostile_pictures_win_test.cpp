@@ -20,7 +20,7 @@ constexpr base::PackedColor kLast = base::Rgb(90, 12, 200);
 constexpr base::PixelSize kGood{200, 100};
 constexpr SIZE_T kMost = SIZE_T{1} << 30;
 constexpr int kTurns = 8;         // of a good picture, so that it stays for a while
-constexpr int kLimitMs = 120000;  // for half of the set
+constexpr int kLimitMs = 240000;  // for half of the set
 
 // The good picture stands in the middle of the screen. Its turns are short, so the screen is looked at often.
 bool ComesToShow(base::PackedColor color) {
