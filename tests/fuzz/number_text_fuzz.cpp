@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 #include <limits>
 #include <locale>
 #include <optional>
@@ -133,11 +134,46 @@ void CheckNumbers(std::string_view bytes) {
   CheckWriting(fuzz::FromBytes<float>(bytes), base::StrictSingle);
 }
 
+// A plain number made of the bytes, in one of the dresses that the strict reading takes, or in a broken one.
+void CheckDress(std::string_view bytes) {
+  std::string digits = "1";
+  for (const char byte : bytes.substr(0, 12)) {
+    digits += static_cast<char>('0' + static_cast<unsigned char>(byte) % 10);
+  }
+  const std::string whole = digits.substr(0, 1 + digits.size() / 2);
+  const std::string number = whole + '.' + digits.substr(whole.size()) + '0';
+  const double value = std::strtod(number.c_str(), nullptr);
+  struct Dress {
+    const char* before;
+    const char* behind;
+    int sign;  // 0: no number
+  };
+  constexpr Dress kDresses[] = {
+      {" \t", "\r\n", 1}, {"+", "", 1},   {"", "+", 1},   {"$", "", 1},       {"", "$", 1},  {"+ $", "", 1},
+      {"1,", "", 2},      {"", "e0", 1},  {"", "D+0", 1}, {"", "d-00", 1},    {"-", "", -1}, {"", "-", -1},
+      {"(", ")", -1},     {"-$", "", -1}, {"$-", "", -1}, {" ( ", " ) ", -1}, {"--", "", 0}, {"-", "-", 0},
+      {"(", "", 0},       {"", ")", 0},   {"$", "$", 0},  {"", "x", 0},       {"", ".1", 0}, {"", " 1", 0},
+      {"", "e", 0},       {",", "", 0},   {"&H", "", 0},  {"", "%", 0},
+  };
+  const std::size_t chosen =
+      bytes.empty() ? 0 : static_cast<unsigned char>(bytes.back()) % std::size(kDresses);
+  const Dress& dress = kDresses[chosen];
+  const auto read = Try(base::StrictDouble, dress.before + number + dress.behind);
+  if (dress.sign == 2) {
+    fuzz::Require(read == std::strtod(("1" + number).c_str(), nullptr), "commas between digits mean nothing");
+  } else if (dress.sign == 0) {
+    fuzz::Require(!read, "what is more than a number is none");
+  } else {
+    fuzz::Require(read == value * dress.sign, "a number is the same in every dress");
+  }
+}
+
 void CheckAll(std::string_view bytes) {
   CheckStrict(bytes);
   CheckLenient(bytes);
   CheckAgainstTheLibrary(std::string(bytes));
   CheckNumbers(bytes);
+  CheckDress(bytes);
 }
 
 }  // namespace
