@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <atomic>
 
-// Of the sanitizer's allocator interface, whose header g++ does not bring.
-extern "C" int __sanitizer_install_malloc_and_free_hooks(void (*allocated)(const volatile void*, std::size_t),
-                                                         void (*freed)(const volatile void*));
+// Of the sanitizer's allocator interface, whose header g++ does not bring. Absent in a build without it.
+extern "C" __attribute__((weak)) int __sanitizer_install_malloc_and_free_hooks(
+    void (*allocated)(const volatile void*, std::size_t), void (*freed)(const volatile void*));
 
 namespace support {
 
@@ -25,7 +25,9 @@ void Freed(const volatile void*) {}
 }  // namespace
 
 AllocationWatch::AllocationWatch() {
-  static const int hooks = __sanitizer_install_malloc_and_free_hooks(Allocated, Freed);
+  static const int hooks = __sanitizer_install_malloc_and_free_hooks
+                               ? __sanitizer_install_malloc_and_free_hooks(Allocated, Freed)
+                               : 0;
   largestPiece = 0;
   watching = hooks != 0;
 }
