@@ -85,10 +85,10 @@ void Form1::Form_Load() {
 }
 
 void Form1::coverScreen() {
-  const base::PixelSize screen = services_.screen.primarySize();
+  screenSize_ = services_.screen.primarySize();
   width = screenWidth();
   height = screenHeight();
-  services_.window.cover(base::PixelRect::ofSize(screen));
+  services_.window.cover(base::PixelRect::ofSize(screenSize_));
   services_.stage.invalidateAll();
 }
 
@@ -97,7 +97,7 @@ void Form1::openSettings() {
   // The window is about to cover the desktop, so the copy of it is taken now if it will be wanted.
   const std::string background = settings::ReadIniValue(*document_, "background", "backEffect");
   if (base::LeadingNumber(background) == static_cast<int>(BackgroundKind::Desktop)) {
-    desktop_ = services_.screen.copyDesktop();
+    desktop_ = std::make_shared<base::Bitmap>(services_.screen.copyDesktop());
   }
 }
 
@@ -186,13 +186,9 @@ int Form1::changeIntervalMs() const {
 
 void Form1::reseed() { random_.reseed(os::SecondsSinceMidnight(services_.clock.now())); }
 
-float Form1::screenWidth() const {
-  return static_cast<float>(services_.screen.primarySize().width * twipsPerPixel());
-}
+float Form1::screenWidth() const { return static_cast<float>(screenSize_.width * twipsPerPixel()); }
 
-float Form1::screenHeight() const {
-  return static_cast<float>(services_.screen.primarySize().height * twipsPerPixel());
-}
+float Form1::screenHeight() const { return static_cast<float>(screenSize_.height * twipsPerPixel()); }
 
 bool Form1::yield(std::int64_t untilMs) {
   services_.stage.flush();

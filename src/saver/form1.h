@@ -67,6 +67,11 @@ class Form1 : public forms::Form {
   // Makes the window cover the screen, reads the settings and prepares the display.
   void Form_Load();
 
+  // The screens are arranged differently now. The window goes to the primary one; where that has another
+  // size, everything is laid out on it by the rules of the start, the picture on the screen too, and an
+  // effect that is running is given up. Does nothing while there is no screen.
+  void ScreenChanged();
+
   // The end of the show: the timers stop, and isOver() is true from now on.
   void unload();
   bool isOver() const { return unloaded_ || services_.loop.isQuitting(); }
@@ -99,6 +104,9 @@ class Form1 : public forms::Form {
   void wireTimers();
   void handle(void (Form1::*handler)());
   void coverScreen();
+  void layOutAgain(base::PixelSize before);
+  void refitPicture();
+  void loadPicture(std::int16_t number);
   void PrepareCaption();
   void PrepareClock();
   void openSettings();
@@ -123,14 +131,17 @@ class Form1 : public forms::Form {
   settings::SaverSettings settings_;
   base::Random random_;
   std::optional<settings::IniDocument> document_;  // between its opening and LoadSettings
-  base::Bitmap desktop_;
+  base::SharedBitmap desktop_;  // as it was before the window covered it; null where it is not wanted
+  base::PixelSize screenSize_;  // of the screen that the window covers
   Countdown countdown_;  // the last reading; kept when the target has passed
   std::int16_t currentImageIndex_ = 0;
+  std::int16_t loadedImageIndex_ = 0;  // of the picture that LoadCurrentPicture took last
   std::int16_t captionHeight_ = 0;
   FloatStep floatStep_;
   int loadReduction_ = 1;  // by which power of two LoadCurrentPicture divided the picture's size
   bool pictureShown_ = false;
   bool changing_ = false;  // a change is under way: timers that tick in its waits must not start another
+  bool effectGivenUp_ = false;  // the screen changed under a change: what it drew is for another screen
   bool unloaded_ = false;
 };
 

@@ -1,6 +1,7 @@
 // The background of the show: a colour, the desktop, the user's picture or a gradient.
 #include "base/errors.h"
 #include "base/number_text.h"
+#include "base/resample.h"
 #include "saver/form1.h"
 
 namespace saver {
@@ -28,8 +29,8 @@ void Form1::DrawBackground() {
 base::SharedBitmap Form1::composeBackground(BackgroundKind kind) {
   if (kind == BackgroundKind::CustomImage) return composeCustomImage();
   if (kind == BackgroundKind::Gradient) return composeGradient();
-  if (desktop_.isEmpty()) return nullptr;
-  return std::make_shared<base::Bitmap>(std::move(desktop_));
+  if (!desktop_ || desktop_->isEmpty() || desktop_->size() == screenSize_) return desktop_;
+  return std::make_shared<base::Bitmap>(base::Resample(*desktop_, screenSize_));
 }
 
 base::SharedBitmap Form1::composeGradient() {
@@ -39,7 +40,7 @@ base::SharedBitmap Form1::composeGradient() {
   const GradientColor color{.red = base::StrictInt32(record.redBackground),
                             .green = base::StrictInt32(record.greenBackground),
                             .blue = base::StrictInt32(record.blueBackground)};
-  return std::make_shared<base::Bitmap>(ComposeGradient(services_.screen.primarySize(), color));
+  return std::make_shared<base::Bitmap>(ComposeGradient(screenSize_, color));
 }
 
 base::SharedBitmap Form1::composeCustomImage() {
@@ -49,9 +50,8 @@ base::SharedBitmap Form1::composeCustomImage() {
       services_.pictures.open(settings_.record.backgroundImage);
   if (!layout || !file) return nullptr;
   PreBgrImage.setPicture(forms::MakePicture(file));
-  std::optional<base::Bitmap> composed =
-      ComposeImage(*PreBgrImage.picture(), *layout, services_.screen.primarySize(), twipsPerPixel(),
-                   base::OpaquePixel(backColor()));
+  std::optional<base::Bitmap> composed = ComposeImage(*PreBgrImage.picture(), *layout, screenSize_,
+                                                      twipsPerPixel(), base::OpaquePixel(backColor()));
   if (!composed) return nullptr;
   return std::make_shared<base::Bitmap>(std::move(*composed));
 }

@@ -36,6 +36,7 @@ void Form1::ShowNextPicture() {
     if (isOver()) return;
   }
   DisplayingPicture.setVisible(false);
+  effectGivenUp_ = false;  // from here on everything is for the screen as it is now
   LoadCurrentPicture();
   ScalePicture();
   PlacePicture();
@@ -43,6 +44,7 @@ void Form1::ShowNextPicture() {
   RunTransition();
   if (isOver()) return;
   DisplayingPicture.setPicture(IntialPicture.picture());
+  if (effectGivenUp_) refitPicture();
   pictureShown_ = true;
   FloatTimer.setEnabled(floats());
 }

@@ -9,11 +9,15 @@
 namespace saver {
 
 void Form1::LoadCurrentPicture() {
+  loadedImageIndex_ = currentImageIndex_;
+  loadPicture(loadedImageIndex_);
+}
+
+void Form1::loadPicture(std::int16_t number) {
   loadReduction_ = 1;
-  const auto index = static_cast<std::size_t>(currentImageIndex_);
+  const auto index = static_cast<std::size_t>(number);
   std::shared_ptr<const os::PictureFile> file;
-  if (currentImageIndex_ >= 0 && index < settings_.imageFiles.size() &&
-      !settings_.imageFiles[index].empty()) {
+  if (number >= 0 && index < settings_.imageFiles.size() && !settings_.imageFiles[index].empty()) {
     file = services_.pictures.open(settings_.imageFiles[index]);
   }
   if (!file) {

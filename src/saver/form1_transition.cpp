@@ -28,7 +28,7 @@ void Form1::RunTransition() {
     const auto over = [this] { return isOver(); };
     const std::optional<int> number =
         ChooseEffect(FlagsOf(settings_.record), random_, services_.clock, services_.loop, over);
-    if (!number || isOver()) return;
+    if (!number || isOver() || effectGivenUp_) return;
     const Effect& effect = EffectNumbered(*number);
     if (effect.isPlainShow()) {
       DisplayingPicture.setPicture(next);
@@ -44,7 +44,8 @@ void Form1::RunTransition() {
                                                  .outerWidthTwips = DisplayingPicture.width(),
                                                  .random = random_});
     services_.stage.flush();
-    TransitionRunner(services_.clock, services_.loop, over)
+    const auto givenUp = [this] { return isOver() || effectGivenUp_; };
+    TransitionRunner(services_.clock, services_.loop, givenUp)
         .run(plan, DisplayingPicture, pixels, ParseTransitionTime(settings_.record.transitionTime));
   } catch (const base::RunTimeError&) {
     return;

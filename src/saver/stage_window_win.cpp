@@ -119,6 +119,7 @@ LRESULT StageWindowWin::receive(UINT message, WPARAM wParam, LPARAM lParam) {
       if (wParam) raise(onSessionEnd);
       return 0;
     case WM_DISPLAYCHANGE:
+    case WM_DPICHANGED:  // the size that comes with it is for windows that do not cover a screen
       raise(onScreenChanged);
       return 0;
     default:

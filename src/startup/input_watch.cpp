@@ -54,6 +54,12 @@ void InputWatch::MouseMoved(float secondsSinceMidnight) {
   }
 }
 
+void InputWatch::screenChanged() {
+  form_ = {};
+  picture_ = {};
+  pointer_.reset();
+}
+
 void InputWatch::controlsMoved(const ControlAt& controlAt) {
   if (!pointer_) return;
   const std::optional<PointedControl> found = controlAt(*pointer_);

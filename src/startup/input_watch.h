@@ -58,6 +58,10 @@ class InputWatch {
   using ControlAt = std::function<std::optional<PointedControl>(base::PixelPoint onScreen)>;
   void controlsMoved(const ControlAt& controlAt);
 
+  // To be called after the screens were arranged differently, which takes the pointer along without a hand on
+  // the mouse: each handler's next move only records where it is now.
+  void screenChanged();
+
   std::int16_t moveCount() const { return moveCount_; }
   std::int32_t firstMoveTime() const { return firstMoveTime_; }
 

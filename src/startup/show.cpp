@@ -21,7 +21,7 @@ Show::Show(const saver::ShowServices& services, const SaverExit::Services& exit,
                  [this] {
                    form_.unload();
                    services_.window.close();
-                   for (const auto& cover : covers_) cover->close();
+                   for (const auto& cover : covers_) cover->window->close();
                  },
              .endProgram = [this] { services_.loop.quit(); }}) {
   services_.loop.setErrorHandler([this](const std::exception&) { endWithoutAsking(); });
@@ -55,6 +55,7 @@ void Show::watchInput() {
   window.onMouseDown = [this](base::PixelPoint) { watch_->Form_MouseDown(); };
   window.onMouseMove = [this](base::PixelPoint place) { mouseMoved(place); };
   window.onCloseRequest = [this] { exit_.ExitSaver(); };
+  window.onScreenChanged = [this] { screenChanged(); };
   services_.stage.onPlacesChanged = [this] {
     watch_->controlsMoved([this](base::PixelPoint place) { return pointedControl(place); });
   };
@@ -62,18 +63,36 @@ void Show::watchInput() {
 
 void Show::coverOtherScreens() {
   if (form_.settings().record.otherScreens != "black") return;
-  for (const base::PixelRect& area : services_.screen.otherScreens()) {
-    std::unique_ptr<saver::StageWindow> cover = makeWindow_();
-    cover->onKeyDown = services_.window.onKeyDown;
-    cover->onMouseDown = services_.window.onMouseDown;
-    cover->onMouseMove = [this, area](base::PixelPoint place) {
-      mouseMoved({place.x + area.left, place.y + area.top});
-    };
-    cover->onCloseRequest = services_.window.onCloseRequest;
-    cover->onSessionEnd = services_.window.onSessionEnd;
-    cover->cover(area);
-    covers_.push_back(std::move(cover));
+  const std::vector<base::PixelRect> areas = services_.screen.otherScreens();
+  while (covers_.size() > areas.size()) {
+    covers_.back()->window->close();
+    goneCovers_.push_back(std::move(covers_.back()));
+    covers_.pop_back();
   }
+  while (covers_.size() < areas.size()) covers_.push_back(makeCover());
+  for (std::size_t i = 0; i < areas.size(); ++i) {
+    covers_[i]->area = areas[i];
+    covers_[i]->window->cover(areas[i]);
+  }
+}
+
+std::unique_ptr<Show::Cover> Show::makeCover() {
+  auto made = std::make_unique<Cover>(Cover{makeWindow_(), {}});
+  const Cover& cover = *made;
+  cover.window->onKeyDown = services_.window.onKeyDown;
+  cover.window->onMouseDown = services_.window.onMouseDown;
+  cover.window->onMouseMove = [this, &cover](base::PixelPoint place) {
+    mouseMoved({place.x + cover.area.left, place.y + cover.area.top});
+  };
+  cover.window->onCloseRequest = services_.window.onCloseRequest;
+  cover.window->onSessionEnd = services_.window.onSessionEnd;
+  return made;
+}
+
+void Show::screenChanged() {
+  watch_->screenChanged();
+  form_.ScreenChanged();
+  coverOtherScreens();
 }
 
 std::optional<PointedControl> Show::pointedControl(base::PixelPoint onScreen) const {
@@ -104,7 +123,7 @@ void Show::endWithoutAsking() {
   restore_.restore();
   form_.unload();
   services_.window.close();
-  for (const auto& cover : covers_) cover->close();
+  for (const auto& cover : covers_) cover->window->close();
   services_.loop.quit();
 }
 

@@ -31,8 +31,16 @@ class Show {
   saver::Form1& form() { return form_; }
 
  private:
+  // A black window on a further screen.
+  struct Cover {
+    std::unique_ptr<saver::StageWindow> window;
+    base::PixelRect area;
+  };
+
   void watchInput();
   void coverOtherScreens();
+  std::unique_ptr<Cover> makeCover();
+  void screenChanged();
   void mouseMoved(base::PixelPoint onScreen);
   std::optional<PointedControl> pointedControl(base::PixelPoint onScreen) const;
   void endWithoutAsking();
@@ -44,7 +52,8 @@ class Show {
   saver::Form1 form_;
   SaverExit exit_;
   std::optional<InputWatch> watch_;
-  std::vector<std::unique_ptr<saver::StageWindow>> covers_;  // on the further screens
+  std::vector<std::unique_ptr<Cover>> covers_;      // one for each further screen
+  std::vector<std::unique_ptr<Cover>> goneCovers_;  // closed; one of their events may still be under way
 };
 
 }  // namespace startup

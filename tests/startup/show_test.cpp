@@ -192,4 +192,48 @@ TEST_F(ShowTest, WithoutTheSettingOnlyThePrimaryScreenIsCovered) {
   EXPECT_TRUE(covers.empty());
 }
 
+TEST_F(ShowTest, AChangeOfTheScreenDoesNotEndItNorDoesThePointerThatWentAlong) {
+  stage.set("image/mouseSensitivity", "30");
+  start();
+  move(1000, 700);
+  stage.screen.size = {800, 600};
+  window().onScreenChanged();
+  move(799, 599);
+  move(799, 599);
+  EXPECT_FALSE(hasEnded());
+  EXPECT_EQ(window().covered, (base::PixelRect{0, 0, 800, 600}));
+  move(600, 400);
+  EXPECT_TRUE(hasEnded()) << "the user's own moves count as before";
+}
+
+TEST_F(ShowTest, TheWindowsOfFurtherScreensFollowTheirArrangement) {
+  stage.screen.others = {{1024, 0, 800, 600}, {-640, 0, 640, 480}};
+  stage.set("extras/otherScreens", "black");
+  start();
+  stage.screen.others = {{1024, 100, 1280, 720}};
+  window().onScreenChanged();
+  EXPECT_EQ(covers[0]->covered, (base::PixelRect{1024, 100, 1280, 720}));
+  EXPECT_FALSE(covers[0]->closed);
+  EXPECT_TRUE(covers[1]->closed);
+  stage.screen.others.push_back({0, 768, 640, 480});
+  window().onScreenChanged();
+  ASSERT_EQ(covers.size(), 3U);
+  EXPECT_EQ(covers[2]->covered, (base::PixelRect{0, 768, 640, 480}));
+  covers[2]->onKeyDown(65);
+  EXPECT_TRUE(hasEnded());
+  EXPECT_TRUE(covers[2]->closed);
+}
+
+TEST_F(ShowTest, APointerOnAFurtherScreenIsMeasuredWhereThatScreenIsNow) {
+  stage.screen.others = {{1024, 0, 800, 600}};
+  stage.set("extras/otherScreens", "black");
+  stage.set("image/mouseSensitivity", "30");
+  start();
+  stage.screen.others = {{2048, 0, 800, 600}};
+  window().onScreenChanged();
+  move(1000, 100);
+  covers[0]->onMouseMove({-1048, 100});  // the same place of the desktop
+  EXPECT_FALSE(hasEnded());
+}
+
 }  // namespace
