@@ -24,7 +24,8 @@ need_packages() {
 
 build_packages=(cmake ninja-build g++ googletest libgtest-dev zlib1g-dev)
 windows_packages=(g++-mingw-w64-x86-64-posix)
-show_packages=(wine wine64 xvfb xauth xdotool imagemagick x11-utils x11-apps fonts-liberation)
+show_packages=(wine wine64 xvfb xauth xdotool imagemagick x11-utils x11-apps
+  x11-xserver-utils fonts-liberation)
 
 # $1: preset; the rest: targets (none = all).
 build_preset() {
@@ -53,17 +54,23 @@ export WINEDEBUG=-all
 export WINEDLLOVERRIDES="mscoree=;mshtml="
 export WINEPREFIX="${LUMORA_WINEPREFIX:-$root/.wine}"
 
-# A display of our own. $1: WIDTHxHEIGHT. Sets DISPLAY and xvfb_pid.
+# A display of our own, whose screen can be made smaller. $1: WIDTHxHEIGHT. Sets DISPLAY and xvfb_pid.
 start_display() {
   local size=$1 pipe
   pipe=$(mktemp -u)
   mkfifo "$pipe"
-  Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp 3>"$pipe" >/dev/null 2>&1 &
+  Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp -noreset 3>"$pipe" >/dev/null 2>&1 &
   xvfb_pid=$!
   local number
   read -r -t 30 number <"$pipe"
   rm -f "$pipe"
   export DISPLAY=":$number"
+}
+
+# A second size of the display's screen, for programs to choose. Needs a display of our own.
+offer_smaller_screen() {
+  xrandr --newmode 1024x768 63.5 1024 1072 1176 1328 768 771 775 798 -hsync +vsync
+  xrandr --addmode screen 1024x768
 }
 
 # Makes the project's own Wine prefix once. Needs a display: a session that starts without one stays without.

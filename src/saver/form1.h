@@ -72,6 +72,9 @@ class Form1 : public forms::Form {
   // effect that is running is given up. Does nothing while there is no screen.
   void ScreenChanged();
 
+  // Of the screen that the window covers.
+  base::PixelSize screenSize() const { return screenSize_; }
+
   // The end of the show: the timers stop, and isOver() is true from now on.
   void unload();
   bool isOver() const { return unloaded_ || services_.loop.isQuitting(); }
@@ -132,7 +135,7 @@ class Form1 : public forms::Form {
   base::Random random_;
   std::optional<settings::IniDocument> document_;  // between its opening and LoadSettings
   base::SharedBitmap desktop_;  // as it was before the window covered it; null where it is not wanted
-  base::PixelSize screenSize_;  // of the screen that the window covers
+  base::PixelSize screenSize_;
   Countdown countdown_;  // the last reading; kept when the target has passed
   std::int16_t currentImageIndex_ = 0;
   std::int16_t loadedImageIndex_ = 0;  // of the picture that LoadCurrentPicture took last

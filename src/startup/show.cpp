@@ -42,6 +42,7 @@ void Show::start() {
   }
   watchInput();
   coverOtherScreens();
+  if (screenIsAnother()) screenChanged();  // while it was loaded, with nobody to tell
   services_.window.activate();
 }
 
@@ -89,6 +90,8 @@ std::unique_ptr<Show::Cover> Show::makeCover() {
   return made;
 }
 
+bool Show::screenIsAnother() const { return services_.screen.primarySize() != form_.screenSize(); }
+
 void Show::screenChanged() {
   watch_->screenChanged();
   form_.ScreenChanged();
@@ -110,6 +113,8 @@ std::optional<PointedControl> Show::pointedControl(base::PixelPoint onScreen) co
 }
 
 void Show::mouseMoved(base::PixelPoint onScreen) {
+  // The pointer that a change of the screen takes along can arrive before the news of the change.
+  if (screenIsAnother()) watch_->screenChanged();
   const std::optional<PointedControl> pointed = pointedControl(onScreen);
   const MouseMove move{pointed->x, pointed->y, onScreen, os::SecondsSinceMidnight(services_.clock.now())};
   if (pointed->control == WatchedControl::DisplayingPicture) {

@@ -40,6 +40,7 @@ class Show {
   void watchInput();
   void coverOtherScreens();
   std::unique_ptr<Cover> makeCover();
+  bool screenIsAnother() const;
   void screenChanged();
   void mouseMoved(base::PixelPoint onScreen);
   std::optional<PointedControl> pointedControl(base::PixelPoint onScreen) const;

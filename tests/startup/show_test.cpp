@@ -206,6 +206,24 @@ TEST_F(ShowTest, AChangeOfTheScreenDoesNotEndItNorDoesThePointerThatWentAlong) {
   EXPECT_TRUE(hasEnded()) << "the user's own moves count as before";
 }
 
+TEST_F(ShowTest, APointerThatComesBeforeTheNewsOfTheChangeDoesNotEndItEither) {
+  stage.set("image/mouseSensitivity", "30");
+  start();
+  move(1000, 700);
+  stage.screen.size = {800, 600};
+  move(799, 599);
+  window().onScreenChanged();
+  move(799, 599);
+  EXPECT_FALSE(hasEnded());
+}
+
+TEST_F(ShowTest, AScreenThatChangedWhileTheShowWasLoadedIsCoveredAsItIsNow) {
+  window().onCover = [this] { stage.screen.size = {800, 600}; };
+  start();
+  EXPECT_EQ(window().covered, (base::PixelRect{0, 0, 800, 600}));
+  EXPECT_EQ(show->form().screenSize(), (base::PixelSize{800, 600}));
+}
+
 TEST_F(ShowTest, TheWindowsOfFurtherScreensFollowTheirArrangement) {
   stage.screen.others = {{1024, 0, 800, 600}, {-640, 0, 640, 480}};
   stage.set("extras/otherScreens", "black");

@@ -1,6 +1,7 @@
 // The show's window in memory: what was presented is on its screen, what was only composed is not.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,7 @@ class FakeStageWindow : public saver::StageWindow {
     calls.push_back("cover");
     covered = area;
     if (!(area.size() == back_.size())) resize(area.size());
+    if (onCover) onCover();
   }
   void activate() override { calls.push_back("activate"); }
   std::intptr_t handle() const override { return 4711; }
@@ -33,6 +35,7 @@ class FakeStageWindow : public saver::StageWindow {
 
   std::vector<std::string> calls;
   base::PixelRect covered;
+  std::function<void()> onCover;  // what happens while the window is being placed
   bool closed = false;
   std::vector<base::PixelRect> presented;
   base::Bitmap screen;  // what the user sees
