@@ -258,19 +258,22 @@ TEST(PictureCycle, TheWindowCoversThePrimaryScreen) {
   EXPECT_FLOAT_EQ(show.form->height, 720 * 15.0F);
 }
 
-TEST(PictureCycle, RunsForADayWithoutARunTimeError) {
+TEST(PictureCycle, RunsForAWeekWithoutARunTimeErrorOrATimerTooMany) {
   ShowStage show({64, 48});
   for (int i = 0; i < 5; ++i) show.addPicture({24, 20}, kRed + i, "Picture " + std::to_string(i));
   for (const char* flag : {"bStandard", "bLeftWipe", "bRightWipe", "bRightandLeftWipe", "bUpAndDown",
                            "bCenter", "bHorizontalBlinds", "bVerticalBlinds", "bFade"}) {
     show.set(std::string("transitions/") + flag, "1");
   }
-  show.set("image/timeInterval", "60");
+  show.set("image/timeInterval", "120");
   show.set("image/randomPick", "1");
   show.start();
-  show.runFor(24LL * 3600 * 1000);
+  show.runFor(3600 * 1000);
+  const int timers = show.loop.timersRunning();
+  show.runFor(7 * 24LL * 3600 * 1000);
   EXPECT_TRUE(show.errors.empty());
-  EXPECT_GT(show.pictures.opened.size(), 1400U);
+  EXPECT_EQ(show.loop.timersRunning(), timers);
+  EXPECT_GT(show.pictures.opened.size(), 4900U);
   EXPECT_FALSE(show.form->isOver());
 }
 

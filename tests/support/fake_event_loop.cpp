@@ -13,6 +13,7 @@ void FakeEventLoop::dispatch(const std::function<void()>& handler) {
     if (!errorHandler_) throw;
     errorHandler_(error);
   }
+  if (afterEach) afterEach();
 }
 
 bool FakeEventLoop::runOneDue() {

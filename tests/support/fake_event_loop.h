@@ -33,6 +33,9 @@ class FakeEventLoop : public os::EventLoop {
   // Lets `ms` pass, running every timer and event on its moment.
   void runFor(std::int64_t ms);
 
+  // Called after each handler, in a wait inside another handler too.
+  std::function<void()> afterEach;
+
   int timersRunning() const { return static_cast<int>(timers_.size()); }
 
   // How many milliseconds pass at each runPending(), so that loops that only poll come to their end.

@@ -1,0 +1,364 @@
+// A million random events on the real show: timers, waits, keys, moves, screens, files, whatever the
+// settings.
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <random>
+
+#include "base/errors.h"
+#include "base/number_text.h"
+#include "saver/caption.h"
+#include "saver/floating.h"
+#include "saver/picture_size.h"
+#include "saver/placement.h"
+#include "startup/show.h"
+#include "support/fake_machine.h"
+#include "support/show_stage.h"
+
+namespace {
+
+constexpr int kEvents = 1'000'000;
+constexpr int kEventsOfAShow = 4000;
+constexpr unsigned kSeed = 20261121;
+constexpr int kMostScreen = 40;   // pixels a side; small, since every event may draw
+constexpr int kMostPicture = 64;  // pixels a side
+constexpr float kStep = 15;       // twips that a floating picture may stand beyond a bound before it turns
+constexpr const char* kEffects[] = {"bStandard",         "bLeftWipe",       "bRightWipe",
+                                    "bRightandLeftWipe", "bUpAndDown",      "bCenter",
+                                    "bHorizontalBlinds", "bVerticalBlinds", "bFade"};
+
+using Random = std::mt19937;
+
+int Draw(Random& random, int low, int high) { return std::uniform_int_distribution(low, high)(random); }
+
+template <std::size_t N>
+const char* OneOf(Random& random, const char* const (&values)[N]) {
+  return values[static_cast<std::size_t>(Draw(random, 0, static_cast<int>(N) - 1))];
+}
+
+base::PixelSize DrawSize(Random& random, int most) { return {Draw(random, 1, most), Draw(random, 1, most)}; }
+
+// One show from its start to some time after its end, under random hands.
+class MonkeyShow {
+ public:
+  MonkeyShow(Random& random, bool older)
+      : random_(random), stage_(DrawSize(random, kMostScreen), dpiOf(random)) {
+    if (older) facts_ = {.osPlatformId = 1, .usePassword = 1};
+    machine_.passwords.accepts = false;
+    addPictures();
+    drawSettings();
+    stage_.writeSettings();
+    const saver::ShowServices s = stage_.services();
+    show_.emplace(
+        saver::ShowServices{s.files, s.ansi, s.pictures, s.clock, s.loop, s.screen, restore_, s.dates,
+                            s.stage, s.window},
+        startup::SaverExit::Services{machine_.passwords, restore_, stage_.screen, restore_, restore_},
+        restore_, facts_, support::ShowStage::programFolder(), [] {
+          return std::make_unique<support::FakeStageWindow>(base::PixelSize{1, 1});
+        });
+    stage_.loop.afterEach = [this] { check(); };
+    restore_.hide(restore_.find());
+  }
+
+  // Runs about `events` events, then ends the show.
+  void run(int events) {
+    show_->start();
+    if (form().isOver()) checkEnd();
+    while (seen_ < events && !form().isOver() && !testing::Test::HasFailure()) {
+      stage_.loop.postAfter(Draw(random_, 0, 400), [this] { act(); });
+      stage_.runFor(Draw(random_, 1, 300));
+    }
+    end();
+  }
+
+  int events() const { return seen_; }
+  std::size_t picturesOpened() const { return stage_.pictures.opened.size(); }
+
+ private:
+  saver::Form1& form() { return show_->form(); }
+
+  static int dpiOf(Random& random) { return Draw(random, 0, 1) == 0 ? 96 : 144; }
+
+  void addPictures() {
+    const int count = Draw(random_, 0, 5);
+    for (int i = 0; i < count; ++i) {
+      static constexpr const char* kCaptions[] = {"", " ", "a", "caption", "a caption that is wide"};
+      stage_.addPicture(DrawSize(random_, kMostPicture), base::Rgb(50 * i, 255 - 50 * i, 80),
+                        OneOf(random_, kCaptions));
+      const std::string path = "C:\\pictures\\" + std::to_string(i) + ".jpg";
+      if (Draw(random_, 0, 9) == 0) stage_.pictures.addBroken(path, DrawSize(random_, kMostPicture));
+    }
+    lastIndex_ = std::max(0, count - 1);
+  }
+
+  void drawSettings() {
+    const auto choose = [this](const char* key, auto& values) { stage_.set(key, OneOf(random_, values)); };
+    static constexpr const char* kFlag[] = {"0", "1"};
+    static constexpr const char* kSpeed[] = {"0", "1", "2", "3", "4", "5", "6", "fast"};
+    static constexpr const char* kSeconds[] = {"0", "0.2", "1", "3", "7"};
+    static constexpr const char* kPlace[] = {"cent", "rand"};
+    static constexpr const char* kPercent[] = {"1", "30", "60", "90", "99"};
+    static constexpr const char* kDisplay[] = {"0", "1", "2"};
+    static constexpr const char* kBackground[] = {"0", "1", "2", "3", "7", "none"};
+    static constexpr const char* kScrollSpeed[] = {"0", "150", "1000", "-40"};
+    static constexpr const char* kTime[] = {"", "0", "200", "1500"};
+    choose("image/randomPick", kFlag);
+    choose("image/picSpeed", kSpeed);
+    choose("image/timeInterval", kSeconds);
+    choose("image/picRandom", kPlace);
+    choose("image/picturePercent", kPercent);
+    choose("image/timeDisplay", kDisplay);
+    choose("background/backEffect", kBackground);
+    choose("font/scroll", kFlag);
+    choose("font/scrollSpeed", kScrollSpeed);
+    choose("extras/transitionTime", kTime);
+    stage_.set("image/mouseSensitivity", std::to_string(Draw(random_, 1, 30)));
+    stage_.set("background/backgroundDisplay", std::to_string(Draw(random_, 0, 2)));
+    stage_.set("background/backgroundImage", "C:\\back.jpg");
+    stage_.pictures.add("C:\\back.jpg", DrawSize(random_, 40), base::Rgb(9, 9, 90));
+    for (const char* effect : kEffects) choose((std::string("transitions/") + effect).c_str(), kFlag);
+    if (Draw(random_, 0, 1) == 0) stage_.set("extras/otherScreens", "black");
+    if (Draw(random_, 0, 19) == 0) spoil();
+  }
+
+  // A setting that no conversion takes: the show ends by itself sooner or later.
+  void spoil() {
+    static constexpr const char* kKeys[] = {"image/timeInterval", "font/scroll", "font/newFontForeColor",
+                                            "background/newBackColor"};
+    stage_.set(OneOf(random_, kKeys), "soon");
+    settingsAreGood_ = false;
+  }
+
+  // One thing that a user or a system does.
+  void act() {
+    if (form().isOver()) return;
+    switch (Draw(random_, 0, 15)) {
+      case 0:
+        stage_.screen.size = Draw(random_, 0, 9) == 0 ? base::PixelSize{} : DrawSize(random_, kMostScreen);
+        if (stage_.screen.size.isEmpty()) return;  // nobody is told before there is a screen again
+        stage_.window.onScreenChanged();
+        break;
+      case 1:
+        stage_.screen.others.resize(static_cast<std::size_t>(Draw(random_, 0, 3)), {64, 0, 8, 8});
+        stage_.window.onScreenChanged();
+        break;
+      case 2:
+        stage_.pictures.addBroken("C:\\pictures\\" + std::to_string(Draw(random_, 0, 4)) + ".jpg", {30, 20});
+        break;
+      case 3:
+        stage_.pictures.add("C:\\pictures\\" + std::to_string(Draw(random_, 0, 4)) + ".jpg",
+                            DrawSize(random_, kMostPicture), base::Rgb(1, 2, 3));
+        break;
+      case 4:
+        composeAll();
+        break;
+      case 5:
+        // The password is refused: the show stays.
+        if (facts_.guardsPassword()) stage_.window.onKeyDown(65);
+        break;
+      case 6:
+        stage_.window.onMouseMove({Draw(random_, 0, 63), Draw(random_, 0, 63)});
+        break;
+      default:
+        stage_.window.onMouseMove({Draw(random_, 3, 5), Draw(random_, 3, 5)});
+        break;
+    }
+  }
+
+  // What the screen shows piece by piece is what it shows when it is composed at one go.
+  void composeAll() {
+    stage_.stage.flush();
+    const base::Bitmap before = stage_.window.screen;
+    stage_.stage.invalidateAll();
+    stage_.stage.flush();
+    EXPECT_TRUE(stage_.window.screen == before) << "not composed alike";
+  }
+
+  void end() {
+    if (!form().isOver()) {
+      machine_.passwords.accepts = true;
+      const int way = Draw(random_, 0, 3);
+      if (way == 0) stage_.window.onKeyDown(65);
+      if (way == 1) stage_.window.onMouseDown({1, 1});
+      if (way == 2) stage_.window.onCloseRequest();
+      if (way == 3) stage_.window.onSessionEnd();
+      EXPECT_TRUE(form().isOver());
+    }
+    checkEnd();
+    // Whatever is still on its way finds nothing to do.
+    const std::size_t presented = stage_.window.presented.size();
+    const std::size_t calls = stage_.window.calls.size();
+    const std::size_t opened = stage_.pictures.opened.size();
+    stage_.clock.advance(100000);
+    for (forms::Timer* timer : {&form().StartSaver, &form().ImageChangeTimer, &form().FloatTimer,
+                                &form().ScrollerTimer, &form().timeTimer}) {
+      timer->onTimer();
+    }
+    form().ScreenChanged();
+    EXPECT_EQ(stage_.window.presented.size(), presented);
+    EXPECT_EQ(stage_.window.calls.size(), calls);
+    EXPECT_EQ(stage_.pictures.opened.size(), opened);
+  }
+
+  void checkEnd() {
+    EXPECT_TRUE(stage_.loop.isQuitting());
+    EXPECT_TRUE(stage_.window.closed);
+    EXPECT_TRUE(machine_.taskbar.visible);
+    EXPECT_FALSE(machine_.flags.running);
+    EXPECT_EQ(stage_.loop.timersRunning(), 0);
+  }
+
+  void check() {
+    ++seen_;
+    stage_.window.presented.clear();
+    if (form().isOver() || testing::Test::HasFailure()) return;
+    checkTimers();
+    checkCaption();
+    checkClock();
+    if (form().DisplayingPicture.visible()) checkPicture();
+    EXPECT_EQ(stage_.window.covered, base::PixelRect::ofSize(form().screenSize()));
+    EXPECT_GE(form().currentImageIndex(), -1);
+    EXPECT_LE(form().currentImageIndex(), lastIndex_ + 1);
+  }
+
+  double number(const std::string& text) const { return base::StrictDouble(text); }
+  const settings::SettingsRecord& record() { return form().settings().record; }
+  bool floats() { return record().picRandom != "cent"; }
+
+  // A change is under way when its hold is on, or when the first one has begun and not ended.
+  bool changing() {
+    const bool first = form().StartSaver.enabled() && form().currentImageIndex() >= 0 && begun_;
+    return first || (form().ImageChangeTimer.enabled() && form().ImageChangeTimer.interval() == 60000);
+  }
+
+  void checkTimers() {
+    begun_ = begun_ || !stage_.pictures.opened.empty();
+    EXPECT_EQ(form().StartSaver.interval(), 500);
+    if (!settingsAreGood_) return;
+    const int changeMs = static_cast<int>(number(record().timeInterval) * 1000);
+    const forms::Timer& change = form().ImageChangeTimer;
+    if (change.enabled()) {
+      EXPECT_TRUE(change.interval() == changeMs || change.interval() == 60000) << change.interval();
+      EXPECT_TRUE(form().pictureShown());
+    }
+    const bool still = !floats() && changeMs == 0;
+    EXPECT_EQ(change.enabled(), !still && !form().StartSaver.enabled());
+    if (form().FloatTimer.enabled()) {
+      EXPECT_TRUE(floats());
+    }
+    const double speed = record().picSpeed == "fast" ? -1 : number(record().picSpeed);
+    const auto floatMs =
+        floats() && !form().StartSaver.enabled() ? saver::FloatIntervalMs(speed) : std::nullopt;
+    if (floatMs) {
+      EXPECT_EQ(form().FloatTimer.interval(), *floatMs);
+    }
+    EXPECT_EQ(form().timeTimer.interval(), 100);
+    if (number(record().timeDisplay) == 0) {
+      EXPECT_FALSE(form().timeTimer.enabled());
+    }
+    const bool scrolls = number(record().scroll) == 0;
+    if (form().ScrollerTimer.enabled()) {
+      EXPECT_TRUE(scrolls);
+      EXPECT_EQ(form().ScrollerTimer.interval(), 100);
+    } else if (scrolls) {
+      EXPECT_TRUE(form().StartSaver.enabled()) << "a caption scrolls from the first picture on";
+    }
+  }
+
+  // The caption is hidden while a change is under way, and is the shown picture's otherwise.
+  void checkCaption() {
+    const forms::Label& caption = form().Label1;
+    EXPECT_FLOAT_EQ(caption.top(), 0);
+    if (!settingsAreGood_) return;
+    if (!caption.visible()) return;
+    EXPECT_TRUE(form().pictureShown());
+    EXPECT_FALSE(changing()) << "a caption over a change";
+    const float screen = form().width;
+    if (number(record().scroll) != 0) {
+      EXPECT_FLOAT_EQ(caption.left(), saver::CenteredCaptionLeft(screen, caption.width()));
+    } else if (number(record().scrollSpeed) >= 0) {
+      EXPECT_LE(caption.left(), screen);
+      EXPECT_GE(caption.left() + caption.width(), 0);
+    }
+  }
+
+  // The clock's last letter stands in the corner or left of it; the clock may be wider than a small screen.
+  void checkClock() {
+    if (!form().time.visible()) return;
+    EXPECT_LE(form().time.left() + form().time.width(), form().width + 0.5F);
+    EXPECT_NEAR(form().time.top() + form().time.height(), form().height, 0.5F);
+  }
+
+  void checkPicture() {
+    const forms::PictureBox& box = form().DisplayingPicture;
+    checkSize(box);
+    const bool centred = !floats() || !form().pictureShown();
+    if (centred) {
+      const auto middle = saver::Centered(form().width, form().height, box.width(), box.height());
+      EXPECT_FLOAT_EQ(box.left(), middle.left);
+      EXPECT_FLOAT_EQ(box.top(), middle.top);
+      return;
+    }
+    checkAxis(box.left(), box.width(), form().width, lastLeft_);
+    checkAxis(box.top(), box.height(), form().height, lastTop_);
+  }
+
+  // The longer side keeps to its share of the screen, to the pixel.
+  void checkSize(const forms::PictureBox& box) {
+    const auto limit = saver::PictureLimit::of(form().width, form().height, form().settings().pictureScale);
+    const auto pixel = static_cast<float>(form().twipsPerPixel());
+    const bool portrait = box.width() < box.height();
+    const float longer = portrait ? box.height() : box.width();
+    const auto most = static_cast<float>(portrait ? limit.maxPictureHeight : limit.maxPictureWidth);
+    const auto other = static_cast<float>(portrait ? limit.maxPictureWidth : limit.maxPictureHeight);
+    // Rounding to whole pixels can make a nearly square picture square, or change its longer side.
+    const bool nearlySquare = std::abs(box.width() - box.height()) <= 2 * pixel;
+    EXPECT_LE(longer, (nearlySquare ? std::max(most, other) : most) + 2 * pixel);
+  }
+
+  // One that overruns the screen by design trembles where it is. A smaller one that comes after it finds its
+  // way back from beyond the left or the top.
+  struct AxisWas {
+    float position = 0;
+    bool fitted = false;
+  };
+  static void checkAxis(float position, float length, float screen, AxisWas& was) {
+    const bool fits = length <= screen;
+    if (fits) {
+      EXPECT_GE(position, std::min(-kStep, was.fitted ? was.position : was.position - kStep));
+      EXPECT_LE(position + length, screen + kStep);
+    }
+    was = {position, fits};
+  }
+
+  Random& random_;
+  support::FakeMachine machine_;
+  support::ShowStage stage_;
+  os::SystemFacts facts_;
+  startup::SystemRestore restore_{machine_.taskbar, machine_.cursor, machine_.flags};
+  std::optional<startup::Show> show_;
+  bool settingsAreGood_ = true;
+  bool begun_ = false;
+  AxisWas lastLeft_;
+  AxisWas lastTop_;
+  int lastIndex_ = 0;
+  int seen_ = 0;
+};
+
+TEST(ShowMonkey, AMillionEventsLeaveEverythingWhereItIsPromisedAndNothingAfterTheEnd) {
+  std::cout << "seed " << kSeed << "\n";
+  Random random(kSeed);
+  int shows = 0;
+  std::size_t pictures = 0;
+  for (int events = 0; events < kEvents && !HasFailure(); ++shows) {
+    SCOPED_TRACE("show " + std::to_string(shows));
+    MonkeyShow show(random, shows % 3 == 0);
+    show.run(kEventsOfAShow);
+    events += show.events();
+    pictures += show.picturesOpened();
+  }
+  EXPECT_GT(shows, kEvents / kEventsOfAShow / 2);
+  EXPECT_GT(pictures, 10000U) << "pictures came and went";
+}
+
+}  // namespace
