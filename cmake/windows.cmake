@@ -46,7 +46,7 @@ if(LUMORA_TESTS)
 
   file(GLOB e2e_sources CONFIGURE_DEPENDS tests/e2e/*.cpp)
   add_executable(lumora_e2e ${e2e_sources})
-  target_link_libraries(lumora_e2e PRIVATE lumora_win_support gtest)
+  target_link_libraries(lumora_e2e PRIVATE lumora_win_support gtest ntdll)
   target_link_options(lumora_e2e PRIVATE -static)
   add_dependencies(lumora_e2e password_stand_in)
 endif()
