@@ -1,7 +1,7 @@
 # Lumora.scr and the tests that need Windows (or Wine).
 set(hardening -fstack-protector-strong)
 set(system_libraries gdi32 user32 kernel32 advapi32 shell32 ole32 oleaut32 windowscodecs comctl32 comdlg32
-    shlwapi uxtheme uuid)
+    shlwapi uuid)
 
 target_compile_definitions(lumora_flags INTERFACE UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX
                            _WIN32_WINNT=0x0A00 WINVER=0x0A00)
@@ -32,11 +32,13 @@ if(LUMORA_TESTS)
   target_link_libraries(lumora_win_tests PRIVATE lumora_win_support gtest_main)
   target_link_options(lumora_win_tests PRIVATE -static)
 
-  # Stands in for a library of the older Windows family in the end-to-end tests.
-  add_library(password_stand_in MODULE tests/e2e/stand_ins/password_stand_in_win.cpp)
-  set_target_properties(password_stand_in PROPERTIES PREFIX "")
-  target_link_libraries(password_stand_in PRIVATE lumora_flags)
-  target_link_options(password_stand_in PRIVATE -static)
+  # Stand in for libraries of the system in the end-to-end tests.
+  foreach(stand_in password_stand_in marking_stand_in)
+    add_library(${stand_in} MODULE tests/e2e/stand_ins/${stand_in}_win.cpp)
+    set_target_properties(${stand_in} PROPERTIES PREFIX "")
+    target_link_libraries(${stand_in} PRIVATE lumora_flags)
+    target_link_options(${stand_in} PRIVATE -static)
+  endforeach()
 
   file(GLOB bench_sources CONFIGURE_DEPENDS tests/bench/*.cpp)
   add_executable(lumora_bench EXCLUDE_FROM_ALL ${bench_sources} tests/e2e/program_folder.cpp
@@ -48,5 +50,5 @@ if(LUMORA_TESTS)
   add_executable(lumora_e2e ${e2e_sources})
   target_link_libraries(lumora_e2e PRIVATE lumora_win_support gtest ntdll)
   target_link_options(lumora_e2e PRIVATE -static)
-  add_dependencies(lumora_e2e password_stand_in)
+  add_dependencies(lumora_e2e password_stand_in marking_stand_in)
 endif()

@@ -1,7 +1,6 @@
 #include "forms/container_peer_win.h"
 
 #include <commctrl.h>
-#include <uxtheme.h>
 #include <vssym32.h>
 
 #include <algorithm>
@@ -9,6 +8,7 @@
 
 #include "forms/form.h"
 #include "forms/surface_win.h"
+#include "forms/theme_win.h"
 #include "os/utf16_win.h"
 
 namespace forms {
@@ -31,13 +31,12 @@ void RegisterPageClass() {
 }
 
 void DrawGroupLine(HWND window, HDC dc, RECT area, bool enabled) {
-  const HTHEME theme = IsAppThemed() ? OpenThemeData(window, L"BUTTON") : nullptr;
+  const Theme theme(window, L"BUTTON");
   if (!theme) {
     DrawEdge(dc, &area, EDGE_ETCHED, BF_RECT);
     return;
   }
-  DrawThemeBackground(theme, dc, BP_GROUPBOX, enabled ? GBS_NORMAL : GBS_DISABLED, &area, nullptr);
-  CloseThemeData(theme);
+  theme.drawBackground(dc, BP_GROUPBOX, enabled ? GBS_NORMAL : GBS_DISABLED, area);
 }
 
 }  // namespace

@@ -1,8 +1,8 @@
 #include "forms/surface_win.h"
 
-#include <uxtheme.h>
 #include <vssym32.h>
 
+#include "forms/theme_win.h"
 #include "os/dib_win.h"
 
 namespace forms {
@@ -44,15 +44,12 @@ COLORREF ToColorRef(base::PackedColor color) {
 }
 
 COLORREF TabPageColor(HWND tabControl) {
-  if (!IsAppThemed()) return GetSysColor(COLOR_BTNFACE);
-  const HTHEME theme = OpenThemeData(tabControl, L"TAB");
+  const Theme theme(tabControl, L"TAB");
   if (!theme) return GetSysColor(COLOR_BTNFACE);
   constexpr int kSide = 64;
   const os::Dib sample(base::PixelSize{kSide, kSide});
-  RECT area{0, 0, kSide, kSide};
-  const bool drawn = SUCCEEDED(DrawThemeBackground(theme, sample.dc(), TABP_BODY, 0, &area, nullptr));
-  CloseThemeData(theme);
-  if (!drawn) return GetSysColor(COLOR_BTNFACE);
+  if (!theme.drawBackground(sample.dc(), TABP_BODY, 0, {0, 0, kSide, kSide}))
+    return GetSysColor(COLOR_BTNFACE);
   return GetPixel(sample.dc(), kSide / 2, kSide / 2);
 }
 

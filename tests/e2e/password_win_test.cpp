@@ -13,6 +13,8 @@ namespace {
 constexpr const wchar_t* kVersionKey = L"Software\\Wine\\AppDefaults\\Lumora.scr";
 constexpr const wchar_t* kDesktopKey = L"Control Panel\\Desktop";
 
+bool RunsUnderWine() { return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr; }
+
 std::wstring SystemFolder() {
   wchar_t folder[MAX_PATH];
   GetSystemDirectoryW(folder, MAX_PATH);
@@ -49,7 +51,7 @@ std::string ReadText(const std::wstring& path) {
 class PasswordTest : public testing::Test {
  protected:
   void SetUp() override {
-    if (!GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version")) GTEST_SKIP() << "needs Wine";
+    if (!RunsUnderWine()) GTEST_SKIP() << "needs Wine";
     RegSetKeyValueW(HKEY_CURRENT_USER, kVersionKey, L"Version", REG_SZ, L"win98", sizeof(L"win98"));
     const DWORD on = 1;
     RegSetKeyValueW(HKEY_CURRENT_USER, kDesktopKey, L"ScreenSaveUsePassword", REG_DWORD, &on, sizeof(on));
@@ -124,12 +126,74 @@ TEST_F(PasswordTest, OnTheNtFamilyNobodyIsAsked) {
   EXPECT_EQ(calls(), "");
 }
 
+TEST_F(PasswordTest, ALibraryPlantedBesideTheProgramIsNotAsked) {
+  answer("refuse");
+  const std::wstring planted = folder.path() + L"\\password.cpl";
+  ASSERT_TRUE(CopyFileW((OwnFolder() + L"\\marking_stand_in.dll").c_str(), planted.c_str(), FALSE));
+  e2e::RunningProgram show(folder.program(), L"/S", folder.path());
+  ASSERT_NE(show.waitForShow(), nullptr);
+  ASSERT_TRUE(ShowIsOnTheScreen());
+  e2e::PressKey(VK_SPACE);
+  ASSERT_TRUE(e2e::WaitFor([&] { return !calls().empty(); }));
+  EXPECT_TRUE(show.isRunning()) << "the system's library refused";
+  answer("accept");
+  EXPECT_TRUE(show.endsByKey());
+  EXPECT_EQ(ReadText(folder.path() + L"\\loaded.txt"), "");
+}
+
 TEST(PasswordChange, WithoutAProviderEndsQuietly) {
   e2e::ProgramFolder folder;
   folder.writeSettings();
   e2e::RunningProgram change(folder.program(), L"/a 4711");
   EXPECT_TRUE(change.waitForEnd());
   EXPECT_EQ(change.exitCode(), 0U);
+}
+
+// The stand-in in the place of the system's network provider library, for Lumora.scr alone.
+class NetworkProvider {
+ public:
+  NetworkProvider() {
+    putBack();  // what a killed run may have left
+    MoveFileW(library_.c_str(), kept_.c_str());
+    installed_ =
+        CopyFileW((OwnFolder() + L"\\password_stand_in.dll").c_str(), library_.c_str(), TRUE) != FALSE;
+    RegSetKeyValueW(HKEY_CURRENT_USER, kOverridesKey, L"mpr", REG_SZ, L"native", sizeof(L"native"));
+  }
+  ~NetworkProvider() {
+    RegDeleteKeyW(HKEY_CURRENT_USER, kOverridesKey);
+    putBack();
+  }
+  NetworkProvider(const NetworkProvider&) = delete;
+  NetworkProvider& operator=(const NetworkProvider&) = delete;
+
+  bool isInstalled() const { return installed_; }
+
+ private:
+  static constexpr const wchar_t* kOverridesKey = L"Software\\Wine\\AppDefaults\\Lumora.scr\\DllOverrides";
+
+  void putBack() const {
+    if (GetFileAttributesW(kept_.c_str()) == INVALID_FILE_ATTRIBUTES) return;
+    MoveFileExW(kept_.c_str(), library_.c_str(), MOVEFILE_REPLACE_EXISTING);
+  }
+
+  std::wstring library_ = SystemFolder() + L"\\mpr.dll";
+  std::wstring kept_ = library_ + L".kept";
+  bool installed_ = false;
+};
+
+TEST(PasswordChange, CallsTheSystemsProviderOnceWithTheWindowOfTheCommandLine) {
+  if (!RunsUnderWine()) GTEST_SKIP() << "needs Wine";
+  e2e::ProgramFolder folder;
+  folder.writeSettings();
+  const std::wstring answer = folder.path() + L"\\answer.txt";
+  const NetworkProvider provider;
+  ASSERT_TRUE(provider.isInstalled());
+  SetEnvironmentVariableW(L"LUMORA_PASSWORD_ANSWER", answer.c_str());
+  e2e::RunningProgram change(folder.program(), L"/a 4711");
+  EXPECT_TRUE(change.waitForEnd());
+  SetEnvironmentVariableW(L"LUMORA_PASSWORD_ANSWER", nullptr);
+  EXPECT_EQ(change.exitCode(), 0U);
+  EXPECT_EQ(ReadText(answer + L".calls"), "change SCRSAVE window=4711 0 0\n");
 }
 
 }  // namespace

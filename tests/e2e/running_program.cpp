@@ -18,13 +18,14 @@ bool WaitFor(const std::function<bool()>& condition, int limitMs) {
   }
 }
 
-RunningProgram::RunningProgram(const std::wstring& program, const std::wstring& arguments) {
+RunningProgram::RunningProgram(const std::wstring& program, const std::wstring& arguments,
+                               const std::wstring& currentFolder) {
   std::wstring line = L"\"" + program + L"\"" + (arguments.empty() ? L"" : L" ") + arguments;
   STARTUPINFOW start{};
   start.cb = sizeof(start);
   PROCESS_INFORMATION info{};
-  if (CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
-                     &info)) {
+  if (CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                     currentFolder.empty() ? nullptr : currentFolder.c_str(), &start, &info)) {
     CloseHandle(info.hThread);
     process_ = info.hProcess;
     processId_ = info.dwProcessId;

@@ -18,7 +18,9 @@ bool WaitFor(const std::function<bool()>& condition, int limitMs = 15000);
 // A process started with a switch; ended by force at the end of the scope when it still runs.
 class RunningProgram {
  public:
-  RunningProgram(const std::wstring& program, const std::wstring& arguments);
+  // `currentFolder`: where the process stands; empty = where this one does.
+  RunningProgram(const std::wstring& program, const std::wstring& arguments,
+                 const std::wstring& currentFolder = {});
   ~RunningProgram();
   RunningProgram(const RunningProgram&) = delete;
   RunningProgram& operator=(const RunningProgram&) = delete;

@@ -112,6 +112,8 @@ class MonkeyShow {
     choose("font/scroll", kFlag);
     choose("font/scrollSpeed", kScrollSpeed);
     choose("extras/transitionTime", kTime);
+    // Now and then an effect outlasts the hold of the picture's timer.
+    if (Draw(random_, 0, 29) == 0) stage_.set("extras/transitionTime", "65000");
     stage_.set("image/mouseSensitivity", std::to_string(Draw(random_, 1, 30)));
     stage_.set("background/backgroundDisplay", std::to_string(Draw(random_, 0, 2)));
     stage_.set("background/backgroundImage", "C:\\back.jpg");

@@ -1,4 +1,5 @@
-// Stands in for the older family's password control panel: asks nobody, writes down each call.
+// Stands in for the older family's password control panel and its network provider: asks nobody, writes down
+// each call.
 //
 // The file named by the environment variable LUMORA_PASSWORD_ANSWER holds the answer ("accept" or "refuse");
 // each call adds a line to the file of that name with ".calls" behind it.
@@ -24,11 +25,7 @@ bool Accepts(const std::wstring& file) {
   return std::string(answer, got) == "accept";
 }
 
-void NoteCall(const std::wstring& file, HWND owner) {
-  BOOL running = FALSE;
-  SystemParametersInfoW(SPI_GETSCREENSAVERRUNNING, 0, &running, 0);
-  const std::string line = std::string("verify window=") + (IsWindow(owner) ? "valid" : "none") +
-                           " running=" + (running ? "1" : "0") + "\n";
+void NoteCall(const std::wstring& file, const std::string& line) {
   const HANDLE handle = CreateFileW((file + L".calls").c_str(), FILE_APPEND_DATA,
                                     FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_ALWAYS, 0, nullptr);
   DWORD written = 0;
@@ -40,6 +37,17 @@ void NoteCall(const std::wstring& file, HWND owner) {
 
 extern "C" __declspec(dllexport) BOOL WINAPI VerifyScreenSavePwd(HWND owner) {
   const std::wstring file = AnswerFile();
-  NoteCall(file, owner);
+  BOOL running = FALSE;
+  SystemParametersInfoW(SPI_GETSCREENSAVERRUNNING, 0, &running, 0);
+  NoteCall(file, std::string("verify window=") + (IsWindow(owner) ? "valid" : "none") +
+                     " running=" + (running ? "1" : "0") + "\n");
   return Accepts(file) ? TRUE : FALSE;
+}
+
+extern "C" __declspec(dllexport) DWORD WINAPI
+    PwdChangePasswordA(LPCSTR provider, HWND owner, UINT first, UINT second) {
+  NoteCall(AnswerFile(), std::string("change ") + provider +
+                             " window=" + std::to_string(reinterpret_cast<UINT_PTR>(owner)) + " " +
+                             std::to_string(first) + " " + std::to_string(second) + "\n");
+  return 0;
 }

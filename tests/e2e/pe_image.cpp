@@ -1,0 +1,93 @@
+#include "e2e/pe_image.h"
+
+#include <algorithm>
+#include <cctype>
+#include <stdexcept>
+
+namespace e2e {
+
+namespace {
+
+constexpr std::size_t kOptionalHeader = 24;  // from the signature
+constexpr std::size_t kDirectories = 112;    // from the optional header of a 64-bit program
+constexpr std::size_t kSectionBytes = 40;
+constexpr unsigned kImports = 1;
+constexpr unsigned kRelocations = 5;
+constexpr unsigned kDelayedImports = 13;
+
+struct Section {
+  std::uint32_t address;
+  std::uint32_t size;
+  std::uint32_t offset;
+};
+
+class Reader {
+ public:
+  explicit Reader(std::string_view bytes) : bytes_(bytes) {
+    signature_ = number(0x3C, 4);
+    if (bytes_.substr(signature_, 2) != "PE" || number(signature_ + kOptionalHeader, 2) != 0x20B)
+      throw std::out_of_range("no 64-bit program");
+  }
+
+  PeImage read() {
+    PeImage image;
+    image.characteristics = static_cast<std::uint16_t>(number(signature_ + 22, 2));
+    const std::size_t optional = signature_ + kOptionalHeader;
+    image.dllCharacteristics = static_cast<std::uint16_t>(number(optional + 70, 2));
+    const std::size_t table = optional + number(signature_ + 20, 2);
+    for (std::size_t i = 0; i < number(signature_ + 6, 2); ++i) {
+      const std::size_t at = table + i * kSectionBytes;
+      image.sections.push_back({std::string(bytes_.substr(at, 8)), number(at + 36, 4)});
+      sections_.push_back({number(at + 12, 4), number(at + 16, 4), number(at + 20, 4)});
+    }
+    image.relocationBytes = number(directory(kRelocations) + 4, 4);
+    addImports(image, kImports, 20, 12);
+    addImports(image, kDelayedImports, 32, 4);
+    return image;
+  }
+
+ private:
+  std::uint32_t number(std::size_t at, int size) const {
+    std::uint32_t value = 0;
+    for (int i = size - 1; i >= 0; --i) {
+      value = value << 8 | static_cast<unsigned char>(bytes_.at(at + static_cast<std::size_t>(i)));
+    }
+    return value;
+  }
+
+  std::size_t directory(unsigned which) const {
+    return signature_ + kOptionalHeader + kDirectories + std::size_t{8} * which;
+  }
+
+  std::size_t offsetOf(std::uint32_t address) const {
+    for (const Section& section : sections_) {
+      if (address >= section.address && address - section.address < section.size)
+        return address - section.address + section.offset;
+    }
+    throw std::out_of_range("an address in no section");
+  }
+
+  void addImports(PeImage& image, unsigned which, std::size_t entryBytes, std::size_t nameAt) const {
+    const std::uint32_t address = number(directory(which), 4);
+    if (address == 0) return;
+    for (std::size_t at = offsetOf(address);; at += entryBytes) {
+      const std::uint32_t nameAddress = number(at + nameAt, 4);
+      if (nameAddress == 0) return;
+      const std::size_t from = offsetOf(nameAddress);
+      std::string name(bytes_.substr(from, bytes_.find('\0', from) - from));
+      std::transform(name.begin(), name.end(), name.begin(),
+                     [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
+      image.imports.push_back(std::move(name));
+    }
+  }
+
+  std::string_view bytes_;
+  std::size_t signature_ = 0;
+  std::vector<Section> sections_;
+};
+
+}  // namespace
+
+PeImage ReadPeImage(std::string_view bytes) { return Reader(bytes).read(); }
+
+}  // namespace e2e
