@@ -1,5 +1,6 @@
 #include "startup/show.h"
 
+#include <exception>
 #include <utility>
 
 #include "base/number_text.h"
@@ -7,13 +8,23 @@
 
 namespace startup {
 
+namespace {
+
+saver::ShowServices With(os::PictureLoader& pictures, const saver::ShowServices& s) {
+  return {s.files, s.ansi, pictures, s.clock, s.loop, s.screen, s.flags, s.dates, s.stage, s.window};
+}
+
+}  // namespace
+
 Show::Show(const saver::ShowServices& services, const SaverExit::Services& exit, SystemRestore& restore,
            const os::SystemFacts& facts, const std::string& programFolder, WindowMaker makeWindow)
     : services_(services),
       restore_(restore),
       facts_(facts),
       makeWindow_(std::move(makeWindow)),
-      form_(services, facts, programFolder),
+      log_(services.files, services.clock, programFolder),
+      pictures_(services.pictures, services.files, log_),
+      form_(With(pictures_, services), facts, programFolder),
       exit_(facts, exit,
             {.window = [this] { return services_.window.handle(); },
              .showFormAgain = [this] { services_.window.activate(); },
@@ -24,7 +35,7 @@ Show::Show(const saver::ShowServices& services, const SaverExit::Services& exit,
                    for (const auto& cover : covers_) cover->window->close();
                  },
              .endProgram = [this] { services_.loop.quit(); }}) {
-  services_.loop.setErrorHandler([this](const std::exception&) { endWithoutAsking(); });
+  services_.loop.setErrorHandler([this](const std::exception& error) { endByError(error); });
   services_.window.onSessionEnd = [this] { endWithoutAsking(); };
 }
 
@@ -36,10 +47,12 @@ Show::~Show() {
 void Show::start() {
   try {
     form_.Form_Load();
-  } catch (const std::exception&) {
-    endWithoutAsking();
+  } catch (const std::exception& error) {
+    decideOnLog();
+    endByError(error);
     return;
   }
+  decideOnLog();
   watchInput();
   coverOtherScreens();
   if (screenIsAnother()) screenChanged();  // while it was loaded, with nobody to tell
@@ -122,6 +135,17 @@ void Show::mouseMoved(base::PixelPoint onScreen) {
   } else {
     watch_->Form_MouseMove(move);
   }
+}
+
+void Show::decideOnLog() {
+  const settings::SaverSettings& settings = form_.settings();
+  log_.decide(settings.record.log);
+  for (const std::string& key : settings.mended) log_.note("settings: no number, default used: " + key);
+}
+
+void Show::endByError(const std::exception& error) {
+  log_.note(std::string("the show ended by an error: ") + error.what());
+  endWithoutAsking();
 }
 
 void Show::endWithoutAsking() {

@@ -9,7 +9,9 @@
 
 #include "saver/form1.h"
 #include "startup/exit_saver.h"
+#include "startup/failure_log.h"
 #include "startup/input_watch.h"
+#include "startup/noting_pictures.h"
 #include "startup/system_restore.h"
 
 namespace startup {
@@ -44,12 +46,16 @@ class Show {
   void screenChanged();
   void mouseMoved(base::PixelPoint onScreen);
   std::optional<PointedControl> pointedControl(base::PixelPoint onScreen) const;
+  void decideOnLog();
+  void endByError(const std::exception& error);
   void endWithoutAsking();
 
   saver::ShowServices services_;
   SystemRestore& restore_;
   os::SystemFacts facts_;
   WindowMaker makeWindow_;
+  FailureLog log_;
+  NotingPictures pictures_;
   saver::Form1 form_;
   SaverExit exit_;
   std::optional<InputWatch> watch_;
