@@ -191,6 +191,9 @@ class Form2 : public forms::Form {
   // False after a loading that ended at a failure.
   bool loadedWell() const { return loadedWell_; }
 
+  // The settings file as the loading found it; empty when it found none.
+  const std::string& loadedFile() const { return loadedFile_; }
+
   const DialogServices& services() const { return services_; }
   const std::string& programFolder() const { return programFolder_; }
 
@@ -253,6 +256,7 @@ class Form2 : public forms::Form {
   DialogServices services_;
   std::string programFolder_;
   bool loadedWell_ = true;
+  std::string loadedFile_;
 };
 
 }  // namespace dialog

@@ -57,6 +57,7 @@ void Form2::loadSettings(settings::SettingsRecord& read) {
 
   const settings::IniDocument document =
       settings::OpenSettings(services_.files, services_.ansi, programFolder_);
+  loadedFile_ = document.serialise();
   for (const settings::Key& key : settings::ExtraKeys()) {
     read.*key.field = settings::ReadIniValue(document, key.section, key.name);
   }

@@ -46,15 +46,18 @@ const char* FaultOf(const Form2& form) {
 void WriteFile(const Form2& form) {
   os::Files& files = form.services().files;
   const std::string path = settings::IniPath(form.programFolder());
-  const std::optional<std::string> old = files.read(path);
+  const std::optional<std::string> found = files.read(path);
   // A file that is there and cannot be read keeps what it holds.
-  if (!old && files.exists(path)) return;
+  if (!found && files.exists(path)) return;
+  // One that has gone since it was loaded, perhaps for a moment only, comes back with its comments and all
+  // that this dialog knows nothing of.
+  const std::string& old = found ? *found : form.loadedFile();
   // What a failed loading did not read is not in the record and would be lost with the old file.
-  if (old && !form.loadedWell() &&
-      !files.replace(settings::InProgramFolder(form.programFolder(), "zbfaone.bak"), *old)) {
+  if (!old.empty() && !form.loadedWell() &&
+      !files.replace(settings::InProgramFolder(form.programFolder(), "zbfaone.bak"), old)) {
     return;
   }
-  settings::IniDocument document(old.value_or(std::string()), form.services().ansi);
+  settings::IniDocument document(old, form.services().ansi);
   settings::WriteSettings(document, form.record, form.List1.items(), form.photo_caption.items());
   files.replace(path, document.serialise());
 }

@@ -2,102 +2,138 @@
 #include <gtest/gtest.h>
 
 #include "dialog/save_settings.h"
+#include "support/faulty_files.h"
 #include "support/settings_dialog_machine.h"
 
 namespace dialog {
 namespace {
 
+using support::Fault;
+using support::FaultyFiles;
 using support::SettingsDialogMachine;
 
 constexpr char kSaveHint[] = "Settings cannot be saved in this folder.";
 
-// Files of which one call fails, the others work.
-class FailingFiles : public os::Files {
- public:
-  explicit FailingFiles(support::FakeFiles& files) : files_(files) {}
-
-  int failingCall = 0;  // counted from 1; 0 = none
-  int calls = 0;
-
-  std::optional<std::string> read(const std::string& path) override {
-    return fails() ? std::nullopt : files_.read(path);
-  }
-  bool replace(const std::string& path, std::string_view content) override {
-    return !fails() && files_.replace(path, content);
-  }
-  bool exists(const std::string& path) override { return !fails() && files_.exists(path); }
-  bool copy(const std::string& from, const std::string& to) override {
-    return !fails() && files_.copy(from, to);
-  }
-  bool canWriteIn(const std::string& folder) override { return !fails() && files_.canWriteIn(folder); }
-  std::vector<std::string> filesIn(const std::string& folder) override { return files_.filesIn(folder); }
-  std::string shortPath(const std::string& path) override { return files_.shortPath(path); }
-
- private:
-  bool fails() { return ++calls == failingCall; }
-
-  support::FakeFiles& files_;
-};
-
 struct SaveFaults : testing::Test {
   SettingsDialogMachine machine;
-  FailingFiles failing{machine.files};
+  FaultyFiles faulty{machine.files};
   std::unique_ptr<Form2> form;
 
   std::string& file() { return machine.files.content[machine.kIniPath]; }
   std::string& kept() { return machine.files.content[machine.kBakPath]; }
 
-  // Opens the dialog with every call working, then lets one call of the save fail. Returns the number of
-  // calls that the save made.
-  int saveWithFailure(int call) {
-    failing.failingCall = 0;
+  void open() {
     form = std::make_unique<Form2>(
-        DialogServices{failing, machine.ansi, machine.pictures, machine.dialogs, machine.windows},
+        DialogServices{faulty, machine.ansi, machine.pictures, machine.dialogs, machine.windows},
         machine.kProgramFolder);
+    machine.dialogs.messages.clear();
     machine.windows.show(*form);
+    EXPECT_EQ(machine.dialogs.messages.size(), form->loadedWell() ? 0U : 1U)
+        << "a failed loading is reported";
+  }
+
+  void changeAndSave() {
     if (form->List1.listCount() == 0) {
       form->List1.addItem("new.gif");
       form->photo_caption.addItem("");
     }
     form->photo_caption.setItem(0, "new");
     form->record.timeDisplay = "0";
-    failing.calls = 0;
-    failing.failingCall = call;
+    const std::size_t messages = machine.dialogs.messages.size();
     EXPECT_TRUE(SaveSettings(*form)) << "a failed write is not reported";
-    failing.failingCall = 0;
-    return failing.calls;
+    EXPECT_EQ(machine.dialogs.messages.size(), messages);
+  }
+
+  // Opens the dialog with every call working, then saves under the faults. Returns the number of calls that
+  // the save made.
+  int saveUnder(const std::map<int, Fault>& faults) {
+    faulty.faults.clear();
+    open();
+    faulty.calls = 0;
+    faulty.faults = faults;
+    changeAndSave();
+    return faulty.calls;
+  }
+
+  // The same with faults from the opening on, counted through.
+  int openAndSaveUnder(const std::map<int, Fault>& faults) {
+    faulty.calls = 0;
+    faulty.faults = faults;
+    open();
+    changeAndSave();
+    return faulty.calls;
   }
 };
 
-TEST_F(SaveFaults, WhicheverCallFailsTheFileHoldsTheOldOrTheNewSettings) {
+// Calls `look` with every set of one and of two faults among the first `calls` calls.
+template <typename Look>
+void ForEachFaults(int calls, const Look& look) {
+  for (int first = 1; first <= calls; ++first) {
+    for (const Fault fault : support::kAllFaults) {
+      look({{first, fault}});
+      for (int second = first + 1; second <= calls; ++second) {
+        for (const Fault other : support::kAllFaults) look({{first, fault}, {second, other}});
+      }
+    }
+  }
+}
+
+std::string Describe(const std::map<int, Fault>& faults) {
+  std::string text;
+  for (const auto& [call, fault] : faults) {
+    text += "call " + std::to_string(call) + " fault " + std::to_string(static_cast<int>(fault)) + "; ";
+  }
+  return text;
+}
+
+TEST_F(SaveFaults, WhicheverCallsFailTheFileHoldsTheOldOrTheNewSettings) {
+  machine.setPictures({{"a.gif", "old"}});
+  machine.writeSettings();
+  const std::string old = file() + "; a comment\r\n[extras]\r\nlivePreview=1\r\n";
+  file() = old;
+  const int calls = saveUnder({});
+  ASSERT_GE(calls, 2);
+  const std::string whole = file();
+  ASSERT_NE(whole, old);
+  int cases = 0;
+  ForEachFaults(calls + 2, [&](const std::map<int, Fault>& faults) {
+    ++cases;
+    file() = old;
+    saveUnder(faults);
+    EXPECT_TRUE(file() == old || file() == whole) << Describe(faults) << "\n" << file();
+  });
+  EXPECT_FALSE(machine.files.content.contains(machine.kBakPath));
+  EXPECT_GE(cases, 100);
+}
+
+TEST_F(SaveFaults, WhicheverCallsFailFromTheOpeningOnTheOldSettingsAreSomewhereOrTheNewOnesAreThere) {
   machine.setPictures({{"a.gif", "old"}});
   machine.writeSettings();
   const std::string old = file() + "; a comment\r\n";
   file() = old;
-  const int calls = saveWithFailure(0);
-  ASSERT_GE(calls, 2);
+  const int calls = openAndSaveUnder({});
   const std::string whole = file();
   ASSERT_NE(whole, old);
-  for (int call = 1; call <= calls; ++call) {
-    file() = old;
-    saveWithFailure(call);
-    EXPECT_TRUE(file() == old || file() == whole) << "call " << call << ":\n" << file();
-  }
-  EXPECT_FALSE(machine.files.content.contains(machine.kBakPath));
-}
-
-TEST_F(SaveFaults, WhicheverCallFailsTheOldFileOfAFailedLoadingIsStillSomewhere) {
-  const std::string old = "[images]\r\n0=precious.gif\r\n; no total\r\n";
-  file() = old;
-  const int calls = saveWithFailure(0);
-  EXPECT_EQ(kept(), old);
-  EXPECT_NE(file(), old);
-  for (int call = 1; call <= calls; ++call) {
+  ForEachFaults(calls + 2, [&](const std::map<int, Fault>& faults) {
     machine.files.content.clear();
     file() = old;
-    saveWithFailure(call);
-    EXPECT_TRUE(file() == old || kept() == old) << "call " << call;
-  }
+    openAndSaveUnder(faults);
+    EXPECT_TRUE(file() == old || file() == whole || kept() == old) << Describe(faults) << "\n" << file();
+  });
+}
+
+TEST_F(SaveFaults, WhicheverCallsFailTheOldFileOfAFailedLoadingIsStillSomewhere) {
+  const std::string old = "[images]\r\n0=precious.gif\r\n; no total\r\n";
+  file() = old;
+  const int calls = saveUnder({});
+  EXPECT_EQ(kept(), old);
+  EXPECT_NE(file(), old);
+  ForEachFaults(calls + 2, [&](const std::map<int, Fault>& faults) {
+    machine.files.content.clear();
+    file() = old;
+    saveUnder(faults);
+    EXPECT_TRUE(file() == old || kept() == old) << Describe(faults);
+  });
 }
 
 TEST_F(SaveFaults, AFolderThatCannotBeWrittenLeavesTheFileAndEndsTheDialogSilently) {
@@ -167,7 +203,7 @@ TEST_F(SaveFaults, AfterALoadingThatSucceededNoOldFileIsKept) {
 TEST_F(SaveFaults, AnOlderKeptFileGivesWay) {
   file() = "[total]\r\ntotal=none\r\n";
   kept() = "older";
-  saveWithFailure(0);
+  saveUnder({});
   EXPECT_EQ(kept(), "[total]\r\ntotal=none\r\n");
 }
 

@@ -74,6 +74,15 @@ TEST_F(FailureLogTest, NeverGrowsBeyondItsBoundAndKeepsWholeYoungLines) {
   EXPECT_TRUE(content().ends_with("x19299\r\n"));
 }
 
+TEST_F(FailureLogTest, AFileThatIsFarBeyondTheBoundIsCutToIt) {
+  std::string& file = files.content["C:\\Lumora\\lumora.log"];
+  while (file.size() < 5 * FailureLog::kMostBytes) file += "an old line\r\n";
+  log.decide("1");
+  log.note("new");
+  EXPECT_LE(content().size(), FailureLog::kMostBytes);
+  EXPECT_TRUE(content().ends_with(" new\r\n"));
+}
+
 TEST_F(FailureLogTest, ALineLargerThanTheBoundLeavesAnEmptyFileAndNoEndlessLoop) {
   log.decide("1");
   log.note(std::string(FailureLog::kMostBytes * 2, 'x'));
