@@ -86,10 +86,38 @@ prepare_wine() {
   touch "$WINEPREFIX/.lumora-ready"
 }
 
-# Stops the Wine server of our prefix and our own display.
+# Two program folders for the tests, $1 holding both: one on a full disk, one that may only be read. Mounting
+# needs root; without it the tests that want them are left out, which is said.
+make_hostile_folders() {
+  local folder=$1
+  mkdir -p "$folder/full" "$folder/readonly"
+  if ! { as_root mount -t tmpfs -o size=4m tmpfs "$folder/full" &&
+    as_root mount -t tmpfs -o size=4m tmpfs "$folder/readonly"; } 2>/dev/null; then
+    say "NOT TESTED: a full disk and a read-only folder (mounting is not permitted here)"
+    return 0
+  fi
+  hostile_folders=$folder
+  as_root cp -r "$root/out/Lumora/." "$folder/full"
+  as_root cp -r "$root/out/Lumora/." "$folder/readonly"
+  as_root dd if=/dev/zero of="$folder/full/filler" bs=4k >/dev/null 2>&1 || true  # until no room is left
+  as_root mount -o remount,ro "$folder/readonly"
+  LUMORA_FULL_FOLDER=$(winepath -w "$folder/full" 2>/dev/null | tr -d '\r')
+  LUMORA_READONLY_FOLDER=$(winepath -w "$folder/readonly" 2>/dev/null | tr -d '\r')
+  export LUMORA_FULL_FOLDER LUMORA_READONLY_FOLDER
+}
+
+remove_hostile_folders() {
+  [ -n "${hostile_folders:-}" ] || return 0
+  as_root umount "$hostile_folders/full" "$hostile_folders/readonly" || true
+  rmdir "$hostile_folders/full" "$hostile_folders/readonly" || true
+  hostile_folders=
+}
+
+# Stops the Wine server of our prefix and our own display, and takes the hostile folders away.
 stop_show_machine() {
   wineserver -k 2>/dev/null || true
   wineserver -w 2>/dev/null || true
+  remove_hostile_folders
   if [ -n "${xvfb_pid:-}" ]; then
     kill "$xvfb_pid" 2>/dev/null || true
     wait "$xvfb_pid" 2>/dev/null || true
