@@ -89,14 +89,17 @@ prepare_wine() {
 # Two program folders for the tests, $1 holding both: one on a full disk, one that may only be read. Mounting
 # needs root; without it the tests that want them are left out, which is said.
 make_hostile_folders() {
-  local folder=$1
+  local folder=$1 place
   mkdir -p "$folder/full" "$folder/readonly"
+  for place in full readonly; do  # what a killed run may have left
+    ! mountpoint -q "$folder/$place" || as_root umount "$folder/$place"
+  done
+  hostile_folders=$folder
   if ! { as_root mount -t tmpfs -o size=4m tmpfs "$folder/full" &&
     as_root mount -t tmpfs -o size=4m tmpfs "$folder/readonly"; } 2>/dev/null; then
     say "NOT TESTED: a full disk and a read-only folder (mounting is not permitted here)"
     return 0
   fi
-  hostile_folders=$folder
   as_root cp -r "$root/out/Lumora/." "$folder/full"
   as_root cp -r "$root/out/Lumora/." "$folder/readonly"
   as_root dd if=/dev/zero of="$folder/full/filler" bs=4k >/dev/null 2>&1 || true  # until no room is left
@@ -108,8 +111,11 @@ make_hostile_folders() {
 
 remove_hostile_folders() {
   [ -n "${hostile_folders:-}" ] || return 0
-  as_root umount "$hostile_folders/full" "$hostile_folders/readonly" || true
-  rmdir "$hostile_folders/full" "$hostile_folders/readonly" || true
+  local place
+  for place in full readonly; do
+    ! mountpoint -q "$hostile_folders/$place" || as_root umount "$hostile_folders/$place" || true
+  done
+  rmdir "$hostile_folders/full" "$hostile_folders/readonly" "$hostile_folders" || true
   hostile_folders=
 }
 

@@ -143,7 +143,7 @@ class Form1 : public forms::Form {
   FloatStep floatStep_;
   int loadReduction_ = 1;  // by which power of two LoadCurrentPicture divided the picture's size
   bool pictureShown_ = false;
-  bool changing_ = false;  // a change is under way: timers that tick in its waits must not start another
+  bool changing_ = false;       // a change is under way: timers that tick in its waits must not start another
   bool effectGivenUp_ = false;  // the screen changed under a change: what it drew is for another screen
   bool unloaded_ = false;
 };
