@@ -155,7 +155,7 @@ TEST_F(Preview, LivingItLooksOnlySeveralTimesASecond) {
 
 TEST_F(Preview, LivingItEndsWhenTheWindowHasGoneWithoutAWord) {
   loop.postAfter(2000, [this] { window.open = false; });
-  loop.postAfter(60'000, [this] { ADD_FAILURE() << "still alive"; });
+  loop.postAfter(60'000, [] { ADD_FAILURE() << "still alive"; });
   run("/p 4711", "1");
   EXPECT_EQ(calls().back(), "end");
   EXPECT_LE(clock.tickMs(), 1000 + 400 + 2000 + 2 * startup::kPreviewCheckMs);
