@@ -17,9 +17,8 @@ void Form2::EnableCustomImageControls(bool enabled) {
 }
 
 void Form2::EnableGradientControls(bool enabled) {
-  for (forms::Control* control :
-       std::initializer_list<forms::Control*>{&frameColorGradient, &redSlider, &greenSlider, &blueSlider,
-                                              &redLabel, &greenLabel, &blueLabel}) {
+  for (forms::Control* control : std::initializer_list<forms::Control*>{
+           &frameColorGradient, &redSlider, &greenSlider, &blueSlider, &redLabel, &greenLabel, &blueLabel}) {
     control->setEnabled(enabled);
   }
 }

@@ -33,7 +33,8 @@ void ForeignWindowWin::draw(std::intptr_t window, const base::Bitmap& picture) {
   base::CopyRect(source.view(), {0, 0}, picture, base::PixelRect::ofSize(picture.size()));
   const WindowDc target(HandleOf(window));
   BitBlt(target.get(), 0, 0, picture.size().width, picture.size().height, source.dc(), 0, 0, SRCCOPY);
-  // Reading back makes the system carry the drawing out now: the program may end at once, and its queue with it.
+  // Reading back makes the system carry the drawing out now: the program may end at once, and its queue with
+  // it.
   GetPixel(target.get(), 0, 0);
 }
 

@@ -21,6 +21,8 @@ std::string ProgramWin::path() const {
 
 std::string ProgramWin::folder() const { return FolderOf(path()); }
 
+void ProgramWin::enterFolder() const { SetCurrentDirectoryW(ToWide(folder()).c_str()); }
+
 std::string ProgramWin::commandLine() const { return FromWide(GetCommandLineW()); }
 
 }  // namespace os

@@ -10,6 +10,10 @@ class ProgramWin : public Program {
   std::string path() const override;
   std::string folder() const override;
   std::string commandLine() const override;
+
+  // Makes its folder the current one: a file name without a folder then never means a file that lies where
+  // the program happened to be started.
+  void enterFolder() const;
 };
 
 }  // namespace os

@@ -120,7 +120,10 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
   std::unique_ptr<dialog::SettingsDialogWin> settings;
   const startup::RunModes modes{
       .showSaver =
-          [&](const os::SystemFacts& facts) { saver = std::make_unique<SaverMode>(machine, restore, facts); },
+          [&](const os::SystemFacts& facts) {
+            machine.program.enterFolder();
+            saver = std::make_unique<SaverMode>(machine, restore, facts);
+          },
       .showDialog =
           [&] {
             settings = std::make_unique<dialog::SettingsDialogWin>(

@@ -139,6 +139,20 @@ TEST(Hardening, NorByTheChangeOfThePassword) {
   EXPECT_EQ(Loaded(folder), "");
 }
 
+TEST(Hardening, APictureListedWithoutItsFolderLiesBesideTheProgram) {
+  e2e::ProgramFolder decoy;
+  decoy.writeBitmap("bare.bmp", {600, 400}, base::Rgb(0, 255, 0));
+  e2e::ProgramFolder folder;
+  folder.writeBitmap("bare.bmp", {600, 400}, base::Rgb(0, 0, 255));
+  folder.set("images/0", "bare.bmp");
+  folder.set("total/total", "1");
+  folder.writeSettings();
+  e2e::RunningProgram show(folder.program(), L"/S", decoy.path());
+  ASSERT_NE(show.waitForShow(), nullptr);
+  EXPECT_TRUE(e2e::WaitFor([] { return !e2e::BoundsOf(e2e::ReadScreen(), kBlue).isEmpty(); }));
+  EXPECT_TRUE(show.endsByKey());
+}
+
 TEST(Hardening, NothingIsTakenFromTheCurrentFolder) {
   e2e::ProgramFolder decoy;
   decoy.set("background/newBackColor", "65280");
