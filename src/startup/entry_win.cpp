@@ -15,6 +15,7 @@
 #include "os/files_win.h"
 #include "os/foreign_window_win.h"
 #include "os/instance_win.h"
+#include "os/library_search_win.h"
 #include "os/passwords_win.h"
 #include "os/picture_decoder_win.h"
 #include "os/picture_loader.h"
@@ -111,8 +112,7 @@ void DrawPreview(Machine& machine, const std::string& commandText) {
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
-  // Libraries that are loaded by name come from the system's folder alone.
-  SetDefaultDllDirectories(LOAD_LIBRARY_SEARCH_SYSTEM32);
+  os::LoadLibrariesFromSystemFolderOnly();
   Machine machine(instance);
   startup::SystemRestore restore(machine.taskbar, machine.cursor, machine.flags);
   const startup::CrashGuard guard(restore);
