@@ -1,15 +1,18 @@
-// Paints the pictures that come with the program: the two samples, its icon, the little preview.
+// Paints the pictures that come with the program: the two samples, its icon, the little preview, those of the
+// installer.
 //   make_sample_pictures [folder of the sources, else this one]
 // The same pictures come out in every run.
 #include <cstdio>
 #include <fstream>
 #include <string>
 
+#include "pictures/bmp_writer.h"
 #include "pictures/dusk_landscape.h"
 #include "pictures/gif_writer.h"
 #include "pictures/icon.h"
 #include "pictures/night_sky.h"
 #include "pictures/preview.h"
+#include "pictures/setup_pictures.h"
 
 namespace {
 
@@ -56,6 +59,8 @@ int main(int argc, char** argv) {
       Write(root + "/assets/lumora.ico", pictures::IconFile({16, 20, 24, 32, 40, 48, 64, 96, 128, 256})) &&
       Write(root + "/src/startup/preview_image_data.cpp", AsSource(preview)) &&
       Write(root + "/assets/image1.gif", Sample(pictures::DuskLandscape())) &&
-      Write(root + "/assets/image2.gif", Sample(pictures::NightSky()));
+      Write(root + "/assets/image2.gif", Sample(pictures::NightSky())) &&
+      Write(root + "/packaging/pictures/side.bmp", pictures::BmpFile(pictures::SetupSidePicture())) &&
+      Write(root + "/packaging/pictures/head.bmp", pictures::BmpFile(pictures::SetupHeadPicture()));
   return done ? 0 : 1;
 }
