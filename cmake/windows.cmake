@@ -6,12 +6,13 @@ set(system_libraries gdi32 user32 kernel32 advapi32 shell32 ole32 oleaut32 windo
 target_compile_definitions(lumora_flags INTERFACE UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX
                            _WIN32_WINNT=0x0A00 WINVER=0x0A00)
 target_compile_options(lumora_flags INTERFACE ${hardening})
-target_link_options(lumora_flags INTERFACE ${hardening})
+target_link_options(lumora_flags INTERFACE ${hardening} -Wl,--no-insert-timestamp)
 
 add_library(lumora_win STATIC ${windows_sources})
 target_link_libraries(lumora_win PUBLIC lumora_core ${system_libraries})
 
-add_executable(Lumora WIN32 src/startup/entry_win.cpp)
+add_executable(Lumora WIN32 src/startup/entry_win.cpp ${version_source})
+target_compile_definitions(Lumora PRIVATE "LUMORA_VERSION=\"${product_version}\"")
 enable_language(RC)
 configure_file(src/startup/lumora.rc.in ${CMAKE_BINARY_DIR}/lumora.rc @ONLY)
 target_sources(Lumora PRIVATE ${CMAKE_BINARY_DIR}/lumora.rc)
@@ -19,9 +20,19 @@ set_source_files_properties(${CMAKE_BINARY_DIR}/lumora.rc PROPERTIES OBJECT_DEPE
   "${CMAKE_SOURCE_DIR}/assets/lumora.ico;${CMAKE_SOURCE_DIR}/src/startup/lumora.manifest")
 set_target_properties(Lumora PROPERTIES SUFFIX ".scr")
 target_link_libraries(Lumora PRIVATE lumora_win)
-target_link_options(Lumora PRIVATE -municode -static -s -Wl,--gc-sections
-                    -Wl,--dynamicbase -Wl,--nxcompat -Wl,--high-entropy-va)
+set(program_link_options -municode -static -s -Wl,--gc-sections -Wl,--dynamicbase -Wl,--nxcompat)
+if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+  list(APPEND program_link_options -Wl,--high-entropy-va)
+endif()
+target_link_options(Lumora PRIVATE ${program_link_options})
 target_compile_options(lumora_flags INTERFACE -ffunction-sections -fdata-sections)
+
+# What the Start menu's entry of an installed Lumora runs.
+add_executable(LumoraSettings WIN32 src/startup/settings_entry_win.cpp src/startup/settings_entry.rc)
+set_source_files_properties(src/startup/settings_entry.rc PROPERTIES OBJECT_DEPENDS
+  "${CMAKE_SOURCE_DIR}/src/startup/lumora.manifest")
+target_link_libraries(LumoraSettings PRIVATE lumora_flags user32 kernel32)
+target_link_options(LumoraSettings PRIVATE ${program_link_options})
 
 if(LUMORA_TESTS)
   add_library(lumora_win_support STATIC EXCLUDE_FROM_ALL ${windows_support_sources})
@@ -51,4 +62,10 @@ if(LUMORA_TESTS)
   target_link_libraries(lumora_e2e PRIVATE lumora_win_support gtest ntdll)
   target_link_options(lumora_e2e PRIVATE -static)
   add_dependencies(lumora_e2e password_stand_in marking_stand_in)
+
+  file(GLOB package_test_sources CONFIGURE_DEPENDS tests/package/*.cpp)
+  add_executable(lumora_package_tests ${package_test_sources} tests/e2e/dialog_hands.cpp
+                 tests/e2e/running_program.cpp)
+  target_link_libraries(lumora_package_tests PRIVATE lumora_win_support gtest version)
+  target_link_options(lumora_package_tests PRIVATE -static)
 endif()

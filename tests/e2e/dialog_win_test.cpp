@@ -2,57 +2,16 @@
 
 #include <string>
 
+#include "e2e/dialog_hands.h"
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
 #include "os/utf16_win.h"
 
 namespace {
 
-// The visible child window of a class with a text, wherever it lies inside.
-struct Wanted {
-  const wchar_t* className;
-  const wchar_t* text;
-  HWND found = nullptr;
-};
-
-BOOL CALLBACK LookAt(HWND window, LPARAM parameter) {
-  auto* wanted = reinterpret_cast<Wanted*>(parameter);
-  wchar_t className[64] = {};
-  wchar_t text[256] = {};
-  GetClassNameW(window, className, 64);
-  SendMessageW(window, WM_GETTEXT, 256, reinterpret_cast<LPARAM>(text));
-  if (!IsWindowVisible(window) || std::wstring(className) != wanted->className ||
-      std::wstring(text) != wanted->text) {
-    return TRUE;
-  }
-  wanted->found = window;
-  return FALSE;
-}
-
-HWND ChildOf(HWND parent, const wchar_t* className, const wchar_t* text) {
-  Wanted wanted{className, text};
-  EnumChildWindows(parent, LookAt, reinterpret_cast<LPARAM>(&wanted));
-  return wanted.found;
-}
-
-HWND DialogOf(const e2e::RunningProgram& program) {
-  HWND window = nullptr;
-  e2e::WaitFor([&] {
-    window = FindWindowW(nullptr, L" Lumora Screen Saver");
-    DWORD owner = 0;
-    if (window) GetWindowThreadProcessId(window, &owner);
-    if (owner != program.processId() || !IsWindowVisible(window)) window = nullptr;
-    return window != nullptr;
-  });
-  return window;
-}
-
-void ClickOn(HWND window) {
-  RECT place;
-  GetWindowRect(window, &place);
-  e2e::MoveMouseTo((place.left + place.right) / 2, (place.top + place.bottom) / 2);
-  e2e::ClickMouse();
-}
+using e2e::ChildOf;
+using e2e::ClickOn;
+using e2e::DialogOf;
 
 // Types text as a keyboard would, whatever its letters.
 void Type(const std::wstring& text) {

@@ -1,0 +1,67 @@
+#include "e2e/dialog_hands.h"
+
+namespace e2e {
+
+namespace {
+
+struct Wanted {
+  const wchar_t* className;
+  const wchar_t* text;
+  HWND found = nullptr;
+};
+
+BOOL CALLBACK LookAt(HWND window, LPARAM parameter) {
+  auto* wanted = reinterpret_cast<Wanted*>(parameter);
+  wchar_t className[64] = {};
+  wchar_t text[256] = {};
+  GetClassNameW(window, className, 64);
+  SendMessageW(window, WM_GETTEXT, 256, reinterpret_cast<LPARAM>(text));
+  if (!IsWindowVisible(window) || std::wstring(className) != wanted->className ||
+      std::wstring(text) != wanted->text) {
+    return TRUE;
+  }
+  wanted->found = window;
+  return FALSE;
+}
+
+// The dialog's window when it is there; of one process unless `processId` is 0.
+HWND FindDialog(DWORD processId) {
+  const HWND window = FindWindowW(nullptr, L" Lumora Screen Saver");
+  DWORD owner = 0;
+  if (window) GetWindowThreadProcessId(window, &owner);
+  const bool wanted = window && IsWindowVisible(window) && (processId == 0 || owner == processId);
+  return wanted ? window : nullptr;
+}
+
+HWND WaitForDialog(DWORD processId) {
+  HWND window = nullptr;
+  WaitFor([&] { return (window = FindDialog(processId)) != nullptr; });
+  return window;
+}
+
+}  // namespace
+
+HWND ChildOf(HWND parent, const wchar_t* className, const wchar_t* text) {
+  Wanted wanted{className, text};
+  EnumChildWindows(parent, LookAt, reinterpret_cast<LPARAM>(&wanted));
+  return wanted.found;
+}
+
+HWND DialogOf(const RunningProgram& program) { return WaitForDialog(program.processId()); }
+
+HWND AnyDialog() { return WaitForDialog(0); }
+
+HWND WaitForChild(HWND parent, const wchar_t* className, const wchar_t* text) {
+  HWND child = nullptr;
+  WaitFor([&] { return (child = ChildOf(parent, className, text)) != nullptr; });
+  return child;
+}
+
+void ClickOn(HWND window) {
+  RECT place;
+  GetWindowRect(window, &place);
+  MoveMouseTo((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+  ClickMouse();
+}
+
+}  // namespace e2e

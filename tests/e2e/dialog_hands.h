@@ -1,0 +1,25 @@
+// A person in front of the built program's settings dialog.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "e2e/running_program.h"
+
+namespace e2e {
+
+// The visible window inside another one with a class and a text, wherever it lies; null when there is none.
+HWND ChildOf(HWND parent, const wchar_t* className, const wchar_t* text);
+
+// Waits for a program's settings dialog, or for anybody's; null when it does not come.
+HWND DialogOf(const RunningProgram& program);
+HWND AnyDialog();
+
+// Waits for such a window inside another one; null when it does not come.
+HWND WaitForChild(HWND parent, const wchar_t* className, const wchar_t* text);
+
+// Clicks the middle of a window.
+void ClickOn(HWND window);
+
+}  // namespace e2e

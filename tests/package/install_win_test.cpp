@@ -1,0 +1,130 @@
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include "e2e/dialog_hands.h"
+#include "e2e/running_program.h"
+#include "package/files.h"
+#include "package/installation.h"
+#include "package/packages.h"
+#include "package/user_registry.h"
+
+namespace {
+
+using package::Difference;
+using package::Exists;
+using package::kAppKey;
+using package::packages;
+using package::ReadNumber;
+using package::ReadText;
+
+class Install : public package::Installation {};
+
+std::wstring StartMenuEntry() {
+  return package::ProfileFolder() +
+         L"\\AppData\\Roaming\\Microsoft\\Windows\\Start Menu\\Programs\\Lumora Screen Saver Settings.lnk";
+}
+
+TEST_F(Install, LeavesNothingBehindWhenItIsUndoneWithItsSettings) {
+  const package::UserState before = package::ReadUserState();
+  ASSERT_TRUE(install(packages.setup));
+  EXPECT_NE(Difference(before, package::ReadUserState()), "");
+  ASSERT_TRUE(uninstall(L"/SETTINGS=remove"));
+  std::string difference;
+  e2e::WaitFor([&] { return (difference = Difference(before, package::ReadUserState())).empty(); });
+  EXPECT_EQ(difference, "");
+}
+
+TEST_F(Install, KeepsNothingButTheSettingsFileWhenItIsUndoneInSilence) {
+  ASSERT_TRUE(install(packages.setup));
+  package::WriteWholeFile(settingsFile(), "[image]\r\npicSpeed=4\r\n");
+  ASSERT_TRUE(uninstall());
+  EXPECT_EQ(package::ReadWholeFile(settingsFile()), "[image]\r\npicSpeed=4\r\n");
+  package::RemoveFile(settingsFile());
+  package::RemoveFolder(folder());
+  EXPECT_FALSE(Exists(folder()));
+}
+
+TEST_F(Install, FindsTheSettingsOfALumoraThatWasThereBefore) {
+  ASSERT_TRUE(install(packages.setup));
+  package::WriteWholeFile(settingsFile(), "[image]\r\npicSpeed=4\r\n");
+  ASSERT_TRUE(uninstall());
+  ASSERT_TRUE(install(packages.setup));
+  EXPECT_EQ(package::ReadWholeFile(settingsFile()), "[image]\r\npicSpeed=4\r\n");
+}
+
+TEST_F(Install, PutsAnEntryIntoTheListOfApps) {
+  ASSERT_TRUE(install(packages.setup));
+  EXPECT_EQ(ReadText(kAppKey, L"DisplayName"), L"Lumora Screen Saver");
+  EXPECT_EQ(ReadText(kAppKey, L"DisplayVersion"), packages.version);
+  EXPECT_EQ(ReadText(kAppKey, L"Publisher"), L"The Lumora founders");
+  EXPECT_EQ(ReadText(kAppKey, L"DisplayIcon"), program() + L",0");
+  EXPECT_EQ(ReadText(kAppKey, L"InstallLocation"), proposedFolder());
+  EXPECT_EQ(ReadText(kAppKey, L"UninstallString"), L"\"" + folder() + L"\\uninstall.exe\"");
+  EXPECT_EQ(ReadText(kAppKey, L"QuietUninstallString"), L"\"" + folder() + L"\\uninstall.exe\" /S");
+  EXPECT_EQ(ReadNumber(kAppKey, L"NoModify"), 1U);
+  EXPECT_EQ(ReadNumber(kAppKey, L"NoRepair"), 1U);
+  EXPECT_GT(ReadNumber(kAppKey, L"EstimatedSize").value_or(0), 2000U);
+  EXPECT_LT(ReadNumber(kAppKey, L"EstimatedSize").value_or(0), 6000U);
+  EXPECT_EQ(versionOf(program()), packages.version);
+}
+
+TEST_F(Install, TheStartMenusEntryOpensTheSettings) {
+  ASSERT_TRUE(install(packages.setup));
+  ASSERT_TRUE(Exists(StartMenuEntry()));
+  ASSERT_GT(reinterpret_cast<INT_PTR>(
+                ShellExecuteW(nullptr, nullptr, StartMenuEntry().c_str(), nullptr, nullptr, SW_SHOWNORMAL)),
+            32);
+  const HWND dialog = e2e::AnyDialog();
+  ASSERT_NE(dialog, nullptr);
+  DWORD processId = 0;
+  GetWindowThreadProcessId(dialog, &processId);
+  const HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, processId);
+  const HWND cancel = e2e::WaitForChild(dialog, L"Button", L"&Cancel");
+  ASSERT_NE(cancel, nullptr);
+  e2e::ClickOn(cancel);
+  EXPECT_EQ(WaitForSingleObject(process, 15000), WAIT_OBJECT_0);
+  CloseHandle(process);
+}
+
+TEST_F(Install, TheShowRunsOnTheSamplesAndEndsByAKey) {
+  ASSERT_TRUE(install(packages.setup));
+  e2e::RunningProgram show(screenSaver().value_or(L""), L"/s");
+  ASSERT_NE(show.waitForShow(), nullptr);
+  EXPECT_TRUE(show.endsByKey());
+  EXPECT_EQ(show.exitCode(), 0U);
+  EXPECT_NE(package::ReadWholeFile(settingsFile()).find("0=" + std::string("C:\\users")), std::string::npos)
+      << "the first start puts the samples into the list";
+}
+
+TEST_F(Install, GoesIntoAnotherFolderWhenItIsTold) {
+  const std::wstring other =
+      package::ProfileFolder() + L"\\Eigene Bilder \u0444\u043E\u0442\u043E \u5199\u771F";
+  const package::UserState before = package::ReadUserState();
+  ASSERT_TRUE(install(packages.setup, L"/D=" + other));
+  EXPECT_EQ(folder(), other);
+  EXPECT_FALSE(Exists(proposedFolder()));
+  // With blanks the setting is the short form of the path; it starts the same program.
+  const std::wstring saver = screenSaver().value_or(L"");
+  EXPECT_EQ(saver.find(L' '), std::wstring::npos);
+  e2e::RunningProgram show(saver, L"/s");
+  ASSERT_NE(show.waitForShow(), nullptr);
+  EXPECT_TRUE(show.endsByKey());
+  ASSERT_TRUE(uninstall(L"/SETTINGS=remove"));
+  std::string difference;
+  e2e::WaitFor([&] { return (difference = Difference(before, package::ReadUserState())).empty(); });
+  EXPECT_EQ(difference, "");
+}
+
+TEST_F(Install, NeverRemovesWhatItDidNotBring) {
+  ASSERT_TRUE(install(packages.setup));
+  package::WriteWholeFile(folder() + L"\\holiday.jpg", "mine");
+  package::WriteWholeFile(folder() + L"\\image2.gif", "mine too");
+  ASSERT_TRUE(uninstall(L"/SETTINGS=remove"));
+  EXPECT_EQ(package::ReadWholeFile(folder() + L"\\holiday.jpg"), "mine");
+  EXPECT_EQ(package::ReadWholeFile(folder() + L"\\image2.gif"), "mine too");
+  EXPECT_FALSE(Exists(folder() + L"\\image1.gif"));
+  EXPECT_FALSE(Exists(program()));
+}
+
+}  // namespace
