@@ -24,8 +24,13 @@ need_packages() {
 
 build_packages=(cmake ninja-build g++ googletest libgtest-dev zlib1g-dev)
 windows_packages=(g++-mingw-w64-x86-64-posix)
+windows_x86_packages=(g++-mingw-w64-i686-posix)
+packing_packages=(nsis zip unzip)
 show_packages=(wine wine64 xvfb xauth xdotool imagemagick x11-utils x11-apps
   x11-xserver-utils fonts-liberation)
+
+# More options for setting up a build.
+configure_options=()
 
 # $1: preset; the rest: targets (none = all).
 build_preset() {
@@ -33,25 +38,25 @@ build_preset() {
   shift
   local log="$root/out/build-$preset.log"
   mkdir -p "$root/out"
-  if ! { cmake --preset "$preset" && cmake --build --preset "$preset" ${1:+--target "$@"}; } >"$log" 2>&1; then
+  if ! { cmake --preset "$preset" "${configure_options[@]}" && cmake --build --preset "$preset" ${1:+--target "$@"}; } >"$log" 2>&1; then
     tail -n 60 "$log" >&2
     say "the build of '$preset' failed; all of its output: $log"
     return 1
   fi
 }
 
-# The program folder, ready to run from anywhere.
+# The program folder, ready to run from anywhere. $1: build folder, $2: where; without them out/Lumora.
 lay_program_folder() {
-  local folder="$root/out/Lumora"
+  local build=${1:-$root/build-windows} folder=${2:-$root/out/Lumora}
   mkdir -p "$folder"
-  cp "$root/build-windows/Lumora.scr" "$folder/Lumora.scr"
+  cp "$build/Lumora.scr" "$folder/Lumora.scr"
   cp "$root/assets/zbfaone.ini" "$root/assets/image1.gif" "$root/assets/image2.gif" "$folder/"
-  [ -f "$root/assets/lumoraHelp.htm" ] && cp "$root/assets/lumoraHelp.htm" "$folder/"
-  return 0
+  cp "$root/assets/lumoraHelp.htm" "$folder/"
 }
 
 export WINEDEBUG=-all
-export WINEDLLOVERRIDES="mscoree=;mshtml="
+# No web engines, and no entries in the menus of whoever runs the tests.
+export WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=d"
 export WINEPREFIX="${LUMORA_WINEPREFIX:-$root/.wine}"
 
 # A display of our own, whose screen can be made smaller. $1: WIDTHxHEIGHT. Sets DISPLAY and xvfb_pid.

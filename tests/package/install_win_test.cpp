@@ -20,9 +20,21 @@ using package::ReadText;
 
 class Install : public package::Installation {};
 
-std::wstring StartMenuEntry() {
-  return package::ProfileFolder() +
-         L"\\AppData\\Roaming\\Microsoft\\Windows\\Start Menu\\Programs\\Lumora Screen Saver Settings.lnk";
+// Starts an entry of the Start menu as the shell does; false when it is not there.
+bool StartEntry(const std::wstring& name) {
+  const std::wstring entry = package::ProfileFolder() +
+                             L"\\AppData\\Roaming\\Microsoft\\Windows\\Start Menu\\Programs\\" + name +
+                             L".lnk";
+  constexpr INT_PTR kLargestError = 32;
+  return Exists(entry) && reinterpret_cast<INT_PTR>(ShellExecuteW(nullptr, nullptr, entry.c_str(), nullptr,
+                                                                  nullptr, SW_SHOWNORMAL)) > kLargestError;
+}
+
+// The process of a window, to be waited for.
+HANDLE ProcessOf(HWND window) {
+  DWORD processId = 0;
+  GetWindowThreadProcessId(window, &processId);
+  return OpenProcess(SYNCHRONIZE, FALSE, processId);
 }
 
 TEST_F(Install, LeavesNothingBehindWhenItIsUndoneWithItsSettings) {
@@ -69,21 +81,31 @@ TEST_F(Install, PutsAnEntryIntoTheListOfApps) {
   EXPECT_EQ(versionOf(program()), packages.version);
 }
 
-TEST_F(Install, TheStartMenusEntryOpensTheSettings) {
+TEST_F(Install, TheStartMenuOpensTheSettings) {
   ASSERT_TRUE(install(packages.setup));
-  ASSERT_TRUE(Exists(StartMenuEntry()));
-  ASSERT_GT(reinterpret_cast<INT_PTR>(
-                ShellExecuteW(nullptr, nullptr, StartMenuEntry().c_str(), nullptr, nullptr, SW_SHOWNORMAL)),
-            32);
+  ASSERT_TRUE(StartEntry(L"Lumora Screen Saver Settings"));
   const HWND dialog = e2e::AnyDialog();
   ASSERT_NE(dialog, nullptr);
-  DWORD processId = 0;
-  GetWindowThreadProcessId(dialog, &processId);
-  const HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, processId);
+  const HANDLE process = ProcessOf(dialog);
   const HWND cancel = e2e::WaitForChild(dialog, L"Button", L"&Cancel");
   ASSERT_NE(cancel, nullptr);
   e2e::ClickOn(cancel);
   EXPECT_EQ(WaitForSingleObject(process, 15000), WAIT_OBJECT_0);
+  CloseHandle(process);
+}
+
+TEST_F(Install, TheStartMenuShowsThePictures) {
+  ASSERT_TRUE(install(packages.setup));
+  ASSERT_TRUE(StartEntry(L"Lumora Screen Saver"));
+  HWND show = nullptr;
+  ASSERT_TRUE(e2e::WaitFor([&] {
+    return (show = FindWindowW(L"WindowsScreenSaverClass", nullptr)) != nullptr && IsWindowVisible(show);
+  }));
+  const HANDLE process = ProcessOf(show);
+  EXPECT_TRUE(e2e::WaitFor([&] {
+    e2e::PressKey(VK_SPACE);
+    return WaitForSingleObject(process, 200) == WAIT_OBJECT_0;
+  }));
   CloseHandle(process);
 }
 

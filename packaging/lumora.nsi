@@ -1,0 +1,158 @@
+# The installer: for one user, without administrator's rights, into a folder where the settings can be written.
+# ./package runs it with
+#   -DVERSION=1.2.3     the product's version
+#   -DFOLDER=path       the program folder, with the times that its files are to have
+#   -DLAUNCHER=path     the program that opens the settings from the Start menu
+#   -DOUTPUT=path       the installer to write
+# What each switch does stands in docs/packages.md.
+Unicode true
+Target amd64-unicode
+SetCompressor /SOLID lzma
+
+!include MUI2.nsh
+!include FileFunc.nsh
+!include LogicLib.nsh
+
+!define PRODUCT "Lumora Screen Saver"
+!define PROGRAM "Lumora.scr"
+!define SETTINGS "zbfaone.ini"
+!define LAUNCHER_NAME "LumoraSettings.exe"
+!define SHOW_ENTRY "$SMPROGRAMS\${PRODUCT}.lnk"
+!define SETTINGS_ENTRY "$SMPROGRAMS\${PRODUCT} Settings.lnk"
+# The entry in the system's list of apps; it also keeps what the uninstaller has to know.
+!define APP_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Lumora"
+
+Name "${PRODUCT}"
+OutFile "${OUTPUT}"
+BrandingText "${PRODUCT} ${VERSION}"
+RequestExecutionLevel user
+ManifestSupportedOS all
+ManifestDPIAware true
+InstallDir "$LOCALAPPDATA\Programs\Lumora"
+InstallDirRegKey HKCU "${APP_KEY}" "InstallLocation"
+ShowInstDetails nevershow
+ShowUninstDetails nevershow
+
+VIProductVersion "${VERSION}.0"
+VIAddVersionKey /LANG=1033 "CompanyName" "The Lumora founders"
+VIAddVersionKey /LANG=1033 "FileDescription" "${PRODUCT} Setup"
+VIAddVersionKey /LANG=1033 "FileVersion" "${VERSION}"
+VIAddVersionKey /LANG=1033 "LegalCopyright" "The Lumora founders"
+VIAddVersionKey /LANG=1033 "ProductName" "${PRODUCT}"
+VIAddVersionKey /LANG=1033 "ProductVersion" "${VERSION}"
+
+# "yes" when a Lumora was there before; "yes", "no" or nothing as the switch /SAVER= says.
+Var upgrade
+Var saverSwitch
+
+!include "screen_saver_setting.nsh"
+!include "running_program.nsh"
+!include "sample_pictures.nsh"
+!include "setup_pages.nsh"
+
+Function .onInit
+  ReadRegStr $0 HKCU "${APP_KEY}" "UninstallString"
+  ${If} $0 != ""
+    StrCpy $upgrade yes
+  ${EndIf}
+  ${GetParameters} $0
+  ClearErrors
+  ${GetOptions} $0 "/SAVER=" $saverSwitch
+  ${If} ${Errors}
+    StrCpy $saverSwitch ""
+  ${EndIf}
+FunctionEnd
+
+# A Lumora in another folder gives way to this one; its settings stay where they are.
+Function RemoveFromOtherFolder
+  ReadRegStr $0 HKCU "${APP_KEY}" "InstallLocation"
+  ${If} $0 != ""
+  ${AndIf} $0 != $INSTDIR
+  ${AndIf} ${FileExists} "$0\uninstall.exe"
+    ExecWait '"$0\uninstall.exe" /S _?=$0'
+    Delete "$0\uninstall.exe"
+    RMDir "$0"
+  ${EndIf}
+FunctionEnd
+
+Section "Lumora" main_section
+  Call CloseProgram
+  Call RemoveFromOtherFolder
+  SetOutPath "$INSTDIR"
+  File "${FOLDER}/${PROGRAM}"
+  File "${FOLDER}/lumoraHelp.htm"
+  File "/oname=${LAUNCHER_NAME}" "${LAUNCHER}"
+  # The settings are the user's from the first start on.
+  SetOverwrite off
+  File "${FOLDER}/${SETTINGS}"
+  SetOverwrite on
+  !insertmacro INSTALL_SAMPLE "image1.gif"
+  !insertmacro INSTALL_SAMPLE "image2.gif"
+  WriteUninstaller "$INSTDIR\uninstall.exe"
+
+  # The dialog starts where the pictures are.
+  SetOutPath "$PICTURES"
+  CreateShortCut "${SHOW_ENTRY}" "$INSTDIR\${PROGRAM}" "/S" "" 0 SW_SHOWNORMAL "" "Shows your pictures now"
+  CreateShortCut "${SETTINGS_ENTRY}" "$INSTDIR\${LAUNCHER_NAME}" "" "$INSTDIR\${PROGRAM}" 0 SW_SHOWNORMAL "" \
+    "Choose your pictures and how they are shown"
+
+  WriteRegStr HKCU "${APP_KEY}" "DisplayName" "${PRODUCT}"
+  WriteRegStr HKCU "${APP_KEY}" "DisplayVersion" "${VERSION}"
+  WriteRegStr HKCU "${APP_KEY}" "Publisher" "The Lumora founders"
+  WriteRegStr HKCU "${APP_KEY}" "DisplayIcon" "$INSTDIR\${PROGRAM},0"
+  WriteRegStr HKCU "${APP_KEY}" "InstallLocation" "$INSTDIR"
+  WriteRegStr HKCU "${APP_KEY}" "UninstallString" '"$INSTDIR\uninstall.exe"'
+  WriteRegStr HKCU "${APP_KEY}" "QuietUninstallString" '"$INSTDIR\uninstall.exe" /S'
+  WriteRegDWORD HKCU "${APP_KEY}" "NoModify" 1
+  WriteRegDWORD HKCU "${APP_KEY}" "NoRepair" 1
+  SectionGetSize ${main_section} $0
+  WriteRegDWORD HKCU "${APP_KEY}" "EstimatedSize" $0
+
+  # Nobody is asked in silence: a first installation is to be used, an upgrade leaves the user's choice.
+  ${If} ${Silent}
+    ${If} $saverSwitch == "yes"
+      Call UseAsScreenSaver
+    ${ElseIf} $saverSwitch != "no"
+    ${AndIf} $upgrade != "yes"
+      Call UseAsScreenSaver
+    ${EndIf}
+  ${EndIf}
+SectionEnd
+
+# Removes exactly what the installer brought.
+Section "Uninstall"
+  Call un.CloseProgram
+  Call un.RestoreScreenSaver
+
+  ${GetParameters} $0
+  ClearErrors
+  ${GetOptions} $0 "/SETTINGS=" $1
+  ${If} ${Errors}
+    StrCpy $1 keep
+    ${If} ${FileExists} "$INSTDIR\${SETTINGS}"
+      MessageBox MB_YESNO|MB_ICONQUESTION \
+        "Keep your list of pictures and your other settings, for a later installation?" /SD IDYES IDYES keep
+      StrCpy $1 remove
+      keep:
+    ${EndIf}
+  ${EndIf}
+  ${If} $1 == "remove"
+    Delete "$INSTDIR\${SETTINGS}"
+  ${EndIf}
+
+  !insertmacro REMOVE_SAMPLE "image1.gif"
+  !insertmacro REMOVE_SAMPLE "image2.gif"
+  Delete "$INSTDIR\${PROGRAM}"
+  Delete "$INSTDIR\lumoraHelp.htm"
+  Delete "$INSTDIR\${LAUNCHER_NAME}"
+  Delete "$INSTDIR\uninstall.exe"
+  Delete "${SHOW_ENTRY}"
+  Delete "${SETTINGS_ENTRY}"
+  DeleteRegKey HKCU "${APP_KEY}"
+  # Folders go only when they are empty.
+  SetOutPath "$TEMP"
+  RMDir "$INSTDIR"
+  ${If} $INSTDIR == "$LOCALAPPDATA\Programs\Lumora"
+    RMDir "$LOCALAPPDATA\Programs"
+  ${EndIf}
+SectionEnd

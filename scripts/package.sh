@@ -1,0 +1,60 @@
+# How the packages are made: the program folders, the ZIPs, the installer, the lists of what the programs import.
+# Sourced behind lib.sh.
+
+# All files of the packages carry one time, that of the commit, so that the same commit makes the same packages.
+export SOURCE_DATE_EPOCH="${SOURCE_DATE_EPOCH:-$(git log -1 --format=%ct 2>/dev/null || stat -c %Y CMakeLists.txt)}"
+
+# The version that a build folder was set up for. $1: the folder.
+version_of_build() {
+  local own project
+  own=$(sed -n 's/^LUMORA_VERSION:STRING=//p' "$1/CMakeCache.txt")
+  project=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$1/CMakeCache.txt")
+  printf '%s\n' "${own:-$project}"
+}
+
+# A program folder with the packages' times and rights. $1: build folder, $2: where, as .../Lumora.
+stage_program_folder() {
+  rm -rf "$2"
+  lay_program_folder "$1" "$2"
+  cp "$1/LumoraSettings.exe" "$2/../LumoraSettings.exe"
+  chmod 644 "$2"/* "$2/../LumoraSettings.exe"
+  touch -d "@$SOURCE_DATE_EPOCH" "$2"/* "$2/../LumoraSettings.exe"
+}
+
+# $1: the staged Lumora folder, $2: the ZIP to write.
+make_zip() {
+  rm -f "$2"
+  (cd "$1/.." && find Lumora -type f | LC_ALL=C sort | TZ=UTC zip -q -X -D -9 "$2" -@)
+}
+
+# $1: the staged Lumora folder, $2: version, $3: the installer to write.
+make_setup() {
+  local log="$root/out/makensis.log"
+  if ! (cd "$root/packaging" && makensis -V2 -WX -NOCD -INPUTCHARSET UTF8 -DVERSION="$2" -DFOLDER="$1" \
+    -DLAUNCHER="$1/../LumoraSettings.exe" -DOUTPUT="$3" lumora.nsi) >"$log" 2>&1; then
+    cat "$log" >&2
+    return 1
+  fi
+}
+
+# Lists what the programs of a build import, after a check of each name. $1: build folder, $2: list to write.
+list_imports() {
+  "$root/tests/checks/list_imports.sh" "$1/Lumora.scr" "$1/LumoraSettings.exe" >"$2"
+  "$root/tests/checks/check_imports.sh" "$2" >/dev/null || {
+    "$root/tests/checks/check_imports.sh" "$2" >&2
+    return 1
+  }
+}
+
+# Packs one build. $1: build folder, $2: the packages' name (Lumora, Lumora-x86), $3: folder to write to,
+# $4: "setup" to make an installer as well.
+pack() {
+  local version stage="$3/.stage/$2"
+  version=$(version_of_build "$1")
+  mkdir -p "$stage"
+  stage_program_folder "$1" "$stage/Lumora"
+  make_zip "$stage/Lumora" "$3/$2-$version.zip"
+  [ "${4:-}" != setup ] || make_setup "$stage/Lumora" "$version" "$3/$2-$version-setup.exe"
+  list_imports "$1" "$3/$2-$version-imports.txt"
+  rm -rf "$3/.stage"
+}
