@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace package {
 
@@ -14,8 +15,10 @@ void WriteWholeFile(const std::wstring& path, const std::string& content);
 
 // Moves a file, or a folder with all that is in it, on the same drive.
 bool Move(const std::wstring& from, const std::wstring& to);
+// The files and folders in a folder.
+std::vector<std::wstring> NamesIn(const std::wstring& folder);
 void RemoveFile(const std::wstring& path);
-// An empty folder.
-void RemoveFolder(const std::wstring& path);
+// A folder with all that is in it, where there is one.
+void RemoveTree(const std::wstring& folder);
 
 }  // namespace package

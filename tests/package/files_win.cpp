@@ -1,5 +1,7 @@
 #include <windows.h>
 
+#include <filesystem>
+
 #include "package/files.h"
 
 namespace package {
@@ -53,6 +55,17 @@ bool Move(const std::wstring& from, const std::wstring& to) {
 
 void RemoveFile(const std::wstring& path) { DeleteFileW(path.c_str()); }
 
-void RemoveFolder(const std::wstring& path) { RemoveDirectoryW(path.c_str()); }
+std::vector<std::wstring> NamesIn(const std::wstring& folder) {
+  std::vector<std::wstring> names;
+  std::error_code ignored;
+  for (const auto& entry : std::filesystem::directory_iterator(folder, ignored))
+    names.push_back(entry.path().filename().wstring());
+  return names;
+}
+
+void RemoveTree(const std::wstring& folder) {
+  std::error_code ignored;
+  std::filesystem::remove_all(folder, ignored);
+}
 
 }  // namespace package

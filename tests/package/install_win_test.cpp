@@ -52,9 +52,7 @@ TEST_F(Install, KeepsNothingButTheSettingsFileWhenItIsUndoneInSilence) {
   package::WriteWholeFile(settingsFile(), "[image]\r\npicSpeed=4\r\n");
   ASSERT_TRUE(uninstall());
   EXPECT_EQ(package::ReadWholeFile(settingsFile()), "[image]\r\npicSpeed=4\r\n");
-  package::RemoveFile(settingsFile());
-  package::RemoveFolder(folder());
-  EXPECT_FALSE(Exists(folder()));
+  EXPECT_EQ(package::NamesIn(folder()), std::vector<std::wstring>{L"zbfaone.ini"});
 }
 
 TEST_F(Install, FindsTheSettingsOfALumoraThatWasThereBefore) {

@@ -30,6 +30,8 @@ class Installation : public testing::Test {
 
   // Where the installer goes when nobody tells it another place.
   static std::wstring proposedFolder();
+  // A place that a test may choose.
+  static std::wstring otherFolder();
 
   static std::optional<std::wstring> screenSaver();
 

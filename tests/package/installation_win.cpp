@@ -53,9 +53,10 @@ void Installation::TearDown() {
   if (HasKey(kAppKey)) {
     EXPECT_TRUE(uninstall(L"/SETTINGS=remove"));
   }
-  for (const wchar_t* name : {L"zbfaone.ini", L"image1.gif", L"image2.gif", L"holiday.jpg"})
-    RemoveFile(folder_ + L"\\" + name);
-  RemoveFolder(folder_);
+  // What a failed test may have left would fail the next ones too.
+  RemoveKey(kAppKey);
+  for (const std::wstring& folder : {folder_, proposedFolder(), otherFolder()})
+    if (!folder.empty()) RemoveTree(folder);
   WriteText(kDesktopKey, L"SCRNSAVE.EXE", saver_);
   WriteText(kDesktopKey, L"ScreenSaveActive", active_);
   WriteText(kDesktopKey, L"ScreenSaveTimeOut", timeOut_);
@@ -96,6 +97,8 @@ std::wstring Installation::versionOf(const std::wstring& file) {
 std::wstring Installation::proposedFolder() {
   return ProfileFolder() + L"\\AppData\\Local\\Programs\\Lumora";
 }
+
+std::wstring Installation::otherFolder() { return ProfileFolder() + L"\\Other Lumora"; }
 
 std::optional<std::wstring> Installation::screenSaver() { return ReadText(kDesktopKey, L"SCRNSAVE.EXE"); }
 

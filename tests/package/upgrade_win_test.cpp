@@ -59,23 +59,20 @@ TEST_F(Upgrade, ReplacesSamplesOnlyWhereTheyAreItsOwn) {
 }
 
 TEST_F(Upgrade, GoesWhereTheFirstInstallationWent) {
-  const std::wstring other = package::ProfileFolder() + L"\\Other Lumora";
-  ASSERT_TRUE(install(packages.setup, L"/D=" + other));
+  ASSERT_TRUE(install(packages.setup, L"/D=" + otherFolder()));
   ASSERT_TRUE(install(packages.laterSetup));
-  EXPECT_EQ(folder(), other);
-  EXPECT_EQ(versionOf(other + L"\\Lumora.scr"), packages.laterVersion);
+  EXPECT_EQ(folder(), otherFolder());
+  EXPECT_EQ(versionOf(otherFolder() + L"\\Lumora.scr"), packages.laterVersion);
 }
 
 TEST_F(Upgrade, TakesThePlaceOfALumoraInAnotherFolder) {
   ASSERT_TRUE(install(packages.setup));
   const std::wstring old = folder();
-  ASSERT_TRUE(install(packages.laterSetup, L"/SAVER=yes /D=" + package::ProfileFolder() + L"\\Other Lumora"));
+  ASSERT_TRUE(install(packages.laterSetup, L"/SAVER=yes /D=" + otherFolder()));
   EXPECT_NE(folder(), old);
   EXPECT_FALSE(package::Exists(old + L"\\Lumora.scr"));
   EXPECT_FALSE(package::Exists(old + L"\\uninstall.exe"));
   EXPECT_TRUE(package::Exists(old + L"\\zbfaone.ini"));
-  package::RemoveFile(old + L"\\zbfaone.ini");
-  package::RemoveFolder(old);
 }
 
 TEST_F(Upgrade, EndsARunningShow) {

@@ -17,5 +17,6 @@ std::optional<unsigned> ReadNumber(const wchar_t* key, const wchar_t* name);
 void WriteText(const wchar_t* key, const wchar_t* name, const std::optional<std::wstring>& text);
 
 bool HasKey(const wchar_t* key);
+void RemoveKey(const wchar_t* key);
 
 }  // namespace package

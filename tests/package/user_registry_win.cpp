@@ -36,4 +36,6 @@ bool HasKey(const wchar_t* key) {
   return true;
 }
 
+void RemoveKey(const wchar_t* key) { RegDeleteTreeW(HKEY_CURRENT_USER, key); }
+
 }  // namespace package
