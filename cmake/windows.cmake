@@ -5,8 +5,11 @@ set(system_libraries gdi32 user32 kernel32 advapi32 shell32 ole32 oleaut32 windo
 
 target_compile_definitions(lumora_flags INTERFACE UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX
                            _WIN32_WINNT=0x0A00 WINVER=0x0A00)
+# The same binaries come out whenever they are built and wherever the sources lie.
+target_compile_options(lumora_flags INTERFACE -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
+target_link_options(lumora_flags INTERFACE -Wl,--no-insert-timestamp)
 target_compile_options(lumora_flags INTERFACE ${hardening})
-target_link_options(lumora_flags INTERFACE ${hardening} -Wl,--no-insert-timestamp)
+target_link_options(lumora_flags INTERFACE ${hardening})
 
 add_library(lumora_win STATIC ${windows_sources})
 target_link_libraries(lumora_win PUBLIC lumora_core ${system_libraries})
