@@ -63,13 +63,24 @@ Function .onInit
   ${EndIf}
 FunctionEnd
 
-# A Lumora in another folder gives way to this one; its settings stay where they are.
+# A Lumora in another folder gives way to this one; its settings stay where they are. Where it was the screen saver,
+# this one is to be. Ends the installer, with exit code 3 and nothing changed, when the other one cannot be removed.
 Function RemoveFromOtherFolder
   ReadRegStr $0 HKCU "${APP_KEY}" "InstallLocation"
   ${If} $0 != ""
   ${AndIf} $0 != $INSTDIR
   ${AndIf} ${FileExists} "$0\uninstall.exe"
-    ExecWait '"$0\uninstall.exe" /S _?=$0'
+    ReadRegStr $1 HKCU "${DESKTOP_KEY}" "SCRNSAVE.EXE"
+    ExecWait '"$0\uninstall.exe" /S _?=$0' $2
+    ${If} $2 <> 0
+      SetErrorLevel 3
+      Quit
+    ${EndIf}
+    ReadRegStr $2 HKCU "${DESKTOP_KEY}" "SCRNSAVE.EXE"
+    ${If} $1 != $2
+    ${AndIf} $saverSwitch == ""
+      StrCpy $saverSwitch yes
+    ${EndIf}
     Delete "$0\uninstall.exe"
     RMDir "$0"
   ${EndIf}

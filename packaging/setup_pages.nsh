@@ -55,6 +55,7 @@ Function ShowChoices
   ${If} $R0 == "yes"
     EnableWindow $mui.FinishPage.Run 0
   ${ElseIf} $upgrade == "yes"
+  ${AndIf} $saverSwitch != "yes"
   ${OrIf} $saverSwitch == "no"
     SendMessage $mui.FinishPage.Run ${BM_SETCHECK} ${BST_UNCHECKED} 0
   ${EndIf}

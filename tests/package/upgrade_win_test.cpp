@@ -68,11 +68,25 @@ TEST_F(Upgrade, GoesWhereTheFirstInstallationWent) {
 TEST_F(Upgrade, TakesThePlaceOfALumoraInAnotherFolder) {
   ASSERT_TRUE(install(packages.setup));
   const std::wstring old = folder();
-  ASSERT_TRUE(install(packages.laterSetup, L"/SAVER=yes /D=" + otherFolder()));
-  EXPECT_NE(folder(), old);
+  ASSERT_TRUE(install(packages.laterSetup, L"/D=" + otherFolder()));
+  EXPECT_EQ(folder(), otherFolder());
+  const std::wstring saver = screenSaver().value_or(L"");
+  EXPECT_TRUE(package::Exists(saver)) << "the new one is the screen saver";
+  EXPECT_NE(saver, old + L"\\Lumora.scr");
   EXPECT_FALSE(package::Exists(old + L"\\Lumora.scr"));
   EXPECT_FALSE(package::Exists(old + L"\\uninstall.exe"));
   EXPECT_TRUE(package::Exists(old + L"\\zbfaone.ini"));
+}
+
+TEST_F(Upgrade, ChangesNothingWhenALumoraInAnotherFolderCannotBeRemoved) {
+  ASSERT_TRUE(install(packages.setup));
+  const package::UserState before = package::ReadUserState();
+  const HANDLE held =
+      CreateFileW(program().c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+  ASSERT_NE(held, INVALID_HANDLE_VALUE);
+  EXPECT_EQ(run(packages.laterSetup, L"/S /D=" + otherFolder()), 3U);
+  CloseHandle(held);
+  EXPECT_EQ(package::Difference(before, package::ReadUserState()), "");
 }
 
 TEST_F(Upgrade, EndsARunningShow) {
