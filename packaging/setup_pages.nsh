@@ -1,4 +1,6 @@
 # The installer's pages, in the product's look. An upgrade goes where the last one went and asks no place.
+# The pictures' times are those of the checkout, which have no place in the installer.
+SetDateSave off
 !define MUI_ICON "../assets/lumora.ico"
 !define MUI_UNICON "../assets/lumora.ico"
 !define MUI_ABORTWARNING
@@ -42,6 +44,7 @@
 !insertmacro MUI_UNPAGE_INSTFILES
 
 !insertmacro MUI_LANGUAGE "English"
+SetDateSave on
 
 Function SkipWhenUpgrading
   ${If} $upgrade == "yes"

@@ -27,10 +27,13 @@ make_zip() {
   (cd "$1/.." && find Lumora -type f | LC_ALL=C sort | TZ=UTC zip -q -X -D -9 "$2" -@)
 }
 
+# Where the installer's script and the assets are.
+packing_sources=$root
+
 # $1: the staged Lumora folder, $2: version, $3: the installer to write.
 make_setup() {
   local log="$root/out/makensis.log"
-  if ! (cd "$root/packaging" && makensis -V2 -WX -NOCD -INPUTCHARSET UTF8 -DVERSION="$2" -DFOLDER="$1" \
+  if ! (cd "$packing_sources/packaging" && makensis -V2 -WX -NOCD -INPUTCHARSET UTF8 -DVERSION="$2" -DFOLDER="$1" \
     -DLAUNCHER="$1/../LumoraSettings.exe" -DOUTPUT="$3" lumora.nsi) >"$log" 2>&1; then
     cat "$log" >&2
     return 1

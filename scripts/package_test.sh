@@ -1,8 +1,8 @@
 # What ./test does with the packages. Sourced behind lib.sh and package.sh.
 tried="$root/out/package-test"
 
-# Packs the project's version twice, the second time from another folder, and before it a later version for the
-# upgrade. Leaves the build folder at the project's version.
+# Packs the project's version twice, the second time in another folder and from newer copies of the sources, and
+# before it a later version for the upgrade. Leaves the build folder at the project's version.
 pack_for_test() {
   local version
   rm -rf "$tried"
@@ -16,7 +16,11 @@ pack_for_test() {
   configure_options=()
   build_preset windows Lumora LumoraSettings
   pack "$root/build-windows" Lumora "$tried/first" setup
+  packing_sources="$tried/deeper/sources"
+  mkdir -p "$packing_sources"
+  cp -r "$root/packaging" "$root/assets" "$packing_sources/"
   pack "$root/build-windows" Lumora "$tried/deeper/down/again" setup
+  packing_sources=$root
   first_version=$version
 }
 
