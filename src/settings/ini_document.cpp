@@ -26,6 +26,9 @@ std::string Utf8FromLittleEndian(std::string_view bytes) {
   return base::Utf8FromUtf16(units);
 }
 
+// The text up to the next line that surely is a section's header.
+std::string_view UpToNextSection(std::string_view text) { return text.substr(0, text.find("\n[")); }
+
 void AppendLittleEndian(std::string& bytes, std::string_view utf8) {
   for (const char16_t unit : base::Utf16FromUtf8(utf8)) {
     bytes += static_cast<char>(unit & 0xFF);
@@ -45,16 +48,34 @@ IniDocument::IniDocument(std::string_view bytes, const os::AnsiCodePage& ansi) :
   }
 }
 
+IniDocument::LineEnd IniDocument::lineEndAt(std::string_view text) {
+  if (text.empty()) return LineEnd::None;
+  if (text.starts_with(kLineEnd)) return LineEnd::CrLf;
+  return text.front() == '\r' ? LineEnd::Cr : LineEnd::Lf;
+}
+
+std::string_view IniDocument::textOf(LineEnd end) {
+  constexpr std::string_view kTexts[] = {"", kLineEnd, "\n", "\r"};
+  return kTexts[static_cast<std::size_t>(end)];
+}
+
 void IniDocument::readLines(std::string_view text, const os::AnsiCodePage* ansi) {
+  const char* counted = text.data();  // lines before this have room already
   while (!text.empty()) {
     const std::size_t length = std::min(text.find_first_of(kLineEnd), text.size());
     const std::string_view rest = text.substr(length);
-    const std::size_t end = rest.empty() ? 0 : rest.starts_with(kLineEnd) ? 2 : 1;
+    const LineEnd end = lineEndAt(rest);
     const std::string_view line = text.substr(0, length);
     const bool decode = ansi != nullptr && !base::IsAscii(line);
-    add({decode ? ansi->decode(line) : std::string(line), std::string(rest.substr(0, end)),
-         decode ? std::string(line) : std::string()});
-    text = rest.substr(end);
+    add({decode ? ansi->decode(line) : std::string(line),
+         decode ? std::make_unique<std::string>(line) : nullptr, end});
+    text = rest.substr(textOf(end).size());
+    // Room for the keys of a long section is made once, at its first line. No line is counted twice.
+    Section& section = sections_.back();
+    if (section.lines.size() != 1 || text.data() < counted) continue;
+    const std::string_view ahead = UpToNextSection(text);
+    section.keys.reserve(static_cast<std::size_t>(std::count(ahead.begin(), ahead.end(), '\n')) + 1);
+    counted = ahead.data() + ahead.size();
   }
 }
 
@@ -120,8 +141,8 @@ IniDocument::Section& IniDocument::openSection(std::string_view name) {
   const auto found = index_.find(base::AsciiLower(name));
   if (found != index_.end()) return *found->second;
   Section& last = sections_.back();
-  if (!last.lines.empty() && last.lines.back().end.empty()) last.lines.back().end = kLineEnd;
-  add({'[' + std::string(name) + ']', std::string(kLineEnd), {}});
+  if (!last.lines.empty() && last.lines.back().end == LineEnd::None) last.lines.back().end = LineEnd::CrLf;
+  add({'[' + std::string(name) + ']', nullptr, LineEnd::CrLf});
   return sections_.back();
 }
 
@@ -132,12 +153,12 @@ void IniDocument::replaceValue(Line& line, std::string_view value) {
   if (ReadableValue(std::string_view(line.text).substr(parsed.valueBegin, length)) == ReadableValue(stored))
     return;
   line.text.replace(parsed.valueBegin, length, stored);
-  line.bytes.clear();
+  line.bytes.reset();
 }
 
 void IniDocument::appendKey(Section& section, std::string_view key, std::string_view value) {
-  if (section.lastKey->end.empty()) section.lastKey->end = kLineEnd;
-  Line line{std::string(key) + '=' + StorableValue(value), std::string(kLineEnd), {}};
+  if (section.lastKey->end == LineEnd::None) section.lastKey->end = LineEnd::CrLf;
+  Line line{std::string(key) + '=' + StorableValue(value), nullptr, LineEnd::CrLf};
   section.lastKey = section.lines.insert(std::next(section.lastKey), std::move(line));
   section.keys.emplace(base::AsciiLower(key), section.lastKey);
 }
@@ -160,14 +181,14 @@ void IniDocument::eraseSection(std::string_view section) {
 }
 
 bool IniDocument::appendAnsi(std::string& bytes, const Line& line) const {
-  if (!line.bytes.empty() || base::IsAscii(line.text)) {
-    bytes += line.bytes.empty() ? line.text : line.bytes;
+  if (line.bytes || base::IsAscii(line.text)) {
+    bytes += line.bytes ? *line.bytes : line.text;
   } else if (const std::optional<std::string> encoded = ansi_->encode(line.text)) {
     bytes += *encoded;
   } else {
     return false;
   }
-  bytes += line.end;
+  bytes += textOf(line.end);
   return true;
 }
 
@@ -183,7 +204,7 @@ std::string IniDocument::serialise() const {
   for (const Section& section : sections_) {
     for (const Line& line : section.lines) {
       AppendLittleEndian(utf16, line.text);
-      AppendLittleEndian(utf16, line.end);
+      AppendLittleEndian(utf16, textOf(line.end));
     }
   }
   return utf16;

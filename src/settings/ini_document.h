@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <list>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -52,10 +53,13 @@ class IniDocument {
   std::string serialise() const;
 
  private:
+  enum class LineEnd : unsigned char { None, CrLf, Lf, Cr };  // None: at the end of the file
+
+  // Small, since a file of many pictures has many.
   struct Line {
-    std::string text;   // UTF-8, without the line end
-    std::string end;    // "\r\n", "\n", "\r", or empty at the end of the file
-    std::string bytes;  // of an unchanged ANSI line that is not plain ASCII; else empty
+    std::string text;                    // UTF-8, without the line end
+    std::unique_ptr<std::string> bytes;  // of an unchanged ANSI line that is not plain ASCII; else null
+    LineEnd end = LineEnd::CrLf;
   };
   using Lines = std::list<Line>;
 
@@ -65,6 +69,8 @@ class IniDocument {
     Lines::iterator lastKey;                                // the line behind which a new key goes
   };
 
+  static LineEnd lineEndAt(std::string_view text);
+  static std::string_view textOf(LineEnd end);
   void readLines(std::string_view text, const os::AnsiCodePage* ansi);
   void add(Line line);
   Section& openSection(std::string_view name);

@@ -301,6 +301,15 @@ TEST(IniDocument, AMovedDocumentGoesOnWorking) {
   EXPECT_EQ(moved.serialise(), "[a]\nx=1\ny=2\r\n");
 }
 
+// Room for the keys of a section is made from the lines that follow it: those of all sections together must
+// not count again for each.
+TEST(IniDocument, ManyIndentedSectionsTakeNoMoreRoomThanTheyHaveLines) {
+  std::string file;
+  for (int i = 0; i < 50'000; ++i)
+    file += " [s" + std::to_string(i) + "]\r\nkey=" + std::to_string(i) + "\r\n";
+  EXPECT_EQ(Read(file).value("s49999", "key"), "49999");
+}
+
 TEST(IniDocument, ThirtyThousandPicturesAmongThirtyThousandCommentsAreRebuilt) {
   constexpr int kCount = 30'000;
   std::string file = "[images]\r\n";
