@@ -25,9 +25,11 @@ struct Stage::TextLayer {
 };
 
 Stage::Stage(StageWindow& window, os::TextRenderer& text, int twipsPerPixel)
-    : window_(window), text_(text), twipsPerPixel_(twipsPerPixel) {}
+    : window_(window), text_(text), twipsPerPixel_(twipsPerPixel) {
+  window_.onPaint = [this] { settle(); };
+}
 
-Stage::~Stage() = default;
+Stage::~Stage() { window_.onPaint = nullptr; }
 
 void Stage::show(forms::Form& form, forms::PictureBox& background, forms::PictureBox& picture,
                  const std::vector<forms::Label*>& labels) {
@@ -78,6 +80,7 @@ void Stage::present(const std::vector<base::PixelRect>& areas) {
 }
 
 void Stage::compose(const base::PixelRect& area) {
+  settle();
   const base::BitmapView target = window_.backBuffer();
   for (const base::PixelRect& open : base::Difference(area, opaquePicture())) composeBackground(target, open);
   composePicture(target, area);
@@ -164,6 +167,7 @@ void Stage::pictureBoxChanged(forms::Change change) {
       const base::PixelRect there = painted_.movedBy(place.left, place.top);
       for (const base::PixelRect& open : base::Difference(place, there)) invalidate(open);
       forgetPainted();
+      ahead_ = {};
       return;
     }
   }
@@ -212,11 +216,34 @@ void Stage::showPainted(std::span<const base::PixelRect> areas) {
     const base::PixelRect part = area.movedBy(place.left, place.top).intersected(bounds);
     if (!part.isEmpty()) shown.push_back(part);
   }
-  base::CopyRects(target, {place.left, place.top}, *picture_->paintedFrom(), shown);
-  for (const base::PixelRect& part : shown) composeTexts(target, part);
+  if (transitionTo_ != picture_->paintedFrom()) {
+    settle();
+    runAhead();
+  }
+  if (ahead_.isEmpty()) {
+    base::CopyRects(target, {place.left, place.top}, *picture_->paintedFrom(), shown);
+    for (const base::PixelRect& part : shown) composeTexts(target, part);
+  }
   present(shown);
   transitionTo_ = picture_->paintedFrom();
   painted_ = picture_->painted().largest();
+}
+
+// At the beginning of a transition the back buffer takes the picture whole, in one sequential copy, and each
+// frame only brings its parts to the screen. Copying narrow parts costs many times more.
+void Stage::runAhead() {
+  const base::Bitmap& painted = *picture_->paintedFrom();
+  const base::PixelRect place = picture_->pixelRect();
+  const base::BitmapView target = window_.backBuffer();
+  base::CopyRect(target, {place.left, place.top}, painted, base::PixelRect::ofSize(place.size()));
+  composeTexts(target, place);
+  ahead_ = place;
+}
+
+// Makes the back buffer what the screen is: before it is shown by a paint message, or composed upon.
+void Stage::settle() {
+  const base::PixelRect place = std::exchange(ahead_, {});
+  if (!place.isEmpty()) compose(place.intersected(base::PixelRect::ofSize(window_.backBuffer().size)));
 }
 
 void Stage::forgetPainted() {

@@ -60,6 +60,8 @@ class Stage : public forms::FormHost {
   base::PixelRect opaquePicture() const;
   bool paintsOpaquely(std::span<const base::PixelRect> areas) const;
   void showPainted(std::span<const base::PixelRect> areas);
+  void runAhead();
+  void settle();
   void forgetPainted();
   base::PixelRect shownPlace(const forms::Control& control) const;
   TextLayer* textLayerOf(const forms::Control& control);
@@ -76,6 +78,7 @@ class Stage : public forms::FormHost {
   base::SharedBitmap assigned_;         // the picture box's assigned picture, as far as it shows
   base::SharedBitmap transitionTo_;     // the picture that was painted on the box last, and
   base::PixelRect painted_;             // where the box shows it for certain
+  base::PixelRect ahead_;               // where the back buffer shows it already and the screen does not yet
   base::PixelRect pictureWas_;          // where the picture box was composed last; empty while hidden
   std::vector<base::PixelRect> dirty_;  // areas of the window to compose anew
   bool placesChanged_ = false;

@@ -33,6 +33,9 @@ class StageWindow {
   // Puts those parts of the back buffer on the screen at once. None is empty or reaches beyond it.
   virtual void present(std::span<const base::PixelRect> areas) = 0;
 
+  // The back buffer is about to be shown again by a paint message.
+  std::function<void()> onPaint;
+
   // What the user and the system do to the window.
   std::function<void(int keyCode)> onKeyDown;
   std::function<void(base::PixelPoint)> onMouseDown;

@@ -104,6 +104,7 @@ LRESULT StageWindowWin::receive(UINT message, WPARAM wParam, LPARAM lParam) {
       raise(onMouseMove, base::PixelPoint{GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
       return 0;
     case WM_PAINT:
+      raise(onPaint);
       paint();
       return 0;
     case WM_ERASEBKGND:

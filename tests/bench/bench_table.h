@@ -13,8 +13,11 @@ double NowMs();
 double MedianMs(const std::function<void()>& work);
 
 // How many times as long `work` takes as `reference`: medians of so many runs of each, taken in turns, so
-// that whatever slows the machine for a while slows both.
-double TimeRatio(const std::function<void()>& work, const std::function<void()>& reference, int runs = 5);
+// that whatever slows the machine for a while slows both. What is done before each run of the work does not
+// count.
+double TimeRatio(
+    const std::function<void()>& work, const std::function<void()>& reference,
+    const std::function<void()>& before = [] {}, int runs = 7);
 
 // Prints one row. `bar` says in words what the ratio should be.
 void PrintRow(const std::string& work, const std::string& reference, double ratio, const std::string& bar);

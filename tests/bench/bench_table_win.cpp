@@ -37,11 +37,13 @@ double MedianMs(const std::function<void()>& work) {
   return Median(std::move(runs));
 }
 
-double TimeRatio(const std::function<void()>& work, const std::function<void()>& reference, int runs) {
+double TimeRatio(const std::function<void()>& work, const std::function<void()>& reference,
+                 const std::function<void()>& before, int runs) {
   std::vector<double> works;
   std::vector<double> references;
   for (int i = 0; i < runs; ++i) {
     references.push_back(TimeOf(reference));
+    before();
     works.push_back(TimeOf(work));
   }
   return Median(std::move(works)) / Median(std::move(references));

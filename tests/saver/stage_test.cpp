@@ -132,6 +132,39 @@ TEST_F(StageTest, APictureAssignedAtTheEndOfItsTransitionPresentsOnlyWhatIsNotTh
   EXPECT_EQ(screenAt(9, 7), kGreen);
 }
 
+TEST_F(StageTest, APaintMessageInTheMiddleOfATransitionShowsWhatIsOnTheScreen) {
+  picture.setPicture(Plain(10, 8, kRed));
+  picture.setVisible(true);
+  picture.setPicture(picture.picture());
+  stage.flush();
+  const base::SharedBitmap next = PlainPixels({10, 8}, kGreen);
+  picture.paintPart(next, {0, 0, 3, 8});
+  window.paint();
+  EXPECT_EQ(screenAt(2, 0), kGreen);
+  EXPECT_EQ(screenAt(3, 0), kRed);
+  picture.paintPart(next, {3, 0, 3, 8});
+  EXPECT_EQ(screenAt(5, 7), kGreen);
+  EXPECT_EQ(screenAt(6, 7), kRed);
+}
+
+TEST_F(StageTest, ACaptionThatChangesInTheMiddleOfATransitionShowsNothingOfWhatIsToCome) {
+  picture.setPicture(Plain(10, 8, kRed));
+  picture.setVisible(true);
+  picture.setPicture(picture.picture());
+  label.setAutoSize(true);
+  stage.flush();
+  const base::SharedBitmap next = PlainPixels({10, 8}, kGreen);
+  picture.paintPart(next, {0, 0, 1, 8});
+  label.setLeft(5 * 15);
+  label.setCaption("A");
+  label.setVisible(true);
+  label.setVisible(false);
+  stage.flush();
+  EXPECT_EQ(screenAt(6, 1), kRed);
+  picture.paintPart(next, {1, 0, 9, 8});
+  EXPECT_EQ(screenAt(6, 1), kGreen);
+}
+
 TEST_F(StageTest, AnotherPictureThanThePaintedOneIsPresentedWhole) {
   picture.setPicture(Plain(10, 8, kRed));
   picture.setVisible(true);
@@ -150,9 +183,12 @@ TEST_F(StageTest, TheScreenShowsAFreshCompositionAfterAnySequenceOfChanges) {
   base::SharedBitmap source = PlainPixels({10, 8}, kGreen);
   label.setAutoSize(true);
   for (int step = 0; step < 20000; ++step) {
-    switch (below(12)) {
+    switch (below(14)) {
       case 0:
-        source = PlainPixels({1 + below(14), 1 + below(12)}, pixels[static_cast<std::size_t>(below(4))]);
+        source = PlainPixels(below(2) == 0 && !picture.scaleSize().isEmpty()
+                                 ? picture.scaleSize()
+                                 : base::PixelSize{1 + below(14), 1 + below(12)},
+                             pixels[static_cast<std::size_t>(below(4))]);
         break;
       case 1:
         picture.setPicture(forms::MakePicture(source));
@@ -184,6 +220,12 @@ TEST_F(StageTest, TheScreenShowsAFreshCompositionAfterAnySequenceOfChanges) {
     }
     stage.flush();
     const base::Bitmap shown = window.screen;
+    if (below(3) == 0) {
+      window.paint();
+      ASSERT_EQ(shown, window.screen) << "painted after step " << step;
+      continue;
+    }
+    if (below(3) == 0) continue;
     stage.invalidateAll();
     stage.flush();
     ASSERT_EQ(shown, window.screen) << "after step " << step;

@@ -33,6 +33,12 @@ class FakeStageWindow : public saver::StageWindow {
     }
   }
 
+  // A paint message for the whole window.
+  void paint() {
+    if (onPaint) onPaint();
+    screen = back_;
+  }
+
   std::vector<std::string> calls;
   base::PixelRect covered;
   std::function<void()> onCover;  // what happens while the window is being placed
