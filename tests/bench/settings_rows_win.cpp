@@ -99,7 +99,7 @@ void BenchSettings() {
   Folder three(3000);
   Folder thirty(30000);
   PrintRow("load 30,000 pictures", "load 3,000 pictures",
-           MedianMs([&] { thirty.load(); }) / MedianMs([&] { three.load(); }), "<= 12 times");
+           TimeRatio([&] { thirty.load(); }, [&] { three.load(); }), "<= 12 times");
 }
 
 }  // namespace bench
