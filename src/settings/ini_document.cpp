@@ -66,9 +66,13 @@ void IniDocument::readLines(std::string_view text, const os::AnsiCodePage* ansi)
     const std::string_view rest = text.substr(length);
     const LineEnd end = lineEndAt(rest);
     const std::string_view line = text.substr(0, length);
-    const bool decode = ansi != nullptr && !base::IsAscii(line);
-    add({decode ? ansi->decode(line) : std::string(line),
-         decode ? std::make_unique<std::string>(line) : nullptr, end});
+    if (ansi == nullptr || base::IsAscii(line)) {
+      add({std::string(line), nullptr, end});
+    } else {
+      Line decoded{ansi->decode(line), nullptr, end};
+      decoded.bytes = std::make_unique<std::string>(line);
+      add(std::move(decoded));
+    }
     text = rest.substr(textOf(end).size());
     // Room for the keys of a long section is made once, at its first line. No line is counted twice.
     Section& section = sections_.back();
