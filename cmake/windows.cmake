@@ -44,6 +44,8 @@ if(LUMORA_TESTS)
   # The tests' windows are those of the program: with its manifest, in the system's visual style.
   add_executable(lumora_win_tests ${windows_test_sources} tests/support/win_tests.rc)
   target_link_libraries(lumora_win_tests PRIVATE lumora_win_support gtest_main)
+  target_compile_options(lumora_win_tests PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-O0> $<$<COMPILE_LANGUAGE:CXX>:-fpch-preprocess>)
+  target_precompile_headers(lumora_win_tests PRIVATE tests/support/precompiled.h)
   target_link_options(lumora_win_tests PRIVATE -static)
 
   # Stand in for libraries of the system in the end-to-end tests.
@@ -63,6 +65,8 @@ if(LUMORA_TESTS)
   file(GLOB e2e_sources CONFIGURE_DEPENDS tests/e2e/*.cpp)
   add_executable(lumora_e2e ${e2e_sources})
   target_link_libraries(lumora_e2e PRIVATE lumora_win_support gtest ntdll)
+  target_compile_options(lumora_e2e PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-O0> $<$<COMPILE_LANGUAGE:CXX>:-fpch-preprocess>)
+  target_precompile_headers(lumora_e2e REUSE_FROM lumora_win_tests)
   target_link_options(lumora_e2e PRIVATE -static)
   add_dependencies(lumora_e2e password_stand_in marking_stand_in)
 

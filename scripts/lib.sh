@@ -29,6 +29,9 @@ packing_packages=(nsis zip unzip)
 show_packages=(wine wine64 xvfb xauth xdotool imagemagick x11-utils x11-apps
   x11-xserver-utils fonts-liberation)
 
+# A compiler cache, where there is one, may serve what precompiled headers made.
+export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+
 # More options for setting up a build.
 configure_options=()
 
