@@ -6,6 +6,11 @@ if(LUMORA_TESTS)
   # The code under test has both sanitizers; the tests themselves are compiled quickly.
   target_compile_options(lumora_tests PRIVATE -O0 -fno-sanitize=undefined -fpch-preprocess)
   target_precompile_headers(lumora_tests PRIVATE tests/support/precompiled.h)
+  # Where the test itself computes long, it is compiled as its subject is.
+  set(long_computations ${test_sources})
+  list(FILTER long_computations INCLUDE REGEX "_(monkey|random)_test\\.cpp$")
+  set_source_files_properties(${long_computations} PROPERTIES
+    COMPILE_OPTIONS -O1 SKIP_PRECOMPILE_HEADERS ON)
 endif()
 
 file(GLOB picture_sources CONFIGURE_DEPENDS tools/pictures/*.cpp)

@@ -12,6 +12,7 @@ purpose() {
     auxwin) echo "folder import, viewer, about" ;;
     settings) echo "the settings file" ;;
     forms) echo "controls and their windows" ;;
+    pictures) echo "picture files" ;;
     os) echo "the machine" ;;
     base) echo "plain values" ;;
     *) echo "" ;;

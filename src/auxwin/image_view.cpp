@@ -23,7 +23,7 @@ constexpr int kEscape = 27;
 
 }  // namespace
 
-ImageView::ImageView(const forms::ListBox& pictures, os::PictureLoader& loader, forms::Dialogs& dialogs,
+ImageView::ImageView(const forms::ListBox& pictures, pictures::PictureLoader& loader, forms::Dialogs& dialogs,
                      forms::WindowSystem& windows)
     : Form("ImageView"), pictures_(pictures), loader_(loader), dialogs_(dialogs), windows_(windows) {
   Picture1.setAutoSize(true);
@@ -61,7 +61,7 @@ void ImageView::Form_Load() {
 
 bool ImageView::loadPicture(const std::string& path) {
   if (path.empty()) return true;
-  const std::shared_ptr<const os::PictureFile> file = loader_.open(path);
+  const std::shared_ptr<const pictures::PictureFile> file = loader_.open(path);
   if (!file) return false;
   // Decoded once: the window is painted anew whenever something has covered it.
   base::SharedBitmap pixels = forms::MakePicture(file)->drawnAt(file->size());

@@ -9,7 +9,7 @@
 #include "forms/list_box.h"
 #include "forms/picture_box.h"
 #include "forms/window_system.h"
-#include "os/pictures.h"
+#include "pictures/pictures.h"
 
 namespace auxwin {
 
@@ -19,7 +19,7 @@ namespace auxwin {
 class ImageView : public forms::Form {
  public:
   // The selected entry of `pictures` is the picture's path.
-  ImageView(const forms::ListBox& pictures, os::PictureLoader& loader, forms::Dialogs& dialogs,
+  ImageView(const forms::ListBox& pictures, pictures::PictureLoader& loader, forms::Dialogs& dialogs,
             forms::WindowSystem& windows);
 
   forms::PictureBox Picture1{*this, "Picture1"};
@@ -37,7 +37,7 @@ class ImageView : public forms::Form {
   void close();
 
   const forms::ListBox& pictures_;
-  os::PictureLoader& loader_;
+  pictures::PictureLoader& loader_;
   forms::Dialogs& dialogs_;
   forms::WindowSystem& windows_;
 

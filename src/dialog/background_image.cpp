@@ -26,7 +26,7 @@ void BackgroundImage::addBackImg_Click() {
   form_.record.backgroundImage = *path;
   form_.backgroundImageFile.setText(*path);
   // A picture that cannot be loaded is reported when the dialog is opened again.
-  const std::shared_ptr<const os::PictureFile> file = services_.pictures.open(*path);
+  const std::shared_ptr<const pictures::PictureFile> file = services_.pictures.open(*path);
   form_.Image1.setPicture(file ? forms::MakePicture(file) : nullptr);
 }
 

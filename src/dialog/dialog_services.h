@@ -5,14 +5,14 @@
 #include "forms/window_system.h"
 #include "os/ansi_code_page.h"
 #include "os/files.h"
-#include "os/pictures.h"
+#include "pictures/pictures.h"
 
 namespace dialog {
 
 struct DialogServices {
   os::Files& files;
   const os::AnsiCodePage& ansi;
-  os::PictureLoader& pictures;
+  pictures::PictureLoader& pictures;
   forms::Dialogs& dialogs;
   forms::WindowSystem& windows;
 };

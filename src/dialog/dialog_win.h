@@ -10,8 +10,8 @@
 #include "os/event_loop_win.h"
 #include "os/files.h"
 #include "os/folders_win.h"
-#include "os/pictures.h"
 #include "os/shell_win.h"
+#include "pictures/pictures.h"
 
 namespace dialog {
 
@@ -20,7 +20,7 @@ struct DialogMachineWin {
   os::EventLoopWin& loop;
   os::Files& files;
   const os::AnsiCodePage& ansi;
-  os::PictureLoader& pictures;
+  pictures::PictureLoader& pictures;
 };
 
 class SettingsDialogWin {

@@ -88,7 +88,7 @@ void Form2::LoadBackgroundImagePreview(const settings::IniDocument& document) {
   if (record.backgroundImage.empty()) return;
   backgroundImageFile.setText(record.backgroundImage);
   // Decoded once, at the size at which it is shown: a large photo stays cheap and a broken one is found now.
-  const std::shared_ptr<const os::PictureFile> file = services_.pictures.open(record.backgroundImage);
+  const std::shared_ptr<const pictures::PictureFile> file = services_.pictures.open(record.backgroundImage);
   std::optional<base::Bitmap> drawn;
   if (file) drawn = file->draw(forms::FitInside(file->size(), Image1.pixelRect().size()));
   if (!drawn) {

@@ -57,7 +57,8 @@ void PictureList::tellCannotLoad() {
 
 bool PictureList::ShowPreview(const std::string& path) {
   if (form_.photo1.picture() && previewed_ == path) return true;
-  const std::shared_ptr<const os::PictureFile> file = path.empty() ? nullptr : services_.pictures.open(path);
+  const std::shared_ptr<const pictures::PictureFile> file =
+      path.empty() ? nullptr : services_.pictures.open(path);
   form_.photo.setPicture(file ? forms::MakePicture(file) : nullptr);
   base::SharedBitmap thumbnail =
       file ? DrawThumbnail(*form_.photo.picture(), form_.photo1.scaleSize()) : nullptr;

@@ -26,7 +26,7 @@ class MemoryPicture final : public Picture {
 
 class FilePicture final : public Picture {
  public:
-  explicit FilePicture(std::shared_ptr<const os::PictureFile> file) : file_(std::move(file)) {}
+  explicit FilePicture(std::shared_ptr<const pictures::PictureFile> file) : file_(std::move(file)) {}
 
   base::PixelSize size() const override { return file_->size(); }
 
@@ -37,7 +37,7 @@ class FilePicture final : public Picture {
   }
 
  private:
-  std::shared_ptr<const os::PictureFile> file_;
+  std::shared_ptr<const pictures::PictureFile> file_;
 };
 
 }  // namespace
@@ -46,7 +46,7 @@ SharedPicture MakePicture(base::SharedBitmap bitmap) {
   return std::make_shared<MemoryPicture>(std::move(bitmap));
 }
 
-SharedPicture MakePicture(std::shared_ptr<const os::PictureFile> file) {
+SharedPicture MakePicture(std::shared_ptr<const pictures::PictureFile> file) {
   return std::make_shared<FilePicture>(std::move(file));
 }
 

@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "base/bitmap.h"
-#include "os/pictures.h"
+#include "pictures/pictures.h"
 
 namespace forms {
 
@@ -26,6 +26,6 @@ using SharedPicture = std::shared_ptr<const Picture>;
 SharedPicture MakePicture(base::SharedBitmap bitmap);
 
 // A file; nothing is decoded before it is drawn.
-SharedPicture MakePicture(std::shared_ptr<const os::PictureFile> file);
+SharedPicture MakePicture(std::shared_ptr<const pictures::PictureFile> file);
 
 }  // namespace forms

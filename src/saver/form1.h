@@ -17,10 +17,10 @@
 #include "os/date_text.h"
 #include "os/event_loop.h"
 #include "os/files.h"
-#include "os/pictures.h"
 #include "os/screen.h"
 #include "os/system_facts.h"
 #include "os/system_flags.h"
+#include "pictures/pictures.h"
 #include "saver/background.h"
 #include "saver/countdown.h"
 #include "saver/floating.h"
@@ -34,7 +34,7 @@ namespace saver {
 struct ShowServices {
   os::Files& files;
   const os::AnsiCodePage& ansi;
-  os::PictureLoader& pictures;
+  pictures::PictureLoader& pictures;
   const os::Clock& clock;
   os::EventLoop& loop;
   const os::Screen& screen;

@@ -46,7 +46,7 @@ base::SharedBitmap Form1::composeGradient() {
 base::SharedBitmap Form1::composeCustomImage() {
   const std::optional<ImageLayout> layout =
       ImageLayoutNumbered(base::StrictDouble(settings_.record.backgroundDisplay));
-  const std::shared_ptr<const os::PictureFile> file =
+  const std::shared_ptr<const pictures::PictureFile> file =
       services_.pictures.open(settings_.record.backgroundImage);
   if (!layout || !file) return nullptr;
   PreBgrImage.setPicture(forms::MakePicture(file));

@@ -16,7 +16,7 @@ void Form1::LoadCurrentPicture() {
 void Form1::loadPicture(std::int16_t number) {
   loadReduction_ = 1;
   const auto index = static_cast<std::size_t>(number);
-  std::shared_ptr<const os::PictureFile> file;
+  std::shared_ptr<const pictures::PictureFile> file;
   if (number >= 0 && index < settings_.imageFiles.size() && !settings_.imageFiles[index].empty()) {
     file = services_.pictures.open(settings_.imageFiles[index]);
   }

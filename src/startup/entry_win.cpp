@@ -18,7 +18,6 @@
 #include "os/library_search_win.h"
 #include "os/passwords_win.h"
 #include "os/picture_decoder_win.h"
-#include "os/picture_loader.h"
 #include "os/program_win.h"
 #include "os/registry_win.h"
 #include "os/screen_win.h"
@@ -26,6 +25,7 @@
 #include "os/system_version_win.h"
 #include "os/taskbar_win.h"
 #include "os/text_renderer_win.h"
+#include "pictures/picture_loader.h"
 #include "saver/stage_window_win.h"
 #include "settings/open_settings.h"
 #include "settings/read_ini_value.h"
@@ -69,7 +69,7 @@ struct Machine {
   std::unique_ptr<os::DateText> dates = os::MakeDateText();
   os::FileHeadWin heads;
   os::PictureDecoderWin decoder;
-  os::FilePictureLoader pictures{heads, decoder};
+  pictures::FilePictureLoader pictures{heads, decoder};
 };
 
 // The show, from its window to its way out; the system's changes pass through `restore`.

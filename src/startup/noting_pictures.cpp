@@ -6,9 +6,9 @@ namespace startup {
 
 namespace {
 
-class NotingPicture final : public os::PictureFile {
+class NotingPicture final : public pictures::PictureFile {
  public:
-  NotingPicture(std::shared_ptr<const os::PictureFile> file, std::string path, FailureLog& log)
+  NotingPicture(std::shared_ptr<const pictures::PictureFile> file, std::string path, FailureLog& log)
       : file_(std::move(file)), path_(std::move(path)), log_(log) {}
 
   base::PixelSize size() const override { return file_->size(); }
@@ -20,15 +20,15 @@ class NotingPicture final : public os::PictureFile {
   }
 
  private:
-  std::shared_ptr<const os::PictureFile> file_;
+  std::shared_ptr<const pictures::PictureFile> file_;
   std::string path_;
   FailureLog& log_;
 };
 
 }  // namespace
 
-std::shared_ptr<const os::PictureFile> NotingPictures::open(const std::string& path) {
-  std::shared_ptr<const os::PictureFile> file = pictures_.open(path);
+std::shared_ptr<const pictures::PictureFile> NotingPictures::open(const std::string& path) {
+  std::shared_ptr<const pictures::PictureFile> file = pictures_.open(path);
   if (!file) {
     log_.note((files_.exists(path) ? "picture: in use, or of no kind that can be read: "
                                    : "picture: no such file: ") +

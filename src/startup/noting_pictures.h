@@ -2,21 +2,21 @@
 #pragma once
 
 #include "os/files.h"
-#include "os/pictures.h"
+#include "pictures/pictures.h"
 #include "startup/failure_log.h"
 
 namespace startup {
 
 // Passes everything on to another loader. It and the log outlive this and its pictures.
-class NotingPictures final : public os::PictureLoader {
+class NotingPictures final : public pictures::PictureLoader {
  public:
-  NotingPictures(os::PictureLoader& pictures, os::Files& files, FailureLog& log)
+  NotingPictures(pictures::PictureLoader& pictures, os::Files& files, FailureLog& log)
       : pictures_(pictures), files_(files), log_(log) {}
 
-  std::shared_ptr<const os::PictureFile> open(const std::string& path) override;
+  std::shared_ptr<const pictures::PictureFile> open(const std::string& path) override;
 
  private:
-  os::PictureLoader& pictures_;
+  pictures::PictureLoader& pictures_;
   os::Files& files_;
   FailureLog& log_;
 };

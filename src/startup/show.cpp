@@ -10,7 +10,7 @@ namespace startup {
 
 namespace {
 
-saver::ShowServices With(os::PictureLoader& pictures, const saver::ShowServices& s) {
+saver::ShowServices With(pictures::PictureLoader& pictures, const saver::ShowServices& s) {
   return {s.files, s.ansi, pictures, s.clock, s.loop, s.screen, s.flags, s.dates, s.stage, s.window};
 }
 

@@ -15,8 +15,8 @@
 #include "os/file_head_win.h"
 #include "os/files_win.h"
 #include "os/picture_decoder_win.h"
-#include "os/picture_loader.h"
 #include "os/utf16_win.h"
+#include "pictures/picture_loader.h"
 #include "support/temporary_folder_win.h"
 #include "support/wic_encoder_win.h"
 
@@ -56,7 +56,7 @@ void DecodeAlone(const std::string& path) {
 class Way {
  public:
   void show(const std::string& path) {
-    const std::shared_ptr<const os::PictureFile> file = loader_.open(path);
+    const std::shared_ptr<const pictures::PictureFile> file = loader_.open(path);
     if (!file) throw std::runtime_error("a picture of the benchmark cannot be opened");
     const base::PixelSize size = file->size();
     const base::PixelSize shown{kScreen.height * size.width / size.height, kScreen.height};
@@ -81,7 +81,7 @@ class Way {
  private:
   os::FileHeadWin heads_;
   os::PictureDecoderWin decoder_;
-  os::FilePictureLoader loader_{heads_, decoder_};
+  pictures::FilePictureLoader loader_{heads_, decoder_};
   BenchStage stage_{kScreen};
 };
 

@@ -5,13 +5,14 @@ set -u
 cd "$(dirname "$0")/../.."
 declare -A may=(
   [base]="base"
+  [pictures]="base os pictures"
   [os]="base os"
-  [forms]="base os forms"
+  [forms]="base os pictures forms"
   [settings]="base os settings"
-  [startup]="base os forms settings startup saver dialog auxwin"
-  [saver]="base os forms settings saver"
-  [dialog]="base os forms settings auxwin dialog"
-  [auxwin]="base os forms auxwin"
+  [startup]="base os pictures forms settings startup saver dialog auxwin"
+  [saver]="base os pictures forms settings saver"
+  [dialog]="base os pictures forms settings auxwin dialog"
+  [auxwin]="base os pictures forms auxwin"
 )
 bad=0
 for room in "${!may[@]}"; do

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "os/picture_loader.h"
+#include "pictures/picture_loader.h"
 #include "support/fake_picture_decoder.h"
 #include "support/settings_dialog_machine.h"
 
@@ -25,7 +25,7 @@ struct HostileChoice : testing::Test {
   support::SettingsDialogMachine machine;
   support::FakeFileHead heads;
   support::FakePictureDecoder none;  // the machine's own decoder refuses everything
-  os::FilePictureLoader loader{heads, none};
+  pictures::FilePictureLoader loader{heads, none};
 };
 
 TEST_F(HostileChoice, APictureThatCannotBeDrawnGivesTheMessageOnceAndNoThumbnail) {

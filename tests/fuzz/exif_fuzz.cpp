@@ -4,23 +4,23 @@
 
 #include "fuzz/input.h"
 #include "fuzz/require.h"
-#include "os/exif.h"
-#include "os/jpeg_segments.h"
-#include "os/picture_header.h"
+#include "pictures/exif.h"
+#include "pictures/jpeg_segments.h"
+#include "pictures/picture_header.h"
 #include "support/jpeg_builder.h"
 
 namespace {
 
 void CheckOrientation(std::string_view head) {
-  const auto orientation = os::ReadExifOrientation(head);
+  const auto orientation = pictures::ReadExifOrientation(head);
   fuzz::Require(orientation >= base::Orientation::upright && orientation <= base::Orientation::turnedRight,
                 "an orientation is one of eight");
-  fuzz::Require(os::BeginsLikeJpeg(head) || orientation == base::Orientation::upright,
+  fuzz::Require(pictures::BeginsLikeJpeg(head) || orientation == base::Orientation::upright,
                 "what is no JPEG file stands upright");
 }
 
 void CheckSegments(std::string_view head) {
-  os::JpegSegments segments(head);
+  pictures::JpegSegments segments(head);
   const char* end = head.data();
   while (const auto segment = segments.next()) {
     const std::string_view content = segment->content;
@@ -34,22 +34,22 @@ void CheckSegments(std::string_view head) {
 
 // Whoever reads a longer head of the same file finds what was found in the shorter one.
 void CheckShorterHeads(std::string_view head) {
-  const auto whole = os::ReadPictureHeader(head);
-  const auto wholeOrientation = os::ReadExifOrientation(head);
+  const auto whole = pictures::ReadPictureHeader(head);
+  const auto wholeOrientation = pictures::ReadExifOrientation(head);
   for (const std::size_t cut : {head.size() / 4, head.size() / 2, head.size() - head.size() / 8}) {
-    const auto shorter = os::ReadPictureHeader(head.substr(0, cut));
+    const auto shorter = pictures::ReadPictureHeader(head.substr(0, cut));
     if (shorter) {
       fuzz::Require(whole && whole->kind == shorter->kind, "the kind stays");
       fuzz::Require(!shorter->size || whole->size == shorter->size, "a size stays");
     }
-    const auto orientation = os::ReadExifOrientation(head.substr(0, cut));
+    const auto orientation = pictures::ReadExifOrientation(head.substr(0, cut));
     fuzz::Require(orientation == base::Orientation::upright || orientation == wholeOrientation,
                   "an orientation stays");
   }
 }
 
 void CheckSize(std::string_view head) {
-  const auto header = os::ReadPictureHeader(head);
+  const auto header = pictures::ReadPictureHeader(head);
   fuzz::Require(!header || !header->size || !header->size->isEmpty(), "a size has an area");
 }
 
@@ -59,9 +59,9 @@ void CheckBehindAnything(std::string_view content) {
   const int orientation = content.empty() ? 1 : 1 + (static_cast<unsigned char>(content.back()) & 7);
   const std::string file =
       support::JpegHead(before + support::ExifSegment(orientation, content.size() % 2 == 0), {640, 480});
-  fuzz::Require(static_cast<int>(os::ReadExifOrientation(file)) == orientation,
+  fuzz::Require(static_cast<int>(pictures::ReadExifOrientation(file)) == orientation,
                 "an orientation is found behind other segments");
-  const auto header = os::ReadPictureHeader(file);
+  const auto header = pictures::ReadPictureHeader(file);
   fuzz::Require(header && header->size == base::PixelSize{640, 480}, "a size is found behind other segments");
 }
 

@@ -7,10 +7,10 @@
 #include "fuzz/input.h"
 #include "fuzz/oracles/naive_lzw.h"
 #include "fuzz/require.h"
-#include "os/gif_blocks.h"
-#include "os/gif_first_frame.h"
-#include "os/lzw_decoder.h"
-#include "os/picture_limits.h"
+#include "pictures/gif_blocks.h"
+#include "pictures/gif_first_frame.h"
+#include "pictures/lzw_decoder.h"
+#include "pictures/picture_limits.h"
 #include "support/gif_builder.h"
 
 namespace {
@@ -46,7 +46,7 @@ std::vector<int> RowsOfFile(int height, bool interlaced) {
   return rows;
 }
 
-base::Pixel ColorOf(const os::GifFrameBlock& block, std::uint8_t index) {
+base::Pixel ColorOf(const pictures::GifFrameBlock& block, std::uint8_t index) {
   if (block.transparentIndex == index) return base::kTransparent;
   if (block.colors.empty()) return 0xFF000000U | index * 0x10101U;
   const std::size_t at = std::size_t{index} * 3;
@@ -58,7 +58,7 @@ base::Pixel ColorOf(const os::GifFrameBlock& block, std::uint8_t index) {
 }
 
 // A row as it must come out; `indices` are all that the file gave.
-std::vector<base::Pixel> ExpectedRow(const os::GifFrameBlock& block, int width, const Indices& indices,
+std::vector<base::Pixel> ExpectedRow(const pictures::GifFrameBlock& block, int width, const Indices& indices,
                                      std::size_t positionInFile) {
   std::vector<base::Pixel> row(static_cast<std::size_t>(width), base::kTransparent);
   const auto frameWidth = static_cast<std::size_t>(block.place.width);
@@ -70,7 +70,8 @@ std::vector<base::Pixel> ExpectedRow(const os::GifFrameBlock& block, int width, 
   return row;
 }
 
-void CheckRows(const os::GifFirstFrame& frame, const os::GifFrameBlock& block, const Indices& indices) {
+void CheckRows(const pictures::GifFirstFrame& frame, const pictures::GifFrameBlock& block,
+               const Indices& indices) {
   const int width = frame.size().width;
   const std::vector<int> rows = RowsOfFile(block.place.height, block.interlaced);
   const std::size_t compared = std::min(rows.size(), kMostCompared / static_cast<std::size_t>(width) + 1);
@@ -94,9 +95,9 @@ void CheckRows(const os::GifFirstFrame& frame, const os::GifFrameBlock& block, c
 }
 
 void CheckFile(std::string_view file) {
-  const auto block = os::FindFirstGifFrame(file);
-  const auto size = os::ReadGifSize(file);
-  const auto frame = os::GifFirstFrame::decode(file);
+  const auto block = pictures::FindFirstGifFrame(file);
+  const auto size = pictures::ReadGifSize(file);
+  const auto frame = pictures::GifFirstFrame::decode(file);
   fuzz::Require(block.has_value() == size.has_value(), "a described frame has a size");
   if (!block) {
     fuzz::Require(!frame, "what is not described is not decoded");
@@ -112,8 +113,9 @@ void CheckFile(std::string_view file) {
   if (codeSize >= 1 && codeSize <= 11) {
     indices = fuzz::NaiveLzw(codeSize, SubBlocks(file, block->data + 1), std::min(pixels, kMostCompared));
   }
-  fuzz::Require(frame.has_value() == (os::IsDecodable(*size, os::kGifBytesPerPixel) && !indices.empty()),
-                "a frame is decoded where there is a pixel");
+  fuzz::Require(
+      frame.has_value() == (pictures::IsDecodable(*size, pictures::kGifBytesPerPixel) && !indices.empty()),
+      "a frame is decoded where there is a pixel");
   if (!frame) return;
   fuzz::Require(frame->size() == *size, "the decoded size is the one announced");
   CheckRows(*frame, *block, indices);
@@ -126,7 +128,7 @@ void CheckCodes(std::string_view bytes) {
   const std::string_view data = bytes.substr(1);
   const Indices expected = fuzz::NaiveLzw(codeSize, data, kMostCompared);
   for (const std::size_t step : {data.size() + 1, std::size_t{1}, std::size_t{255}}) {
-    os::LzwDecoder decoder(codeSize);
+    pictures::LzwDecoder decoder(codeSize);
     Indices out;
     for (std::size_t at = 0; at < data.size(); at += step) {
       if (!decoder.decode(data.substr(at, step), out, kMostCompared)) break;

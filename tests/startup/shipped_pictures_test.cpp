@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "os/byte_reader.h"
-#include "os/gif_first_frame.h"
-#include "os/picture_header.h"
+#include "pictures/byte_reader.h"
+#include "pictures/gif_first_frame.h"
+#include "pictures/picture_header.h"
 #include "startup/preview_image.h"
 
 namespace {
@@ -19,7 +19,7 @@ std::string ReadAsset(const std::string& name) {
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-std::set<base::Pixel> ColorsOf(const os::GifFirstFrame& picture) {
+std::set<base::Pixel> ColorsOf(const pictures::GifFirstFrame& picture) {
   std::set<base::Pixel> colors;
   std::vector<base::Pixel> row(static_cast<std::size_t>(picture.size().width));
   for (int y = 0; y < picture.size().height; ++y) {
@@ -32,7 +32,7 @@ std::set<base::Pixel> ColorsOf(const os::GifFirstFrame& picture) {
 TEST(ShippedPictures, BothSamplesAreDecodedToTheirLastPixel) {
   for (const char* name : {"image1.gif", "image2.gif"}) {
     const std::string file = ReadAsset(name);
-    const auto picture = os::GifFirstFrame::decode(file);
+    const auto picture = pictures::GifFirstFrame::decode(file);
     ASSERT_TRUE(picture) << name;
     EXPECT_EQ(picture->size(), (base::PixelSize{1600, 900})) << name;
     EXPECT_FALSE(picture->mayBeTransparent()) << name;
@@ -44,7 +44,7 @@ TEST(ShippedPictures, BothSamplesAreDecodedToTheirLastPixel) {
 TEST(ShippedPictures, ASampleCutShortShowsItsUpperPart) {
   std::string file = ReadAsset("image1.gif");
   file.resize(file.size() / 2);
-  const auto picture = os::GifFirstFrame::decode(file);
+  const auto picture = pictures::GifFirstFrame::decode(file);
   ASSERT_TRUE(picture);
   EXPECT_TRUE(picture->mayBeTransparent());
   EXPECT_TRUE(ColorsOf(*picture).contains(base::kTransparent));
@@ -66,14 +66,14 @@ TEST(ShippedPictures, ThePreviewIsOpaqueAndOfItsSize) {
 
 TEST(ShippedPictures, TheIconHasEverySizeThatTheSystemShows) {
   const std::string file = ReadAsset("lumora.ico");
-  const os::ByteReader bytes(file, os::ByteOrder::littleEndian);
+  const pictures::ByteReader bytes(file, pictures::ByteOrder::littleEndian);
   std::vector<int> sides;
   for (std::size_t i = 0; i < bytes.u16(4).value_or(0); ++i) {
     const std::size_t entry = 6 + 16 * i;
     const std::size_t length = bytes.u32(entry + 8).value();
     const std::size_t start = bytes.u32(entry + 12).value();
     ASSERT_LE(start + length, file.size());
-    const auto picture = os::ReadPictureHeader(std::string_view(file).substr(start, length));
+    const auto picture = pictures::ReadPictureHeader(std::string_view(file).substr(start, length));
     if (!picture) {
       EXPECT_EQ(bytes.u32(start), 40U);       // a bitmap header
       EXPECT_EQ(bytes.u16(start + 14), 32U);  // bits a pixel

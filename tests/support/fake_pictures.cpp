@@ -9,7 +9,7 @@ namespace support {
 
 namespace {
 
-class FakePictureFile : public os::PictureFile {
+class FakePictureFile : public pictures::PictureFile {
  public:
   using Draw = std::function<std::optional<base::Bitmap>(base::PixelSize)>;
 
@@ -31,7 +31,7 @@ class FakePictureFile : public os::PictureFile {
 
 }  // namespace
 
-std::shared_ptr<const os::PictureFile> FakePictures::open(const std::string& path) {
+std::shared_ptr<const pictures::PictureFile> FakePictures::open(const std::string& path) {
   opened.push_back(path);
   const auto found = files_.find(path);
   if (found != files_.end()) return found->second;

@@ -5,13 +5,13 @@
 #include <string>
 #include <vector>
 
-#include "os/pictures.h"
+#include "pictures/pictures.h"
 
 namespace support {
 
-class FakePictures : public os::PictureLoader {
+class FakePictures : public pictures::PictureLoader {
  public:
-  std::shared_ptr<const os::PictureFile> open(const std::string& path) override;
+  std::shared_ptr<const pictures::PictureFile> open(const std::string& path) override;
 
   void add(const std::string& path, base::PixelSize size, base::PackedColor color);
 
@@ -22,13 +22,13 @@ class FakePictures : public os::PictureLoader {
   void add(const std::string& path, base::Bitmap pixels);
 
   // Asked for every path that has no picture here; null: there are no others.
-  os::PictureLoader* others = nullptr;
+  pictures::PictureLoader* others = nullptr;
 
   std::vector<std::string> opened;          // paths in the order of opening
   std::vector<base::PixelSize> drawnSizes;  // sizes in the order of drawing
 
  private:
-  std::map<std::string, std::shared_ptr<const os::PictureFile>> files_;
+  std::map<std::string, std::shared_ptr<const pictures::PictureFile>> files_;
 };
 
 }  // namespace support

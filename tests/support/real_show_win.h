@@ -10,8 +10,8 @@
 #include "os/file_head_win.h"
 #include "os/files_win.h"
 #include "os/picture_decoder_win.h"
-#include "os/picture_loader.h"
 #include "os/text_renderer_win.h"
+#include "pictures/picture_loader.h"
 #include "saver/form1.h"
 #include "saver/stage_window_win.h"
 #include "support/fake_screen.h"
@@ -50,7 +50,7 @@ class RealShow {
   os::AnsiCodePageWin ansi_;
   os::FileHeadWin heads_;
   os::PictureDecoderWin decoder_;
-  os::FilePictureLoader pictures_{heads_, decoder_};
+  pictures::FilePictureLoader pictures_{heads_, decoder_};
   std::unique_ptr<os::DateText> dates_;
   FakeScreen screen_;
   FakeSystemFlags flags_;

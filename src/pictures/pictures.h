@@ -8,7 +8,7 @@
 #include "base/bitmap.h"
 #include "base/geometry.h"
 
-namespace os {
+namespace pictures {
 
 // One picture file whose header has been read. Its pixels are decoded by draw() alone.
 class PictureFile {
@@ -32,4 +32,4 @@ class PictureLoader {
   virtual std::shared_ptr<const PictureFile> open(const std::string& path) = 0;
 };
 
-}  // namespace os
+}  // namespace pictures

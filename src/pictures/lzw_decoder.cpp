@@ -1,8 +1,8 @@
-#include "os/lzw_decoder.h"
+#include "pictures/lzw_decoder.h"
 
 #include <algorithm>
 
-namespace os {
+namespace pictures {
 
 LzwDecoder::LzwDecoder(int minimumCodeSize)
     : minimumCodeSize_(minimumCodeSize), clearCode_(1 << minimumCodeSize) {
@@ -77,4 +77,4 @@ void LzwDecoder::append(int code, std::vector<std::uint8_t>& out, std::size_t li
   }
 }
 
-}  // namespace os
+}  // namespace pictures

@@ -5,10 +5,10 @@
 
 #include "base/orientation.h"
 
-namespace os {
+namespace pictures {
 
 // From the file's first bytes; 256 KiB hold every Exif block, which is at most 64 KiB and stands near the
 // beginning. Upright when there is none, or none that can be understood.
 base::Orientation ReadExifOrientation(std::string_view jpegHead);
 
-}  // namespace os
+}  // namespace pictures

@@ -1,11 +1,11 @@
-#include "os/exif.h"
+#include "pictures/exif.h"
 
 #include <optional>
 
-#include "os/byte_reader.h"
-#include "os/jpeg_segments.h"
+#include "pictures/byte_reader.h"
+#include "pictures/jpeg_segments.h"
 
-namespace os {
+namespace pictures {
 
 namespace {
 
@@ -58,4 +58,4 @@ base::Orientation ReadExifOrientation(std::string_view jpegHead) {
   return base::Orientation::upright;
 }
 
-}  // namespace os
+}  // namespace pictures

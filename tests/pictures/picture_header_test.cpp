@@ -1,4 +1,4 @@
-#include "os/picture_header.h"
+#include "pictures/picture_header.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include "support/gif_builder.h"
 #include "support/jpeg_builder.h"
 
-namespace os {
+namespace pictures {
 namespace {
 
 std::string BitmapHead(const std::string& info) { return "BM" + std::string(12, '\0') + info; }
@@ -114,4 +114,4 @@ TEST(PictureHeader, EverythingElseIsNoPicture) {
 }
 
 }  // namespace
-}  // namespace os
+}  // namespace pictures

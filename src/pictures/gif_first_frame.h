@@ -10,7 +10,7 @@
 #include "base/bitmap.h"
 #include "base/geometry.h"
 
-namespace os {
+namespace pictures {
 
 bool BeginsLikeGif(std::string_view head);
 
@@ -50,4 +50,4 @@ class GifFirstFrame {
   std::vector<std::uint8_t> indices_;  // of the frame, row after row as the file has them
 };
 
-}  // namespace os
+}  // namespace pictures

@@ -3,21 +3,21 @@
 
 #include "os/file_head.h"
 #include "os/picture_decoder.h"
-#include "os/pictures.h"
+#include "pictures/pictures.h"
 
-namespace os {
+namespace pictures {
 
 // GIF files are decoded by the program itself, so that their first frame is composed everywhere alike; the
 // others by the machine's decoder. Both arguments outlive the loader and its pictures.
 class FilePictureLoader final : public PictureLoader {
  public:
-  FilePictureLoader(FileHead& heads, PictureDecoder& decoder) : heads_(heads), decoder_(decoder) {}
+  FilePictureLoader(os::FileHead& heads, os::PictureDecoder& decoder) : heads_(heads), decoder_(decoder) {}
 
   std::shared_ptr<const PictureFile> open(const std::string& path) override;
 
  private:
-  FileHead& heads_;
-  PictureDecoder& decoder_;
+  os::FileHead& heads_;
+  os::PictureDecoder& decoder_;
 };
 
-}  // namespace os
+}  // namespace pictures

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace os {
+namespace pictures {
 
 class LzwDecoder {
  public:
@@ -44,4 +44,4 @@ class LzwDecoder {
   std::array<std::uint16_t, 1 << kMostBits> length_{};
 };
 
-}  // namespace os
+}  // namespace pictures

@@ -6,7 +6,7 @@
 
 #include "base/geometry.h"
 
-namespace os {
+namespace pictures {
 
 enum class PictureKind { bitmap, gif, jpeg, png };
 
@@ -25,4 +25,4 @@ struct PictureHeader {
 // Decided by what the file holds, whatever its name says. Nothing when it is no picture of a known kind.
 std::optional<PictureHeader> ReadPictureHeader(std::string_view head);
 
-}  // namespace os
+}  // namespace pictures

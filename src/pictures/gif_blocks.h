@@ -8,7 +8,7 @@
 
 #include "base/geometry.h"
 
-namespace os {
+namespace pictures {
 
 struct GifFrameBlock {
   base::PixelSize screen;  // as the header says, possibly empty
@@ -26,4 +26,4 @@ std::optional<GifFrameBlock> FindFirstGifFrame(std::string_view file);
 // series, or at the end of the bytes; the last one is cut short there.
 std::optional<std::string_view> NextGifSubBlock(std::string_view file, std::size_t& offset);
 
-}  // namespace os
+}  // namespace pictures

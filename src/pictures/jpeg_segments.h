@@ -5,9 +5,9 @@
 #include <optional>
 #include <string_view>
 
-#include "os/byte_reader.h"
+#include "pictures/byte_reader.h"
 
-namespace os {
+namespace pictures {
 
 // Before the first image data.
 constexpr std::uint8_t kStartOfScan = 0xDA;
@@ -34,4 +34,4 @@ class JpegSegments {
 // True when the bytes begin as a JPEG file does.
 bool BeginsLikeJpeg(std::string_view head);
 
-}  // namespace os
+}  // namespace pictures

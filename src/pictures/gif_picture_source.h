@@ -3,12 +3,12 @@
 
 #include <utility>
 
-#include "os/gif_first_frame.h"
 #include "os/picture_decoder.h"
+#include "pictures/gif_first_frame.h"
 
-namespace os {
+namespace pictures {
 
-class GifPictureSource final : public PictureSource {
+class GifPictureSource final : public os::PictureSource {
  public:
   explicit GifPictureSource(GifFirstFrame frame) : frame_(std::move(frame)) {}
 
@@ -26,4 +26,4 @@ class GifPictureSource final : public PictureSource {
   GifFirstFrame frame_;
 };
 
-}  // namespace os
+}  // namespace pictures

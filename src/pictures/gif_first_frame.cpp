@@ -1,12 +1,12 @@
-#include "os/gif_first_frame.h"
+#include "pictures/gif_first_frame.h"
 
 #include <algorithm>
 
-#include "os/gif_blocks.h"
-#include "os/lzw_decoder.h"
-#include "os/picture_limits.h"
+#include "pictures/gif_blocks.h"
+#include "pictures/lzw_decoder.h"
+#include "pictures/picture_limits.h"
 
-namespace os {
+namespace pictures {
 
 namespace {
 
@@ -103,4 +103,4 @@ void GifFirstFrame::row(int y, base::Pixel* pixels) const {
   }
 }
 
-}  // namespace os
+}  // namespace pictures

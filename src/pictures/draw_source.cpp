@@ -1,4 +1,4 @@
-#include "os/draw_source.h"
+#include "pictures/draw_source.h"
 
 #include <algorithm>
 #include <vector>
@@ -7,7 +7,7 @@
 #include "base/premultiply.h"
 #include "base/resample.h"
 
-namespace os {
+namespace pictures {
 
 namespace {
 
@@ -18,7 +18,7 @@ bool HoldsWhole(base::PixelSize outer, base::PixelSize inner) {
   return outer.width >= inner.width && outer.height >= inner.height;
 }
 
-int BestReduction(const PictureSource& source, base::PixelSize wanted) {
+int BestReduction(const os::PictureSource& source, base::PixelSize wanted) {
   int best = 1;
   for (const int reduction : source.reductions()) {
     if (HoldsWhole(source.reducedSize(reduction), wanted)) best = std::max(best, reduction);
@@ -26,7 +26,7 @@ int BestReduction(const PictureSource& source, base::PixelSize wanted) {
   return best;
 }
 
-std::optional<base::Bitmap> Shrink(PictureSource& source, int reduction, base::PixelSize target) {
+std::optional<base::Bitmap> Shrink(os::PictureSource& source, int reduction, base::PixelSize target) {
   const base::PixelSize size = source.reducedSize(reduction);
   if (!HoldsWhole(size, target)) return std::nullopt;
   base::AreaAverage average(size, target);
@@ -51,7 +51,7 @@ std::optional<base::Bitmap> Shrink(PictureSource& source, int reduction, base::P
 
 }  // namespace
 
-std::optional<base::Bitmap> DrawSource(PictureSource& source, base::PixelSize target) {
+std::optional<base::Bitmap> DrawSource(os::PictureSource& source, base::PixelSize target) {
   const base::PixelSize smaller{std::min(source.size().width, target.width),
                                 std::min(source.size().height, target.height)};
   const int reduction = BestReduction(source, smaller);
@@ -61,4 +61,4 @@ std::optional<base::Bitmap> DrawSource(PictureSource& source, base::PixelSize ta
   return base::Resample(*picture, target);
 }
 
-}  // namespace os
+}  // namespace pictures

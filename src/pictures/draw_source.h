@@ -6,11 +6,11 @@
 #include "base/bitmap.h"
 #include "os/picture_decoder.h"
 
-namespace os {
+namespace pictures {
 
 // The whole picture, not turned, at `target`: decoded by as large a reduction as leaves it no smaller, then
 // averaged while its rows come in; the rows at full resolution are never held together. Nothing when a row
 // cannot be decoded.
-std::optional<base::Bitmap> DrawSource(PictureSource& source, base::PixelSize target);
+std::optional<base::Bitmap> DrawSource(os::PictureSource& source, base::PixelSize target);
 
-}  // namespace os
+}  // namespace pictures

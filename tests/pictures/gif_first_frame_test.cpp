@@ -1,4 +1,4 @@
-#include "os/gif_first_frame.h"
+#include "pictures/gif_first_frame.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@
 
 #include "support/gif_builder.h"
 
-namespace os {
+namespace pictures {
 namespace {
 
 using support::GifBuilder;
@@ -234,4 +234,4 @@ TEST(GifFirstFrame, TheSizeIsReadAsSoonAsTheFrameIsDescribed) {
 }
 
 }  // namespace
-}  // namespace os
+}  // namespace pictures

@@ -11,21 +11,21 @@
 
 #include "os/file_head_win.h"
 #include "os/picture_decoder_win.h"
-#include "os/picture_loader.h"
 #include "os/wide_path_win.h"
+#include "pictures/picture_loader.h"
 #include "support/hostile/bitmap_files.h"
 #include "support/temporary_folder_win.h"
 #include "support/wic_encoder_win.h"
 
-namespace os {
+namespace pictures {
 namespace {
 
 constexpr base::PixelSize kThumbnail{48, 36};
 constexpr SIZE_T kMost = SIZE_T{1} << 30;
 
 void WriteFileAt(const std::string& path, const std::string& bytes) {
-  const FileHandle file(
-      CreateFileW(WidePath(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+  const os::FileHandle file(
+      CreateFileW(os::WidePath(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
   DWORD written = 0;
   ASSERT_TRUE(file.isOpen()) << path;
   ASSERT_TRUE(WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr));
@@ -58,8 +58,8 @@ class HostilePicturesWin : public testing::Test {
 
   support::ComScope com;
   support::TemporaryFolder folder;
-  FileHeadWin heads;
-  PictureDecoderWin decoder;
+  os::FileHeadWin heads;
+  os::PictureDecoderWin decoder;
   FilePictureLoader loader{heads, decoder};
 };
 
@@ -105,7 +105,7 @@ TEST_F(HostilePicturesWin, TheMeasureOfMemorySeesWhatIsUsed) {
 
 TEST_F(HostilePicturesWin, AFolderWithAPicturesNameIsRefused) {
   const std::string path = folder.path() + "\\x.jpg";
-  ASSERT_TRUE(CreateDirectoryW(WidePath(path).c_str(), nullptr));
+  ASSERT_TRUE(CreateDirectoryW(os::WidePath(path).c_str(), nullptr));
   EXPECT_FALSE(loader.open(path));
 }
 
@@ -126,7 +126,7 @@ TEST_F(HostilePicturesWin, ANamedPipeIsNotWaitedFor) {
   const HANDLE pipe =
       CreateNamedPipeW(name.c_str(), PIPE_ACCESS_DUPLEX, PIPE_TYPE_BYTE | PIPE_WAIT, 1, 0, 0, 0, nullptr);
   ASSERT_NE(pipe, INVALID_HANDLE_VALUE);
-  const FileHandle owner(pipe);
+  const os::FileHandle owner(pipe);
   EXPECT_FALSE(loader.open("\\\\.\\pipe\\lumora-test-" + std::to_string(GetCurrentProcessId())));
 }
 
@@ -134,7 +134,7 @@ TEST_F(HostilePicturesWin, APathOfThreeHundredCharactersIsAsGoodAsAnyOther) {
   std::string path = folder.path();
   while (path.size() < 300 - 60) {
     path += "\\" + std::string(50, 'p');
-    ASSERT_TRUE(CreateDirectoryW(WidePath(path, 12).c_str(), nullptr)) << GetLastError();
+    ASSERT_TRUE(CreateDirectoryW(os::WidePath(path, 12).c_str(), nullptr)) << GetLastError();
   }
   path += "\\" + std::string(300 - path.size() - 5, 'f') + ".bmp";
   ASSERT_EQ(path.size(), 300U);
@@ -162,9 +162,9 @@ TEST_F(HostilePicturesWin, AFileThatGrowsOrShrinksBehindTheProgramsBackIsDrawnOr
   EXPECT_FALSE(opened->draw(kThumbnail));
   WriteFileAt(path, whole);
   EXPECT_TRUE(opened->draw(kThumbnail));
-  DeleteFileW(WidePath(path).c_str());
+  DeleteFileW(os::WidePath(path).c_str());
   EXPECT_FALSE(opened->draw(kThumbnail));
 }
 
 }  // namespace
-}  // namespace os
+}  // namespace pictures

@@ -1,4 +1,4 @@
-#include "os/exif.h"
+#include "pictures/exif.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 
 #include "support/jpeg_builder.h"
 
-namespace os {
+namespace pictures {
 namespace {
 
 using support::ExifSegment;
@@ -113,4 +113,4 @@ TEST(Exif, NoiseIsUprightOrAnOrientation) {
 }
 
 }  // namespace
-}  // namespace os
+}  // namespace pictures

@@ -1,4 +1,4 @@
-#include "os/picture_loader.h"
+#include "pictures/picture_loader.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@
 #include "support/gif_builder.h"
 #include "support/jpeg_builder.h"
 
-namespace os {
+namespace pictures {
 namespace {
 
 using Read = support::FakeStoredPicture::Read;
@@ -284,4 +284,4 @@ TEST_F(PictureLoader, AGifWithoutOnePixelIsNull) {
 }
 
 }  // namespace
-}  // namespace os
+}  // namespace pictures

@@ -1,9 +1,9 @@
-#include "os/gif_blocks.h"
+#include "pictures/gif_blocks.h"
 
-#include "os/byte_reader.h"
-#include "os/gif_first_frame.h"
+#include "pictures/byte_reader.h"
+#include "pictures/gif_first_frame.h"
 
-namespace os {
+namespace pictures {
 
 namespace {
 
@@ -82,4 +82,4 @@ std::optional<GifFrameBlock> FindFirstGifFrame(std::string_view file) {
   return std::nullopt;
 }
 
-}  // namespace os
+}  // namespace pictures

@@ -1,6 +1,6 @@
-#include "os/jpeg_segments.h"
+#include "pictures/jpeg_segments.h"
 
-namespace os {
+namespace pictures {
 
 namespace {
 
@@ -38,4 +38,4 @@ std::optional<JpegSegment> JpegSegments::next() {
 
 bool BeginsLikeJpeg(std::string_view head) { return head.substr(0, 3) == "\xFF\xD8\xFF"; }
 
-}  // namespace os
+}  // namespace pictures

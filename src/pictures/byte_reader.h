@@ -6,7 +6,7 @@
 #include <optional>
 #include <string_view>
 
-namespace os {
+namespace pictures {
 
 enum class ByteOrder { littleEndian, bigEndian };
 
@@ -47,4 +47,4 @@ class ByteReader {
   ByteOrder order_;
 };
 
-}  // namespace os
+}  // namespace pictures

@@ -1,17 +1,17 @@
-#include "os/picture_loader.h"
+#include "pictures/picture_loader.h"
 
 #include <functional>
 #include <new>
 #include <utility>
 
 #include "base/orientation.h"
-#include "os/draw_source.h"
-#include "os/exif.h"
-#include "os/gif_picture_source.h"
-#include "os/picture_header.h"
-#include "os/picture_limits.h"
+#include "pictures/draw_source.h"
+#include "pictures/exif.h"
+#include "pictures/gif_picture_source.h"
+#include "pictures/picture_header.h"
+#include "pictures/picture_limits.h"
 
-namespace os {
+namespace pictures {
 
 namespace {
 
@@ -24,7 +24,7 @@ struct CheckedHead {
   bool isWholeFile = false;
 };
 
-std::optional<CheckedHead> ReadHead(FileHead& heads, const std::string& path, std::size_t limit) {
+std::optional<CheckedHead> ReadHead(os::FileHead& heads, const std::string& path, std::size_t limit) {
   std::optional<std::string> bytes = heads.readHead(path, limit);
   if (!bytes) return std::nullopt;
   const auto header = ReadPictureHeader(*bytes);
@@ -34,7 +34,7 @@ std::optional<CheckedHead> ReadHead(FileHead& heads, const std::string& path, st
 }
 
 // The head of a picture whose claims have been found bearable; nothing for anything else.
-std::optional<CheckedHead> CheckHead(FileHead& heads, const std::string& path) {
+std::optional<CheckedHead> CheckHead(os::FileHead& heads, const std::string& path) {
   auto head = ReadHead(heads, path, kHeadBytes);
   if (head && !head->header.size && !head->isWholeFile) head = ReadHead(heads, path, kLongHeadBytes);
   if (!head || !head->header.size || !IsDecodable(*head->header.size, head->header.bytesPerPixel)) {
@@ -43,7 +43,8 @@ std::optional<CheckedHead> CheckHead(FileHead& heads, const std::string& path) {
   return head;
 }
 
-std::unique_ptr<PictureSource> OpenGif(FileHead& heads, const std::string& path, const CheckedHead& head) {
+std::unique_ptr<os::PictureSource> OpenGif(os::FileHead& heads, const std::string& path,
+                                           const CheckedHead& head) {
   std::optional<std::string> rest;
   if (!head.isWholeFile) rest = heads.readHead(path, GifBytesNeeded(*head.header.size, head.bytes.size()));
   auto frame = GifFirstFrame::decode(rest ? *rest : head.bytes);
@@ -51,7 +52,7 @@ std::unique_ptr<PictureSource> OpenGif(FileHead& heads, const std::string& path,
 }
 
 struct OpenedPicture {
-  std::unique_ptr<PictureSource> source;
+  std::unique_ptr<os::PictureSource> source;
   base::Orientation orientation = base::Orientation::upright;
 
   base::PixelSize uprightSize() const { return base::UprightSize(source->size(), orientation); }
@@ -59,7 +60,7 @@ struct OpenedPicture {
 
 // The source is null when there is no picture, or one that claims too much: looked at before a decoder
 // begins, and once more with the size that the decoder found.
-OpenedPicture OpenPicture(FileHead& heads, PictureDecoder& decoder, const std::string& path) {
+OpenedPicture OpenPicture(os::FileHead& heads, os::PictureDecoder& decoder, const std::string& path) {
   const auto head = CheckHead(heads, path);
   if (!head) return {};
   const bool isGif = head->header.kind == PictureKind::gif;
@@ -116,4 +117,4 @@ std::shared_ptr<const PictureFile> FilePictureLoader::open(const std::string& pa
   }
 }
 
-}  // namespace os
+}  // namespace pictures

@@ -1,14 +1,14 @@
-#include "os/picture_header.h"
+#include "pictures/picture_header.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <limits>
 
-#include "os/byte_reader.h"
-#include "os/gif_first_frame.h"
-#include "os/jpeg_segments.h"
+#include "pictures/byte_reader.h"
+#include "pictures/gif_first_frame.h"
+#include "pictures/jpeg_segments.h"
 
-namespace os {
+namespace pictures {
 
 namespace {
 
@@ -90,4 +90,4 @@ std::optional<PictureHeader> ReadPictureHeader(std::string_view head) {
   return std::nullopt;
 }
 
-}  // namespace os
+}  // namespace pictures

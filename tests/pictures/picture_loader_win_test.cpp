@@ -1,4 +1,4 @@
-#include "os/picture_loader.h"
+#include "pictures/picture_loader.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -15,7 +15,7 @@
 #include "support/temporary_folder_win.h"
 #include "support/wic_encoder_win.h"
 
-namespace os {
+namespace pictures {
 namespace {
 
 constexpr base::Pixel kRed = 0xFFFF0000U;
@@ -25,8 +25,8 @@ constexpr base::Pixel kWhite = 0xFFFFFFFFU;
 constexpr base::Pixel kBlack = 0xFF000000U;
 
 void WriteFileAt(const std::string& path, const std::string& bytes) {
-  const FileHandle file(
-      CreateFileW(WidePath(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+  const os::FileHandle file(
+      CreateFileW(os::WidePath(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
   DWORD written = 0;
   ASSERT_TRUE(file.isOpen()) << path;
   ASSERT_TRUE(WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr));
@@ -65,8 +65,8 @@ class PictureLoaderWin : public testing::Test {
 
   support::ComScope com;
   support::TemporaryFolder folder;
-  FileHeadWin heads;
-  PictureDecoderWin decoder;
+  os::FileHeadWin heads;
+  os::PictureDecoderWin decoder;
   FilePictureLoader loader{heads, decoder};
 };
 
@@ -208,7 +208,7 @@ TEST_F(PictureLoaderWin, PathsOverTwoHundredAndSixtyCharactersAreOpened) {
   std::string deep = folder.path();
   for (int i = 0; i < 4; ++i) {
     deep += "\\" + std::string(90, static_cast<char>('a' + i));
-    ASSERT_TRUE(CreateDirectoryW(WidePath(deep, 12).c_str(), nullptr)) << GetLastError();
+    ASSERT_TRUE(CreateDirectoryW(os::WidePath(deep, 12).c_str(), nullptr)) << GetLastError();
   }
   const std::string jpeg = support::Encode(FourFields({32, 32}), support::EncodedAs::jpeg);
   const std::string path = deep + "\\far away.jpg";
@@ -235,8 +235,8 @@ TEST_F(PictureLoaderWin, AFileLockedByAnotherIsNull) {
   const std::string path =
       put("a.bmp", support::TrueColorBmp(FourFields({4, 4}), support::RowOrder::bottomUp));
   {
-    const FileHandle lock(CreateFileW(WidePath(path).c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
-                                      OPEN_EXISTING, 0, nullptr));
+    const os::FileHandle lock(CreateFileW(os::WidePath(path).c_str(), GENERIC_READ | GENERIC_WRITE, 0,
+                                          nullptr, OPEN_EXISTING, 0, nullptr));
     ASSERT_TRUE(lock.isOpen());
     EXPECT_FALSE(loader.open(path));
   }
@@ -248,7 +248,7 @@ TEST_F(PictureLoaderWin, AnOpenedPictureIsInNobodysWay) {
       put("a.bmp", support::TrueColorBmp(FourFields({4, 4}), support::RowOrder::bottomUp));
   const auto opened = loader.open(path);
   ASSERT_TRUE(opened);
-  EXPECT_TRUE(DeleteFileW(WidePath(path).c_str()));
+  EXPECT_TRUE(DeleteFileW(os::WidePath(path).c_str()));
 }
 
 TEST_F(PictureLoaderWin, NothingIsHeldAfterADrawing) {
@@ -256,8 +256,8 @@ TEST_F(PictureLoaderWin, NothingIsHeldAfterADrawing) {
       put("a.bmp", support::TrueColorBmp(FourFields({4, 4}), support::RowOrder::bottomUp));
   const auto opened = loader.open(path);
   ASSERT_TRUE(opened->draw({4, 4}));
-  const FileHandle alone(CreateFileW(WidePath(path).c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
-                                     OPEN_EXISTING, 0, nullptr));
+  const os::FileHandle alone(CreateFileW(os::WidePath(path).c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
+                                         OPEN_EXISTING, 0, nullptr));
   EXPECT_TRUE(alone.isOpen());
 }
 
@@ -284,4 +284,4 @@ TEST_F(PictureLoaderWin, ABrokenPngDrawsNothing) {
 }
 
 }  // namespace
-}  // namespace os
+}  // namespace pictures

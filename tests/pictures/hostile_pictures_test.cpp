@@ -7,13 +7,13 @@
 #include <algorithm>
 #include <set>
 
-#include "os/picture_header.h"
-#include "os/picture_limits.h"
-#include "os/picture_loader.h"
+#include "pictures/picture_header.h"
+#include "pictures/picture_limits.h"
+#include "pictures/picture_loader.h"
 #include "support/allocation_watch.h"
 #include "support/fake_picture_decoder.h"
 
-namespace os {
+namespace pictures {
 namespace {
 
 constexpr base::PixelSize kThumbnail{48, 36};
@@ -21,11 +21,11 @@ constexpr base::PixelSize kThumbnail{48, 36};
 bool IsGif(const support::HostilePicture& picture) { return picture.bytes.starts_with("GIF8"); }
 
 // A decoder that opens everything that it is asked for, at the size that the file claims, and then breaks.
-class TrustingDecoder final : public PictureDecoder {
+class TrustingDecoder final : public os::PictureDecoder {
  public:
   explicit TrustingDecoder(support::FakeFileHead& heads) : heads_(heads) {}
 
-  std::unique_ptr<PictureSource> open(const std::string& path) override {
+  std::unique_ptr<os::PictureSource> open(const std::string& path) override {
     const auto header = ReadPictureHeader(heads_.content[path]);
     EXPECT_TRUE(header && header->size) << path << " has no size and came to the decoder";
     opened.insert(path);
@@ -35,7 +35,7 @@ class TrustingDecoder final : public PictureDecoder {
   std::set<std::string> opened;
 
  private:
-  class Source final : public PictureSource {
+  class Source final : public os::PictureSource {
    public:
     explicit Source(base::PixelSize size) : size_(size) {}
     base::PixelSize size() const override { return size_; }
@@ -131,4 +131,4 @@ TEST_F(HostilePictures, TheWatchOnAllocationsSeesThem) {
 }
 
 }  // namespace
-}  // namespace os
+}  // namespace pictures

@@ -6,7 +6,7 @@
 #include "base/area_average.h"
 #include "base/geometry.h"
 
-namespace os {
+namespace pictures {
 
 // Bytes that a decoder may hold at once: the largest cameras' pictures fit.
 constexpr std::int64_t kMostDecodingBytes = std::int64_t{1} << 30;
@@ -24,4 +24,4 @@ inline bool IsDecodable(base::PixelSize stored, int bytesPerPixel) {
          stored.width <= base::AreaAverage::kLongestSide && stored.height <= base::AreaAverage::kLongestSide;
 }
 
-}  // namespace os
+}  // namespace pictures
