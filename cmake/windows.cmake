@@ -5,6 +5,11 @@ set(system_libraries gdi32 user32 kernel32 advapi32 shell32 ole32 oleaut32 windo
 
 target_compile_definitions(lumora_flags INTERFACE UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX
                            _WIN32_WINNT=0x0A00 WINVER=0x0A00)
+# Single-precision arithmetic is rounded to single at every step, as on 64-bit Windows; the older floating-point
+# unit would carry more digits on and show other sizes. base/rounding.cpp refuses to compile without it.
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  target_compile_options(lumora_flags INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-msse2> $<$<COMPILE_LANGUAGE:CXX>:-mfpmath=sse>)
+endif()
 # The same binaries come out whenever they are built and wherever the sources lie.
 target_compile_options(lumora_flags INTERFACE -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
 target_link_options(lumora_flags INTERFACE -Wl,--no-insert-timestamp)
@@ -26,6 +31,9 @@ target_link_libraries(Lumora PRIVATE lumora_win)
 set(program_link_options -municode -static -s -Wl,--gc-sections -Wl,--dynamicbase -Wl,--nxcompat)
 if(CMAKE_SIZEOF_VOID_P EQUAL 8)
   list(APPEND program_link_options -Wl,--high-entropy-va)
+else()
+  # A large photo needs more than the 2 GB that a 32-bit program has by default.
+  list(APPEND program_link_options -Wl,--large-address-aware)
 endif()
 target_link_options(Lumora PRIVATE ${program_link_options})
 target_compile_options(lumora_flags INTERFACE -ffunction-sections -fdata-sections)

@@ -70,7 +70,7 @@ bool DialogComes(const e2e::RunningProgram& program) {
 TEST(Hardening, TheProgramIsLaidAtRandomAddressesAndRunsNoData) {
   const e2e::PeImage image = e2e::ReadPeImage(ProgramBytes());
   EXPECT_TRUE(image.dllCharacteristics & IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE);
-  EXPECT_TRUE(image.dllCharacteristics & IMAGE_DLLCHARACTERISTICS_HIGH_ENTROPY_VA);
+  EXPECT_EQ((image.dllCharacteristics & IMAGE_DLLCHARACTERISTICS_HIGH_ENTROPY_VA) != 0, sizeof(void*) == 8);
   EXPECT_TRUE(image.dllCharacteristics & IMAGE_DLLCHARACTERISTICS_NX_COMPAT);
   EXPECT_FALSE(image.characteristics & IMAGE_FILE_RELOCS_STRIPPED);
   EXPECT_TRUE(image.characteristics & IMAGE_FILE_LARGE_ADDRESS_AWARE);

@@ -9,7 +9,11 @@ namespace e2e {
 namespace {
 
 constexpr std::size_t kOptionalHeader = 24;  // from the signature
-constexpr std::size_t kDirectories = 112;    // from the optional header of a 64-bit program
+// The optional header of a program of 32 and of 64 bits: its mark, and where its directories begin.
+constexpr unsigned kMark32 = 0x10B;
+constexpr unsigned kMark64 = 0x20B;
+constexpr std::size_t kDirectories32 = 96;
+constexpr std::size_t kDirectories64 = 112;
 constexpr std::size_t kSectionBytes = 40;
 constexpr unsigned kImports = 1;
 constexpr unsigned kRelocations = 5;
@@ -25,8 +29,10 @@ class Reader {
  public:
   explicit Reader(std::string_view bytes) : bytes_(bytes) {
     signature_ = number(0x3C, 4);
-    if (bytes_.substr(signature_, 2) != "PE" || number(signature_ + kOptionalHeader, 2) != 0x20B)
-      throw std::out_of_range("no 64-bit program");
+    const std::uint32_t mark = number(signature_ + kOptionalHeader, 2);
+    if (bytes_.substr(signature_, 2) != "PE" || (mark != kMark32 && mark != kMark64))
+      throw std::out_of_range("no program");
+    directories_ = signature_ + kOptionalHeader + (mark == kMark64 ? kDirectories64 : kDirectories32);
   }
 
   PeImage read() {
@@ -55,9 +61,7 @@ class Reader {
     return value;
   }
 
-  std::size_t directory(unsigned which) const {
-    return signature_ + kOptionalHeader + kDirectories + std::size_t{8} * which;
-  }
+  std::size_t directory(unsigned which) const { return directories_ + std::size_t{8} * which; }
 
   std::size_t offsetOf(std::uint32_t address) const {
     for (const Section& section : sections_) {
@@ -83,6 +87,7 @@ class Reader {
 
   std::string_view bytes_;
   std::size_t signature_ = 0;
+  std::size_t directories_ = 0;
   std::vector<Section> sections_;
 };
 

@@ -21,7 +21,7 @@ struct PeImage {
   std::vector<std::string> imports;  // names of libraries, in lower case, delayed ones too
 };
 
-// Of a 64-bit program. Throws std::out_of_range for bytes that are none.
+// Of a program of 32 or 64 bits. Throws std::out_of_range for bytes that are none.
 PeImage ReadPeImage(std::string_view bytes);
 
 }  // namespace e2e
