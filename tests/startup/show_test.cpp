@@ -21,8 +21,8 @@ class ShowTest : public testing::Test {
     show.emplace(
         saver::ShowServices{services.files, services.ansi, services.pictures, services.clock, services.loop,
                             services.screen, restore, services.dates, services.stage, services.window},
-        startup::SaverExit::Services{machine.passwords, restore, stage.screen, restore, restore}, restore,
-        facts, support::ShowStage::programFolder(), [this] {
+        startup::SaverExit::Services{machine.passwords, restore, stage.screen}, restore, facts,
+        support::ShowStage::programFolder(), [this] {
           auto cover = std::make_unique<support::FakeStageWindow>(base::PixelSize{1, 1});
           covers.push_back(cover.get());
           return cover;
