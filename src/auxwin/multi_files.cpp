@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "base/number_text.h"
+#include "os/paths.h"
 
 namespace auxwin {
 
@@ -17,12 +18,12 @@ void Place(forms::Control& control, float left, float top, float width, float he
 
 }  // namespace
 
-MultiFiles::MultiFiles(PictureTarget target, os::Folders& folders, forms::Dialogs& dialogs,
+MultiFiles::MultiFiles(PictureTarget target, os::Files& disk, forms::Dialogs& dialogs,
                        forms::WindowSystem& windows)
     : Form("MultiFiles"),
-      drvDrives(*this, "drvDrives", folders),
-      dirDirectories(*this, "dirDirectories", folders),
-      filFilenames(*this, "filFilenames", folders),
+      drvDrives(*this, "drvDrives", disk),
+      dirDirectories(*this, "dirDirectories", disk),
+      filFilenames(*this, "filFilenames", disk),
       target_(std::move(target)),
       dialogs_(dialogs),
       windows_(windows) {
@@ -75,12 +76,10 @@ void MultiFiles::dirDirectories_Change() { filFilenames.setPath(dirDirectories.p
 
 // Thousands of files come in one step each, so that the lists are shown anew once.
 void MultiFiles::Command1_Click() {
-  std::string path = filFilenames.path();
-  if (!path.ends_with('\\')) path += '\\';
   std::vector<std::string> paths;
   paths.reserve(filFilenames.files().size());
   for (const std::string& file : filFilenames.files()) {
-    if (std::optional<std::string> stored = target_.storable(path + file))
+    if (std::optional<std::string> stored = target_.storable(os::JoinPath(filFilenames.path(), file)))
       paths.push_back(std::move(*stored));
   }
   const int leftOut = filFilenames.listCount() - static_cast<int>(paths.size());

@@ -10,15 +10,14 @@
 #include "forms/form.h"
 #include "forms/frame.h"
 #include "forms/window_system.h"
-#include "os/folders.h"
+#include "os/files.h"
 
 namespace auxwin {
 
 // Shown modally. The lists start on the current drive and folder.
 class MultiFiles : public forms::Form {
  public:
-  MultiFiles(PictureTarget target, os::Folders& folders, forms::Dialogs& dialogs,
-             forms::WindowSystem& windows);
+  MultiFiles(PictureTarget target, os::Files& disk, forms::Dialogs& dialogs, forms::WindowSystem& windows);
 
   forms::Frame fraFileControls{*this, "fraFileControls"};
   forms::DriveList drvDrives;

@@ -11,6 +11,6 @@ namespace auxwin {
 inline constexpr char kMakersPage[] = "https://www.lumora.example/";
 
 // A missing file or an unreachable page is the shell's to report.
-inline void OpenWithShell(os::Shell& shell, const std::string& target) { shell.open(target); }
+inline std::intptr_t OpenWithShell(os::Shell& shell, const std::string& target) { return shell.open(target); }
 
 }  // namespace auxwin

@@ -24,9 +24,9 @@ forms::SharedPicture ProductIcon() {
 
 SettingsDialogWin::SettingsDialogWin(const DialogMachineWin& machine, const std::string& programFolder)
     : loop_(machine.loop),
-      windows_(loop_, [this](const std::function<void()>& event) { loop_.dispatchGuarded(event); }),
+      windows_(loop_),
       dialogs_([this] { return windows_.activeWindow(); }),
-      dialog_({machine.files, machine.ansi, machine.pictures, dialogs_, windows_}, loop_, folders_, shell_,
+      dialog_({machine.files, machine.ansi, machine.pictures, dialogs_, windows_}, loop_, *shell_,
               programFolder, ProductIcon()),
       filter_(loop_.addMessageFilter([this](MSG& message) { return windows_.filterMessage(message); })) {
   dialog_.show();

@@ -1,6 +1,7 @@
 // The settings dialog on real windows, as the program's whole life.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "dialog/settings_dialog.h"
@@ -9,8 +10,7 @@
 #include "os/ansi_code_page.h"
 #include "os/event_loop_win.h"
 #include "os/files.h"
-#include "os/folders_win.h"
-#include "os/shell_win.h"
+#include "os/shell.h"
 #include "pictures/pictures.h"
 
 namespace dialog {
@@ -39,8 +39,7 @@ class SettingsDialogWin {
   os::EventLoopWin& loop_;
   forms::WindowSystemWin windows_;
   forms::DialogsWin dialogs_;
-  os::FoldersWin folders_;
-  os::ShellWin shell_;
+  std::unique_ptr<os::Shell> shell_ = os::MakeShell();
   SettingsDialog dialog_;
   int filter_;
 };

@@ -54,7 +54,7 @@ void WriteFile(const Form2& form) {
   const std::string& old = found ? *found : form.loadedFile();
   // What a failed loading did not read is not in the record and would be lost with the old file.
   if (!old.empty() && !form.loadedWell() &&
-      !files.replace(settings::InProgramFolder(form.programFolder(), "zbfaone.bak"), old)) {
+      !files.replace(os::JoinPath(form.programFolder(), "zbfaone.bak"), old)) {
     return;
   }
   settings::IniDocument document(old, form.services().ansi);

@@ -5,12 +5,12 @@
 #include "auxwin/multi_files.h"
 #include "auxwin/open_with_shell.h"
 #include "dialog/save_settings.h"
-#include "settings/settings_path.h"
+#include "os/paths.h"
 
 namespace dialog {
 
-SettingsDialog::SettingsDialog(const DialogServices& services, os::EventLoop& loop, os::Folders& folders,
-                               os::Shell& shell, const std::string& programFolder, forms::SharedPicture icon)
+SettingsDialog::SettingsDialog(const DialogServices& services, os::EventLoop& loop, os::Shell& shell,
+                               const std::string& programFolder, forms::SharedPicture icon)
     : form(services, programFolder),
       pictures(form, loop),
       background(form),
@@ -18,7 +18,6 @@ SettingsDialog::SettingsDialog(const DialogServices& services, os::EventLoop& lo
       about(std::move(icon), shell, services.windows),
       services_(services),
       loop_(loop),
-      folders_(folders),
       shell_(shell) {
   connect();
 }
@@ -64,7 +63,7 @@ void SettingsDialog::Ok_Click() { save(); }
 void SettingsDialog::Save_Click() { save(); }
 
 void SettingsDialog::FolderCommand_Click() {
-  auxwin::MultiFiles import(pictures.target(), folders_, services_.dialogs, services_.windows);
+  auxwin::MultiFiles import(pictures.target(), services_.files, services_.dialogs, services_.windows);
   services_.windows.showModal(import);
 }
 
@@ -81,7 +80,7 @@ void SettingsDialog::photo1_DblClick() { openViewer(); }
 void SettingsDialog::EnlargeCommand_Click() { openViewer(); }
 
 void SettingsDialog::LumoraHelp_Click() {
-  auxwin::OpenWithShell(shell_, settings::InProgramFolder(form.programFolder(), "lumoraHelp.htm"));
+  auxwin::OpenWithShell(shell_, os::JoinPath(form.programFolder(), "lumoraHelp.htm"));
 }
 
 void SettingsDialog::AboutLumora_Click() { services_.windows.showModal(about); }

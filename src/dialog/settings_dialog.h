@@ -9,7 +9,6 @@
 #include "dialog/form2.h"
 #include "dialog/picture_list.h"
 #include "os/event_loop.h"
-#include "os/folders.h"
 #include "os/shell.h"
 
 namespace dialog {
@@ -18,7 +17,7 @@ namespace dialog {
 class SettingsDialog {
  public:
   // All arguments outlive the dialog. `icon` is the product's; null where there is none.
-  SettingsDialog(const DialogServices& services, os::EventLoop& loop, os::Folders& folders, os::Shell& shell,
+  SettingsDialog(const DialogServices& services, os::EventLoop& loop, os::Shell& shell,
                  const std::string& programFolder, forms::SharedPicture icon);
   ~SettingsDialog();
   SettingsDialog(const SettingsDialog&) = delete;
@@ -50,7 +49,6 @@ class SettingsDialog {
 
   DialogServices services_;
   os::EventLoop& loop_;
-  os::Folders& folders_;
   os::Shell& shell_;
 };
 

@@ -26,12 +26,10 @@ std::wstring FilterOf(const std::string& filter) {
   return parts;
 }
 
-int ScreenDpi() { return GetDeviceCaps(os::WindowDc(nullptr).get(), LOGPIXELSY); }
-
 LOGFONTW LogFontOf(const base::Font& font) {
   LOGFONTW log{};
   log.lfHeight =
-      -static_cast<LONG>(std::lround(font.sizePoints * static_cast<float>(ScreenDpi()) / kPointsPerInch));
+      -static_cast<LONG>(std::lround(font.sizePoints * static_cast<float>(os::ScreenDpi()) / kPointsPerInch));
   log.lfWeight = font.bold ? FW_BOLD : FW_NORMAL;
   log.lfItalic = font.italic;
   log.lfUnderline = font.underline;

@@ -6,9 +6,9 @@
 
 namespace forms {
 
-DriveList::DriveList(Form& form, std::string name, os::Folders& folders)
-    : Control(form, std::move(name)), drives_(folders.drives()) {
-  const std::vector<std::string> way = FoldersOnTheWay(folders.currentFolder());
+DriveList::DriveList(Form& form, std::string name, os::Files& disk)
+    : Control(form, std::move(name)), drives_(disk.drives()) {
+  const std::vector<std::string> way = FoldersOnTheWay(disk.currentFolder());
   if (!way.empty()) {
     drive_ = way.front();
   } else if (!drives_.empty()) {

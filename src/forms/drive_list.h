@@ -6,14 +6,14 @@
 #include <vector>
 
 #include "forms/control.h"
-#include "os/folders.h"
+#include "os/files.h"
 
 namespace forms {
 
 class DriveList : public Control {
  public:
   // Lists the drives and chooses the one of the current folder, without an event.
-  DriveList(Form& form, std::string name, os::Folders& folders);
+  DriveList(Form& form, std::string name, os::Files& disk);
   ControlKind kind() const override { return ControlKind::DriveList; }
 
   const std::vector<std::string>& drives() const { return drives_; }

@@ -6,15 +6,13 @@
 
 namespace forms {
 
-FileList::FileList(Form& form, std::string name, os::Folders& folders)
-    : Control(form, std::move(name)),
-      folders_(folders),
-      path_(WithoutTrailingSlash(folders.currentFolder())) {
+FileList::FileList(Form& form, std::string name, os::Files& disk)
+    : Control(form, std::move(name)), disk_(disk), path_(WithoutTrailingSlash(disk.currentFolder())) {
   list();
 }
 
 void FileList::list() {
-  files_ = folders_.filesIn(path_);
+  files_ = disk_.filesIn(path_);
   std::erase_if(files_, [&](const std::string& name) { return !MatchesPatterns(name, pattern_); });
   SortNames(files_);
   changed(Change::Items);

@@ -5,14 +5,14 @@
 #include <vector>
 
 #include "forms/control.h"
-#include "os/folders.h"
+#include "os/files.h"
 
 namespace forms {
 
 class FileList : public Control {
  public:
   // Shows the current folder's files.
-  FileList(Form& form, std::string name, os::Folders& folders);
+  FileList(Form& form, std::string name, os::Files& disk);
   ControlKind kind() const override { return ControlKind::FileList; }
 
   const std::vector<std::string>& files() const { return files_; }
@@ -29,7 +29,7 @@ class FileList : public Control {
  private:
   void list();
 
-  os::Folders& folders_;
+  os::Files& disk_;
   std::string path_;
   std::string pattern_ = "*";
   std::vector<std::string> files_;

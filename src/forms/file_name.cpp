@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
+#include "base/text.h"
+
 namespace forms {
 
 namespace {
-
-char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
 
 bool IsRoot(std::string_view path) { return path.size() <= 3 && path.size() >= 2 && path[1] == ':'; }
 
@@ -20,7 +20,8 @@ bool Matches(std::string_view name, std::string_view pattern) {
     if (p < pattern.size() && pattern[p] == '*') {
       star = p++;
       starName = n;
-    } else if (p < pattern.size() && (pattern[p] == '?' || Lower(pattern[p]) == Lower(name[n]))) {
+    } else if (p < pattern.size() &&
+               (pattern[p] == '?' || base::AsciiLower(pattern[p]) == base::AsciiLower(name[n]))) {
       ++p;
       ++n;
     } else if (star != std::string_view::npos) {
@@ -43,11 +44,6 @@ bool MatchesPatterns(std::string_view name, std::string_view patterns) {
     patterns.remove_prefix(std::min(end + 1, patterns.size()));
   }
   return false;
-}
-
-std::string JoinPath(std::string folder, std::string_view name) {
-  if (folder.empty() || folder.back() != '\\') folder += '\\';
-  return folder.append(name);
 }
 
 std::string WithoutTrailingSlash(std::string folder) {
@@ -77,11 +73,13 @@ std::string LastName(const std::string& path) {
 
 void SortNames(std::vector<std::string>& names) {
   const auto before = [](const std::string& a, const std::string& b) {
-    const bool less = std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
-                                                   [](char x, char y) { return Lower(x) < Lower(y); });
+    const bool less = std::lexicographical_compare(
+        a.begin(), a.end(), b.begin(), b.end(),
+        [](char x, char y) { return base::AsciiLower(x) < base::AsciiLower(y); });
     if (less) return true;
-    const bool greater = std::lexicographical_compare(b.begin(), b.end(), a.begin(), a.end(),
-                                                      [](char x, char y) { return Lower(x) < Lower(y); });
+    const bool greater = std::lexicographical_compare(
+        b.begin(), b.end(), a.begin(), a.end(),
+        [](char x, char y) { return base::AsciiLower(x) < base::AsciiLower(y); });
     return !greater && a < b;
   };
   std::sort(names.begin(), names.end(), before);

@@ -11,9 +11,6 @@ namespace forms {
 // for one character; the case of Latin letters does not matter.
 bool MatchesPatterns(std::string_view name, std::string_view patterns);
 
-// `folder` with a backslash at its end, then `name`.
-std::string JoinPath(std::string folder, std::string_view name);
-
 // The folder without a backslash at its end; a drive's root keeps it.
 std::string WithoutTrailingSlash(std::string folder);
 

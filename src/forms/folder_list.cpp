@@ -3,13 +3,12 @@
 #include <utility>
 
 #include "forms/file_name.h"
+#include "os/paths.h"
 
 namespace forms {
 
-FolderList::FolderList(Form& form, std::string name, os::Folders& folders)
-    : Control(form, std::move(name)),
-      folders_(folders),
-      path_(WithoutTrailingSlash(folders.currentFolder())) {
+FolderList::FolderList(Form& form, std::string name, os::Files& disk)
+    : Control(form, std::move(name)), disk_(disk), path_(WithoutTrailingSlash(disk.currentFolder())) {
   list();
 }
 
@@ -20,9 +19,9 @@ void FolderList::list() {
     entries_.push_back({folder, LastName(folder), depth++, true});
   }
   pathIndex_ = static_cast<int>(entries_.size()) - 1;
-  std::vector<std::string> names = folders_.foldersIn(path_);
+  std::vector<std::string> names = disk_.foldersIn(path_);
   SortNames(names);
-  for (const std::string& name : names) entries_.push_back({JoinPath(path_, name), name, depth, false});
+  for (const std::string& name : names) entries_.push_back({os::JoinPath(path_, name), name, depth, false});
   changed(Change::Items);
 }
 

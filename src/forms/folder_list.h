@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "forms/control.h"
-#include "os/folders.h"
+#include "os/files.h"
 
 namespace forms {
 
@@ -20,7 +20,7 @@ struct FolderEntry {
 class FolderList : public Control {
  public:
   // Opens the current folder, without an event.
-  FolderList(Form& form, std::string name, os::Folders& folders);
+  FolderList(Form& form, std::string name, os::Files& disk);
   ControlKind kind() const override { return ControlKind::FolderList; }
 
   const std::vector<FolderEntry>& entries() const { return entries_; }
@@ -40,7 +40,7 @@ class FolderList : public Control {
  private:
   void list();
 
-  os::Folders& folders_;
+  os::Files& disk_;
   std::string path_;
   std::vector<FolderEntry> entries_;
   int pathIndex_ = -1;

@@ -41,7 +41,7 @@ void FormWindow::reportPointer(const MSG& message) {
   MapWindowPoints(message.hwnd, window_, &at, 1);
   const auto perPixel = static_cast<float>(twipsPerPixel_);
   const bool leftButton = (message.wParam & MK_LBUTTON) != 0;
-  raise_([this, at, perPixel, leftButton] {
+  raise([this, at, perPixel, leftButton] {
     form_.userMovedMouse(static_cast<float>(at.x) * perPixel, static_cast<float>(at.y) * perPixel,
                          leftButton);
   });
@@ -58,7 +58,7 @@ bool FormWindow::switchTab(const MSG& message) {
     const bool back = tabKey ? GetKeyState(VK_SHIFT) < 0 : message.wParam == VK_PRIOR;
     const int count = tabs.tabCount();
     SetFocus(peer->window());
-    raise_([&] { tabs.userSelectedTab((tabs.tab() + (back ? count - 1 : 1)) % count); });
+    raise([&] { tabs.userSelectedTab((tabs.tab() + (back ? count - 1 : 1)) % count); });
     return true;
   }
   return false;
@@ -126,7 +126,7 @@ INT_PTR FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
       SetWindowLongPtrW(window_, DWLP_MSGRESULT, TRUE);
       return TRUE;
     case WM_CLOSE:
-      raise_([this] {
+      raise([this] {
         if (form_.onCloseRequest) form_.onCloseRequest();
       });
       return TRUE;
@@ -143,15 +143,15 @@ void FormWindow::onKeyboardCommand(int id) {
   for (const auto& peer : peers_) {
     auto* button = dynamic_cast<CommandButton*>(&peer->control());
     if (!button || (id == IDOK ? !button->isDefault : !button->isCancel)) continue;
-    raise_([button] { button->userClicked(); });
+    raise([button] { button->userClicked(); });
     return;
   }
-  if (id == IDCANCEL && form_.onKeyDown) raise_([this] { form_.onKeyDown(kEscape); });
+  if (id == IDCANCEL && form_.onKeyDown) raise([this] { form_.onKeyDown(kEscape); });
 }
 
 void FormWindow::onMenuCommand(int id) {
   const auto index = static_cast<std::size_t>(id - kFirstMenuId);
-  if (index < menuCommands_.size()) raise_([item = menuCommands_[index]] { item->userClicked(); });
+  if (index < menuCommands_.size()) raise([item = menuCommands_[index]] { item->userClicked(); });
 }
 
 }  // namespace forms

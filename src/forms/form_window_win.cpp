@@ -37,7 +37,7 @@ DWORD StyleOf(const Form& form) {
 
 }  // namespace
 
-FormWindow::FormWindow(Form& form, Raise raise) : form_(form), raise_(std::move(raise)) {}
+FormWindow::FormWindow(Form& form, WindowSystemWin& windows) : form_(form), windows_(windows) {}
 
 FormWindow::~FormWindow() { close(); }
 
@@ -60,6 +60,8 @@ void FormWindow::make(HWND owner) {
   sizeFromForm();
   makeControls();
 }
+
+void FormWindow::raise(const std::function<void()>& event) { windows_.raise(event); }
 
 void FormWindow::takeDpi(int dpi) {
   dpi_ = dpi;

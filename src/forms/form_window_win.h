@@ -22,10 +22,7 @@ class WindowSystemWin;
 // Lives from show to unload.
 class FormWindow : public FormHost, private PeerOwner {
  public:
-  // Runs a handler at the event border: nothing that it throws may cross a window procedure.
-  using Raise = std::function<void(const std::function<void()>&)>;
-
-  FormWindow(Form& form, Raise raise);
+  FormWindow(Form& form, WindowSystemWin& windows);
   ~FormWindow() override;
   FormWindow(const FormWindow&) = delete;
   FormWindow& operator=(const FormWindow&) = delete;
@@ -62,7 +59,7 @@ class FormWindow : public FormHost, private PeerOwner {
   int dpi() const override { return dpi_; }
   COLORREF surfaceColor(const Control& control) const override;
   HBRUSH surfaceBrush(const Control& control) const override;
-  void raise(const std::function<void()>& event) override { raise_(event); }
+  void raise(const std::function<void()>& event) override;
   std::optional<LRESULT> routeToChild(UINT message, WPARAM wParam, LPARAM lParam) override;
 
   void takeDpi(int dpi);
@@ -85,7 +82,7 @@ class FormWindow : public FormHost, private PeerOwner {
   ControlPeer* peerOf(const Control& control) const;
 
   Form& form_;
-  Raise raise_;
+  WindowSystemWin& windows_;
   HWND window_ = nullptr;
   int dpi_ = 96;
   int twipsPerPixel_ = 15;

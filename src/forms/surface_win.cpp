@@ -4,6 +4,8 @@
 
 #include "forms/theme_win.h"
 #include "os/dib_win.h"
+#include "os/screen_win.h"
+#include "os/system_library_win.h"
 
 namespace forms {
 
@@ -12,8 +14,7 @@ namespace {
 // These came with Windows 10; older systems have one number of dots per inch for everything.
 template <typename Function>
 Function* Newer(const char* name) {
-  const HMODULE user = GetModuleHandleW(L"user32.dll");
-  return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(user, name)));
+  return os::FindFunction<Function*>(L"user32.dll", name);
 }
 
 }  // namespace
@@ -22,7 +23,7 @@ int WindowDpi(HWND window) {
   static auto* const ask = Newer<UINT WINAPI(HWND)>("GetDpiForWindow");
   const UINT dpi = ask ? ask(window) : 0;
   if (dpi > 0) return static_cast<int>(dpi);
-  return GetDeviceCaps(os::WindowDc(nullptr).get(), LOGPIXELSY);
+  return os::ScreenDpi();
 }
 
 os::OwnedFont MakeMessageFont(int dpi) {
@@ -33,8 +34,7 @@ os::OwnedFont MakeMessageFont(int dpi) {
     return os::OwnedFont(CreateFontIndirectW(&metrics.lfMessageFont));
   }
   SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, metrics.cbSize, &metrics, 0);
-  const int systemDpi = GetDeviceCaps(os::WindowDc(nullptr).get(), LOGPIXELSY);
-  metrics.lfMessageFont.lfHeight = MulDiv(metrics.lfMessageFont.lfHeight, dpi, systemDpi);
+  metrics.lfMessageFont.lfHeight = MulDiv(metrics.lfMessageFont.lfHeight, dpi, os::ScreenDpi());
   return os::OwnedFont(CreateFontIndirectW(&metrics.lfMessageFont));
 }
 

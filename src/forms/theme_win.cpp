@@ -18,7 +18,7 @@ struct ThemeLibrary {
  private:
   template <typename Function>
   Function find(const char* name) const {
-    return os::FindFunction<Function>(library, name);
+    return os::FindFunction<Function>(library.get(), name);
   }
 };
 

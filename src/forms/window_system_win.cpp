@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "base/twips.h"
-#include "forms/surface_win.h"
+#include "os/screen_win.h"
 
 namespace forms {
 
@@ -19,15 +19,12 @@ void InitCommonControlsOnce() {
 }
 
 float ScreenTwips(int metric) {
-  const int dpi = GetDeviceCaps(os::WindowDc(nullptr).get(), LOGPIXELSY);
-  return static_cast<float>(GetSystemMetrics(metric) * base::TwipsPerPixelForDpi(dpi));
+  return static_cast<float>(GetSystemMetrics(metric) * base::TwipsPerPixelForDpi(os::ScreenDpi()));
 }
 
 }  // namespace
 
-WindowSystemWin::WindowSystemWin(os::EventLoop& loop, Guard guard) : loop_(loop), guard_(std::move(guard)) {
-  InitCommonControlsOnce();
-}
+WindowSystemWin::WindowSystemWin(os::EventLoop& loop) : loop_(loop) { InitCommonControlsOnce(); }
 
 WindowSystemWin::~WindowSystemWin() {
   for (const auto& window : loaded_) window->form().setHost(nullptr);
@@ -35,7 +32,7 @@ WindowSystemWin::~WindowSystemWin() {
 
 void WindowSystemWin::raise(const std::function<void()>& event) {
   ++running_;
-  guard_(event);
+  loop_.dispatch(event);
   --running_;
 }
 
@@ -68,8 +65,7 @@ void WindowSystemWin::show(Form& form) {
     return;
   }
   const HWND owner = activeWindow();
-  loaded_.push_back(
-      std::make_unique<FormWindow>(form, [this](const std::function<void()>& event) { raise(event); }));
+  loaded_.push_back(std::make_unique<FormWindow>(form, *this));
   FormWindow* window = loaded_.back().get();
   form.setHost(window);
   if (!form.onCloseRequest) form.onCloseRequest = [this, &form] { unload(form); };

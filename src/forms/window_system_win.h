@@ -16,10 +16,7 @@ namespace forms {
 // The event loop must hand every message to filterMessage() before it dispatches it.
 class WindowSystemWin : public WindowSystem {
  public:
-  // Runs a handler at the event border.
-  using Guard = std::function<void(const std::function<void()>&)>;
-
-  WindowSystemWin(os::EventLoop& loop, Guard guard);
+  explicit WindowSystemWin(os::EventLoop& loop);
   ~WindowSystemWin() override;
 
   void show(Form& form) override;
@@ -30,6 +27,9 @@ class WindowSystemWin : public WindowSystem {
 
   // Keys that move between controls, mnemonics, and the pointer's place. True when nothing is left to do.
   bool filterMessage(MSG& message);
+
+  // Runs a handler of a form at the event border.
+  void raise(const std::function<void()>& event);
 
   // The window over which a message box belongs; null when none is visible.
   HWND activeWindow() const;
@@ -45,10 +45,8 @@ class WindowSystemWin : public WindowSystem {
 
   FormWindow* find(const Form& form) const;
   void endModal(const Form& form);
-  void raise(const std::function<void()>& event);
 
   os::EventLoop& loop_;
-  Guard guard_;
   std::vector<std::unique_ptr<FormWindow>> loaded_;  // in the order of showing
 
   std::vector<Modal> modals_;

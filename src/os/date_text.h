@@ -1,6 +1,7 @@
 // Dates and times as text, by the user's regional settings.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "os/clock.h"
@@ -20,5 +21,8 @@ class DateText {
 
 // The general date form: the date, a blank, the time; the date alone at midnight.
 std::string GeneralDate(const DateText& form, const LocalTime& moment);
+
+// By the regional settings of this machine's user.
+std::unique_ptr<DateText> MakeDateText();
 
 }  // namespace os

@@ -1,4 +1,4 @@
-#include "os/date_text_win.h"
+#include "os/date_text.h"
 
 #include <windows.h>
 

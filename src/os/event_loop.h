@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <exception>
 #include <functional>
 
 namespace os {
@@ -33,7 +34,12 @@ class EventLoop {
   virtual void quit() = 0;
   virtual bool isQuitting() const = 0;
 
+  // Who hears of errors. Without anybody, or when that throws itself, the program is terminated.
   virtual void setErrorHandler(std::function<void(const std::exception&)> handler) = 0;
+
+  // Runs a handler that the window system calls outside the loop, at the same event border: what it throws
+  // goes to the error handler and no further, since nothing may be thrown through a window procedure.
+  virtual void dispatch(const std::function<void()>& handler) = 0;
 };
 
 }  // namespace os

@@ -6,6 +6,8 @@
 #include <system_error>
 #include <utility>
 
+#include "os/window_class_win.h"
+
 namespace os {
 
 namespace {
@@ -39,27 +41,21 @@ bool EndsPass(const MSG& message, DWORD start) {
 }  // namespace
 
 EventLoopWin::EventLoopWin(const Clock& clock) : clock_(clock), alarm_(CreateAlarm()) {
-  WNDCLASSEXW description{};
-  description.cbSize = sizeof(description);
-  description.lpfnWndProc = Procedure;
-  description.hInstance = GetModuleHandleW(nullptr);
-  description.lpszClassName = kClassName;
-  RegisterClassExW(&description);
+  RegisterWindowClass(kClassName, Procedure);
   window_.reset(CreateWindowExW(0, kClassName, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
-                                description.hInstance, nullptr));
+                                GetModuleHandleW(nullptr), this));
   if (!window_) ThrowLastError("the event loop's window");
-  SetWindowLongPtrW(window_.get(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 
 EventLoopWin::~EventLoopWin() {
-  SetWindowLongPtrW(window_.get(), GWLP_USERDATA, 0);
+  LeaveWindow(window_.get());
   // A request to end that was never fetched is this loop's own and must not end the next one.
   MSG message;
   PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
 }
 
 LRESULT CALLBACK EventLoopWin::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  auto* self = reinterpret_cast<EventLoopWin*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  auto* self = ObjectOf<EventLoopWin>(window, message, lParam);
   if (!self || message != WM_TIMER) return DefWindowProcW(window, message, wParam, lParam);
   self->tick(static_cast<TimerId>(wParam));
   return 0;
@@ -70,10 +66,10 @@ void EventLoopWin::tick(TimerId timer) {
   if (running == timers_.end() || quitting_) return;
   // Held here as well, since the handler may stop its own timer.
   const std::shared_ptr<std::function<void()>> handler = running->second;
-  dispatchGuarded(*handler);
+  dispatch(*handler);
 }
 
-void EventLoopWin::dispatchGuarded(const std::function<void()>& handler) noexcept {
+void EventLoopWin::dispatch(const std::function<void()>& handler) noexcept {
   const auto report = [this](const std::exception& error) {
     if (!errorHandler_) std::terminate();
     const auto errorHandler = errorHandler_;  // it may replace itself
@@ -96,12 +92,12 @@ void EventLoopWin::runPending() {
       quitting_ = true;
       return;
     }
-    dispatch(message);
+    deliver(message);
     if (EndsPass(message, start)) return;
   }
 }
 
-void EventLoopWin::dispatch(MSG& message) {
+void EventLoopWin::deliver(MSG& message) {
   if (filtered(message)) return;
   TranslateMessage(&message);
   DispatchMessageW(&message);
@@ -112,7 +108,7 @@ bool EventLoopWin::filtered(MSG& message) {
   for (const auto& [number, filter] : filters) {
     if (!filters_.contains(number)) continue;
     bool done = false;
-    dispatchGuarded([&] { done = (*filter)(message); });
+    dispatch([&] { done = (*filter)(message); });
     if (done) return true;
   }
   return false;

@@ -30,11 +30,7 @@ class EventLoopWin : public EventLoop {
   void quit() override;
   bool isQuitting() const override { return quitting_; }
   void setErrorHandler(std::function<void(const std::exception&)> handler) override;
-
-  // Runs a handler at the event border: what it throws goes to the error handler and no further, since
-  // nothing may be thrown through the system's code that calls a window procedure. Without an error handler,
-  // or when that throws itself, the program is terminated.
-  void dispatchGuarded(const std::function<void()>& handler) noexcept;
+  void dispatch(const std::function<void()>& handler) noexcept override;
 
   // Asks the filter about every message before it is dispatched, in the order of adding. Returns the filter's
   // number, by which it is removed, also from inside a filter.
@@ -44,7 +40,7 @@ class EventLoopWin : public EventLoop {
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void tick(TimerId timer);
-  void dispatch(MSG& message);
+  void deliver(MSG& message);
   bool filtered(MSG& message);
   void sleep(std::int64_t durationMs);
 

@@ -4,18 +4,39 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cwchar>
 
-#include "os/file_handle_win.h"
-#include "os/long_path.h"
+#include "os/open_file_win.h"
+#include "os/paths.h"
 #include "os/utf16_win.h"
-#include "os/wide_path_win.h"
 
 namespace os {
 
 namespace {
 
-constexpr DWORD kStep = 1U << 26;             // bytes of one read or write
-constexpr LONGLONG kLargestFile = 1LL << 30;  // more is no file of ours, and no picture
+constexpr DWORD kStep = 1U << 26;                 // bytes of one read or write
+constexpr std::uint64_t kLargestFile = 1U << 30;  // more is no file of ours, and no picture
+
+std::optional<std::uint64_t> SizeOf(const FileHandle& file) {
+  LARGE_INTEGER size{};
+  if (!file.isOpen() || GetFileSizeEx(file.get(), &size) == FALSE) return std::nullopt;
+  return static_cast<std::uint64_t>(size.QuadPart);
+}
+
+// The first `size` bytes of a file that was just opened; fewer when it became shorter meanwhile.
+std::optional<std::string> ReadFront(const FileHandle& file, std::size_t size) {
+  std::string content(size, '\0');
+  std::size_t filled = 0;
+  while (filled < size) {
+    const DWORD wanted = static_cast<DWORD>(std::min<std::size_t>(size - filled, kStep));
+    DWORD got = 0;
+    if (ReadFile(file.get(), content.data() + filled, wanted, &got, nullptr) == FALSE) return std::nullopt;
+    if (got == 0) break;
+    filled += got;
+  }
+  content.resize(filled);
+  return content;
+}
 
 // Not every system refuses to put another file in the place of one that may only be read.
 bool MayOnlyBeRead(const std::wstring& path) {
@@ -45,26 +66,41 @@ std::wstring NameBeside() {
   return L".new-" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++count);
 }
 
+// Visible entries of a folder: its folders, or its files.
+std::vector<std::string> Entries(const std::string& folder, bool folders) {
+  std::vector<std::string> names;
+  constexpr std::wstring_view kAll = L"\\*";
+  std::wstring pattern = WidePath(folder, kAll.size());
+  if (pattern.empty()) return names;
+  pattern += pattern.back() == L'\\' ? kAll.substr(1) : kAll;
+  WIN32_FIND_DATAW found{};
+  const HANDLE search = FindFirstFileExW(pattern.c_str(), FindExInfoBasic, &found, FindExSearchNameMatch,
+                                         nullptr, FIND_FIRST_EX_LARGE_FETCH);
+  if (search == INVALID_HANDLE_VALUE) return names;
+  do {
+    const std::wstring_view name = found.cFileName;
+    const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    const bool hidden = (found.dwFileAttributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
+    if (isFolder == folders && !hidden && name != L"." && name != L"..") names.push_back(FromWide(name));
+  } while (FindNextFileW(search, &found) != FALSE);
+  FindClose(search);
+  return names;
+}
+
 }  // namespace
 
 std::optional<std::string> FilesWin::read(const std::string& path) {
-  const FileHandle file(CreateFileW(WidePath(path).c_str(), GENERIC_READ,
-                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                    OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-  LARGE_INTEGER size{};
-  if (!file.isOpen() || GetFileSizeEx(file.get(), &size) == FALSE || size.QuadPart > kLargestFile)
-    return std::nullopt;
-  std::string content(static_cast<std::size_t>(size.QuadPart), '\0');
-  std::size_t filled = 0;
-  while (filled < content.size()) {
-    const DWORD wanted = static_cast<DWORD>(std::min<std::size_t>(content.size() - filled, kStep));
-    DWORD got = 0;
-    if (ReadFile(file.get(), content.data() + filled, wanted, &got, nullptr) == FALSE) return std::nullopt;
-    if (got == 0) break;  // the file became shorter meanwhile
-    filled += got;
-  }
-  content.resize(filled);
-  return content;
+  const FileHandle file = OpenForReading(path);
+  const std::optional<std::uint64_t> size = SizeOf(file);
+  if (!size || *size > kLargestFile) return std::nullopt;
+  return ReadFront(file, static_cast<std::size_t>(*size));
+}
+
+std::optional<std::string> FilesWin::readHead(const std::string& path, std::size_t limit) {
+  const FileHandle file = OpenForReading(path);
+  const std::optional<std::uint64_t> size = SizeOf(file);
+  if (!size) return std::nullopt;
+  return ReadFront(file, static_cast<std::size_t>(std::min<std::uint64_t>(*size, limit)));
 }
 
 // MoveFileEx replaces the name in one step of the file system. ReplaceFile would carry the old file's
@@ -87,10 +123,6 @@ bool FilesWin::exists(const std::string& path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
-bool FilesWin::copy(const std::string& from, const std::string& to) {
-  return CopyFileW(WidePath(from).c_str(), WidePath(to).c_str(), FALSE) != FALSE;
-}
-
 bool FilesWin::canWriteIn(const std::string& folder) {
   const std::wstring name = L"\\lumora" + NameBeside();
   const std::wstring path = WidePath(folder, name.size()) + name;
@@ -99,20 +131,26 @@ bool FilesWin::canWriteIn(const std::string& folder) {
   return file.isOpen();
 }
 
-std::vector<std::string> FilesWin::filesIn(const std::string& folder) {
-  std::vector<std::string> names;
-  constexpr std::wstring_view kAll = L"\\*";
-  WIN32_FIND_DATAW entry{};
-  const HANDLE search =
-      FindFirstFileExW((WidePath(folder, kAll.size()) + kAll.data()).c_str(), FindExInfoBasic, &entry,
-                       FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
-  if (search == INVALID_HANDLE_VALUE) return names;
-  do {
-    if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) names.push_back(FromWide(entry.cFileName));
-  } while (FindNextFileW(search, &entry) != FALSE);
-  FindClose(search);
-  return names;
+std::vector<std::string> FilesWin::foldersIn(const std::string& folder) { return Entries(folder, true); }
+
+std::vector<std::string> FilesWin::filesIn(const std::string& folder) { return Entries(folder, false); }
+
+std::vector<std::string> FilesWin::drives() {
+  std::wstring roots(GetLogicalDriveStringsW(0, nullptr), L'\0');
+  roots.resize(GetLogicalDriveStringsW(static_cast<DWORD>(roots.size()), roots.data()));
+  std::vector<std::string> drives;
+  for (const wchar_t* root = roots.c_str(); *root; root += std::wcslen(root) + 1)
+    drives.push_back(FromWide(root));
+  return drives;
 }
+
+std::string FilesWin::currentFolder() {
+  std::wstring folder(GetCurrentDirectoryW(0, nullptr), L'\0');
+  folder.resize(GetCurrentDirectoryW(static_cast<DWORD>(folder.size()), folder.data()));
+  return FromWide(folder);
+}
+
+void FilesWin::enterFolder(const std::string& folder) { SetCurrentDirectoryW(ToWide(folder).c_str()); }
 
 std::string FilesWin::shortPath(const std::string& path) {
   const std::wstring wide = WidePath(path);

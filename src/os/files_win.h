@@ -1,4 +1,4 @@
-// Files of this system. Paths may be longer than 260 characters.
+// Files and folders of this system. Paths may be longer than 260 characters.
 #pragma once
 
 #include "os/files.h"
@@ -8,11 +8,15 @@ namespace os {
 class FilesWin : public Files {
  public:
   std::optional<std::string> read(const std::string& path) override;
+  std::optional<std::string> readHead(const std::string& path, std::size_t limit) override;
   bool replace(const std::string& path, std::string_view content) override;
   bool exists(const std::string& path) override;
-  bool copy(const std::string& from, const std::string& to) override;
   bool canWriteIn(const std::string& folder) override;
+  std::vector<std::string> foldersIn(const std::string& folder) override;
   std::vector<std::string> filesIn(const std::string& folder) override;
+  std::vector<std::string> drives() override;
+  std::string currentFolder() override;
+  void enterFolder(const std::string& folder) override;
   std::string shortPath(const std::string& path) override;
 };
 

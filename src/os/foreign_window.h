@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 
 #include "base/bitmap.h"
@@ -32,5 +33,8 @@ class ForeignWindow {
   // away.
   virtual void follow(std::intptr_t window, std::function<void()> closed) = 0;
 };
+
+// Windows of this machine.
+std::unique_ptr<ForeignWindow> MakeForeignWindow();
 
 }  // namespace os

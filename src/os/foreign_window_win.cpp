@@ -1,8 +1,10 @@
-#include "os/foreign_window_win.h"
+#include "os/foreign_window.h"
 
 #include <utility>
 
 #include "os/dib_win.h"
+#include "os/handles_win.h"
+#include "os/window_class_win.h"
 
 namespace os {
 
@@ -18,7 +20,25 @@ DWORD ProcessOf(HWND window) {
   return process;
 }
 
-}  // namespace
+class ForeignWindowWin final : public ForeignWindow {
+ public:
+  ForeignWindowWin() = default;
+  ~ForeignWindowWin() override;
+  ForeignWindowWin(const ForeignWindowWin&) = delete;
+  ForeignWindowWin& operator=(const ForeignWindowWin&) = delete;
+
+  bool exists(std::intptr_t window) override;
+  void draw(std::intptr_t window, const base::Bitmap& picture) override;
+  std::optional<base::Pixel> pixelAt(std::intptr_t window, base::PixelPoint place) override;
+  bool holdsAnother(std::intptr_t window) override;
+  void follow(std::intptr_t window, std::function<void()> closed) override;
+
+ private:
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+  HWND follower_ = nullptr;  // the system destroys it together with the window it is in
+  std::function<void()> closed_;
+};
 
 ForeignWindowWin::~ForeignWindowWin() {
   closed_ = nullptr;
@@ -55,30 +75,23 @@ bool ForeignWindowWin::holdsAnother(std::intptr_t window) {
 }
 
 void ForeignWindowWin::follow(std::intptr_t window, std::function<void()> closed) {
-  WNDCLASSEXW description{};
-  description.cbSize = sizeof(description);
-  description.lpfnWndProc = Procedure;
-  description.hInstance = GetModuleHandleW(nullptr);
-  description.lpszClassName = kClassName;
-  RegisterClassExW(&description);
+  RegisterWindowClass(kClassName, Procedure);
   closed_ = std::move(closed);
   follower_ = CreateWindowExW(WS_EX_NOPARENTNOTIFY, kClassName, L"", WS_CHILD, 0, 0, 0, 0, HandleOf(window),
-                              nullptr, description.hInstance, this);
+                              nullptr, GetModuleHandleW(nullptr), this);
 }
 
 LRESULT CALLBACK ForeignWindowWin::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_NCCREATE) {
-    const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
-    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(creation->lpCreateParams));
-  }
-  if (message == WM_DESTROY) {
-    auto* self = reinterpret_cast<ForeignWindowWin*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-    if (self) {
-      self->follower_ = nullptr;
-      if (self->closed_) std::exchange(self->closed_, nullptr)();
-    }
+  auto* self = ObjectOf<ForeignWindowWin>(window, message, lParam);
+  if (self && message == WM_DESTROY) {
+    self->follower_ = nullptr;
+    if (self->closed_) std::exchange(self->closed_, nullptr)();
   }
   return DefWindowProcW(window, message, wParam, lParam);
 }
+
+}  // namespace
+
+std::unique_ptr<ForeignWindow> MakeForeignWindow() { return std::make_unique<ForeignWindowWin>(); }
 
 }  // namespace os

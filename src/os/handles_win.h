@@ -1,4 +1,4 @@
-// Owners of the system's handles: the only place that gives them back.
+// Owners of the system's handles, which give them back.
 #pragma once
 
 #include <windows.h>
@@ -12,14 +12,12 @@ struct Give {
   static void back(HBITMAP handle) { DeleteObject(handle); }
   static void back(HFONT handle) { DeleteObject(handle); }
   static void back(HBRUSH handle) { DeleteObject(handle); }
-  static void back(HPEN handle) { DeleteObject(handle); }
   static void back(HDC handle) { DeleteDC(handle); }
   static void back(HWND handle) { DestroyWindow(handle); }
   static void back(HANDLE handle) { CloseHandle(handle); }
   static void back(HKEY handle) { RegCloseKey(handle); }
   static void back(HMODULE handle) { FreeLibrary(handle); }
   static void back(HICON handle) { DestroyIcon(handle); }
-  static void back(HMENU handle) { DestroyMenu(handle); }
 };
 
 // How many handles of all kinds are owned now: a long run must not let it grow. The program has one thread.
@@ -59,14 +57,12 @@ class Owned {
 using OwnedBitmap = Owned<HBITMAP>;
 using OwnedFont = Owned<HFONT>;
 using OwnedBrush = Owned<HBRUSH>;
-using OwnedPen = Owned<HPEN>;
 using OwnedMemoryDc = Owned<HDC>;
 using OwnedWindow = Owned<HWND>;
 using OwnedHandle = Owned<HANDLE>;
 using OwnedKey = Owned<HKEY>;
 using OwnedLibrary = Owned<HMODULE>;
 using OwnedIcon = Owned<HICON>;
-using OwnedMenu = Owned<HMENU>;
 
 // A device context borrowed from a window (null: the screen) for a scope.
 class WindowDc {

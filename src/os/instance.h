@@ -1,6 +1,9 @@
 // The mark that one copy of the program is running in the user's session.
 #pragma once
 
+#include <memory>
+#include <string>
+
 namespace os {
 
 class Instance {
@@ -14,5 +17,8 @@ class Instance {
   // Lets another copy start. Does nothing when the mark is not held.
   virtual void release() = 0;
 };
+
+// The mark of this machine. `name` without a backslash; copies that share it exclude each other.
+std::unique_ptr<Instance> MakeInstance(const std::string& name);
 
 }  // namespace os

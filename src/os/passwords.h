@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 namespace os {
 
@@ -17,5 +18,8 @@ class Passwords {
   // Lets the user change the password in a dialog over `window`. Does nothing where there is no such dialog.
   virtual void change(std::intptr_t window) = 0;
 };
+
+// Those of this machine.
+std::unique_ptr<Passwords> MakePasswords();
 
 }  // namespace os

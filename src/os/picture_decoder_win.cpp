@@ -4,7 +4,7 @@
 #include <windows.h>
 
 #include "os/com_pointer_win.h"
-#include "os/file_head_win.h"
+#include "os/open_file_win.h"
 #include "os/reduced_decoding_win.h"
 
 namespace os {

@@ -20,14 +20,13 @@ BOOL CALLBACK CollectFurtherScreen(HMONITOR monitor, HDC, LPRECT area, LPARAM li
 
 }  // namespace
 
+int ScreenDpi() { return GetDeviceCaps(WindowDc(nullptr).get(), LOGPIXELSY); }
+
 base::PixelSize ScreenWin::primarySize() const {
   return {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
 }
 
-int ScreenWin::dpi() const {
-  const WindowDc screen(nullptr);
-  return GetDeviceCaps(screen.get(), LOGPIXELSY);
-}
+int ScreenWin::dpi() const { return ScreenDpi(); }
 
 std::vector<base::PixelRect> ScreenWin::otherScreens() const {
   std::vector<base::PixelRect> areas;

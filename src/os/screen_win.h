@@ -5,6 +5,9 @@
 
 namespace os {
 
+// Dots per inch of the primary screen.
+int ScreenDpi();
+
 class ScreenWin : public Screen {
  public:
   base::PixelSize primarySize() const override;

@@ -1,6 +1,8 @@
 // The system's shell, which knows what opens what.
 #pragma once
 
+#include <cstdint>
+#include <memory>
 #include <string>
 
 namespace os {
@@ -9,8 +11,12 @@ class Shell {
  public:
   virtual ~Shell() = default;
 
-  // Opens a file path or a web address with its default program. What becomes of it is the shell's business.
-  virtual void open(const std::string& target) = 0;
+  // Opens a file path or a web address with its default program. Gives the shell's result, of which more than
+  // 32 means that something was opened.
+  virtual std::intptr_t open(const std::string& target) = 0;
 };
+
+// The shell of this machine.
+std::unique_ptr<Shell> MakeShell();
 
 }  // namespace os

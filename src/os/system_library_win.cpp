@@ -4,6 +4,12 @@
 
 namespace os {
 
+void LoadLibrariesFromSystemFolderOnly() {
+  using SetDirectories = BOOL(WINAPI*)(DWORD flags);
+  const auto set = FindFunction<SetDirectories>(L"kernel32.dll", "SetDefaultDllDirectories");
+  if (set) set(LOAD_LIBRARY_SEARCH_SYSTEM32);
+}
+
 // By its full path, since the flag for the same purpose is unknown to systems without its update.
 OwnedLibrary LoadSystemLibrary(const wchar_t* name) {
   std::wstring path(MAX_PATH, L'\0');

@@ -24,7 +24,7 @@ struct CheckedHead {
   bool isWholeFile = false;
 };
 
-std::optional<CheckedHead> ReadHead(os::FileHead& heads, const std::string& path, std::size_t limit) {
+std::optional<CheckedHead> ReadHead(os::Files& heads, const std::string& path, std::size_t limit) {
   std::optional<std::string> bytes = heads.readHead(path, limit);
   if (!bytes) return std::nullopt;
   const auto header = ReadPictureHeader(*bytes);
@@ -34,7 +34,7 @@ std::optional<CheckedHead> ReadHead(os::FileHead& heads, const std::string& path
 }
 
 // The head of a picture whose claims have been found bearable; nothing for anything else.
-std::optional<CheckedHead> CheckHead(os::FileHead& heads, const std::string& path) {
+std::optional<CheckedHead> CheckHead(os::Files& heads, const std::string& path) {
   auto head = ReadHead(heads, path, kHeadBytes);
   if (head && !head->header.size && !head->isWholeFile) head = ReadHead(heads, path, kLongHeadBytes);
   if (!head || !head->header.size || !IsDecodable(*head->header.size, head->header.bytesPerPixel)) {
@@ -43,7 +43,7 @@ std::optional<CheckedHead> CheckHead(os::FileHead& heads, const std::string& pat
   return head;
 }
 
-std::unique_ptr<os::PictureSource> OpenGif(os::FileHead& heads, const std::string& path,
+std::unique_ptr<os::PictureSource> OpenGif(os::Files& heads, const std::string& path,
                                            const CheckedHead& head) {
   std::optional<std::string> rest;
   if (!head.isWholeFile) rest = heads.readHead(path, GifBytesNeeded(*head.header.size, head.bytes.size()));
@@ -60,7 +60,7 @@ struct OpenedPicture {
 
 // The source is null when there is no picture, or one that claims too much: looked at before a decoder
 // begins, and once more with the size that the decoder found.
-OpenedPicture OpenPicture(os::FileHead& heads, os::PictureDecoder& decoder, const std::string& path) {
+OpenedPicture OpenPicture(os::Files& heads, os::PictureDecoder& decoder, const std::string& path) {
   const auto head = CheckHead(heads, path);
   if (!head) return {};
   const bool isGif = head->header.kind == PictureKind::gif;

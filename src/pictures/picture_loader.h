@@ -1,7 +1,7 @@
 // Opens picture files by what they hold: BMP, GIF, JPEG, and what else the machine's decoder reads.
 #pragma once
 
-#include "os/file_head.h"
+#include "os/files.h"
 #include "os/picture_decoder.h"
 #include "pictures/pictures.h"
 
@@ -11,12 +11,12 @@ namespace pictures {
 // others by the machine's decoder. Both arguments outlive the loader and its pictures.
 class FilePictureLoader final : public PictureLoader {
  public:
-  FilePictureLoader(os::FileHead& heads, os::PictureDecoder& decoder) : heads_(heads), decoder_(decoder) {}
+  FilePictureLoader(os::Files& heads, os::PictureDecoder& decoder) : heads_(heads), decoder_(decoder) {}
 
   std::shared_ptr<const PictureFile> open(const std::string& path) override;
 
  private:
-  os::FileHead& heads_;
+  os::Files& heads_;
   os::PictureDecoder& decoder_;
 };
 

@@ -78,7 +78,7 @@ void Form1::unload() {
 void Form1::Form_Load() {
   openSettings();
   coverScreen();
-  if (facts_.guardsPassword()) services_.flags.setScreenSaverRunning(true);
+  if (facts_.guardsPassword()) services_.desktop.setScreenSaverRunning(true);
   LoadSettings();
   PrepareDisplay();
   services_.stage.flush();

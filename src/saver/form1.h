@@ -15,11 +15,11 @@
 #include "os/ansi_code_page.h"
 #include "os/clock.h"
 #include "os/date_text.h"
+#include "os/desktop.h"
 #include "os/event_loop.h"
 #include "os/files.h"
+#include "os/machine_facts.h"
 #include "os/screen.h"
-#include "os/system_facts.h"
-#include "os/system_flags.h"
 #include "pictures/pictures.h"
 #include "saver/background.h"
 #include "saver/countdown.h"
@@ -38,7 +38,7 @@ struct ShowServices {
   const os::Clock& clock;
   os::EventLoop& loop;
   const os::Screen& screen;
-  os::SystemFlags& flags;
+  os::Desktop& desktop;
   const os::DateText& dates;
   Stage& stage;
   StageWindow& window;

@@ -2,7 +2,7 @@
 
 #include <windowsx.h>
 
-#include <utility>
+#include "os/window_class_win.h"
 
 namespace saver {
 
@@ -13,18 +13,11 @@ constexpr const wchar_t* kClassName = L"WindowsScreenSaverClass";
 
 }  // namespace
 
-StageWindowWin::StageWindowWin(HINSTANCE instance, Guard guard) : guard_(std::move(guard)) {
-  WNDCLASSEXW description{};
-  description.cbSize = sizeof(description);
+StageWindowWin::StageWindowWin(os::EventLoop& loop) : loop_(loop) {
   // A device context of its own, so that a frame of a transition need not ask for one anew.
-  description.style = CS_OWNDC;
-  description.lpfnWndProc = Procedure;
-  description.hInstance = instance;
-  description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-  description.lpszClassName = kClassName;
-  RegisterClassExW(&description);
+  os::RegisterWindowClass(kClassName, Procedure, CS_OWNDC);
   window_.reset(CreateWindowExW(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, kClassName, L"Lumora Screen Saver",
-                                WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, instance, this));
+                                WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, GetModuleHandleW(nullptr), this));
 }
 
 StageWindowWin::~StageWindowWin() { close(); }
@@ -43,7 +36,7 @@ void StageWindowWin::activate() {
 }
 
 void StageWindowWin::close() {
-  if (window_) SetWindowLongPtrW(window_.get(), GWLP_USERDATA, 0);
+  if (window_) os::LeaveWindow(window_.get());
   window_.reset();
 }
 
@@ -75,11 +68,7 @@ void StageWindowWin::paint() {
 }
 
 LRESULT CALLBACK StageWindowWin::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  if (message == WM_NCCREATE) {
-    const auto* creation = reinterpret_cast<const CREATESTRUCTW*>(lParam);
-    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(creation->lpCreateParams));
-  }
-  auto* self = reinterpret_cast<StageWindowWin*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+  auto* self = os::ObjectOf<StageWindowWin>(window, message, lParam);
   if (!self || !self->window_) return DefWindowProcW(window, message, wParam, lParam);
   return self->receive(message, wParam, lParam);
 }
@@ -87,7 +76,7 @@ LRESULT CALLBACK StageWindowWin::Procedure(HWND window, UINT message, WPARAM wPa
 LRESULT StageWindowWin::receive(UINT message, WPARAM wParam, LPARAM lParam) {
   const HWND window = window_.get();
   const auto raise = [this](const auto& event, auto... values) {
-    if (event) guard_([&] { event(values...); });
+    if (event) loop_.dispatch([&] { event(values...); });
   };
   switch (message) {
     case WM_KEYDOWN:

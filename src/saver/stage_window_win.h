@@ -3,21 +3,18 @@
 
 #include <windows.h>
 
-#include <functional>
 #include <optional>
 
 #include "os/dib_win.h"
+#include "os/event_loop.h"
 #include "saver/stage_window.h"
 
 namespace saver {
 
 class StageWindowWin : public StageWindow {
  public:
-  // Runs a handler at the event border: nothing that it throws may cross a window procedure.
-  using Guard = std::function<void(const std::function<void()>&)>;
-
-  // Makes the window, hidden, borderless and above everything.
-  StageWindowWin(HINSTANCE instance, Guard guard);
+  // Makes the window, hidden, borderless and above everything. Its events are dispatched by `loop`.
+  explicit StageWindowWin(os::EventLoop& loop);
   ~StageWindowWin() override;
 
   void cover(base::PixelRect area) override;
@@ -32,7 +29,7 @@ class StageWindowWin : public StageWindow {
   LRESULT receive(UINT message, WPARAM wParam, LPARAM lParam);
   void paint();
 
-  Guard guard_;
+  os::EventLoop& loop_;
   os::OwnedWindow window_;
   std::optional<os::Dib> back_;
   base::PixelSize size_;

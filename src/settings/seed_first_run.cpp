@@ -1,8 +1,8 @@
 #include "settings/seed_first_run.h"
 
+#include "os/paths.h"
 #include "settings/keys.h"
 #include "settings/read_ini_value.h"
-#include "settings/settings_path.h"
 
 namespace settings {
 
@@ -17,8 +17,8 @@ constexpr std::string_view kCleared = "0";
 
 bool SeedFirstRun(IniDocument& document, const std::string& programFolder) {
   if (ReadIniValue(document, kSection, kMarker) != kPresent) return false;
-  document.set(kImagesSection, "0", InProgramFolder(programFolder, "image1.gif"));
-  document.set(kImagesSection, "1", InProgramFolder(programFolder, "image2.gif"));
+  document.set(kImagesSection, "0", os::JoinPath(programFolder, "image1.gif"));
+  document.set(kImagesSection, "1", os::JoinPath(programFolder, "image2.gif"));
   ClearFirstRunMarker(document);
   return true;
 }

@@ -1,18 +1,15 @@
-// Where the settings file and the program's other files lie.
+// Where the settings file lies.
 #pragma once
 
 #include <string>
 
-namespace settings {
+#include "os/paths.h"
 
-// The path of a file in the program's own folder, which may or may not end in a backslash.
-inline std::string InProgramFolder(const std::string& programFolder, const std::string& name) {
-  return programFolder.ends_with('\\') ? programFolder + name : programFolder + '\\' + name;
-}
+namespace settings {
 
 // The settings file is addressed by this full path alone; no other folder is searched.
 inline std::string IniPath(const std::string& programFolder) {
-  return InProgramFolder(programFolder, "zbfaone.ini");
+  return os::JoinPath(programFolder, "zbfaone.ini");
 }
 
 }  // namespace settings

@@ -12,20 +12,20 @@ constexpr int kBeyondCorner = 12;
 
 }  // namespace
 
-void HideCursor(os::Cursor& cursor) {
-  for (int calls = 0; calls < kMostCalls && cursor.showCounter(false) >= -5; ++calls) {
+void HideCursor(os::Desktop& desktop) {
+  for (int calls = 0; calls < kMostCalls && desktop.showCursor(false) >= -5; ++calls) {
   }
 }
 
-void ShowCursor(os::Cursor& cursor) {
-  for (int calls = 0; calls < kMostCalls && cursor.showCounter(true) <= 5; ++calls) {
+void ShowCursor(os::Desktop& desktop) {
+  for (int calls = 0; calls < kMostCalls && desktop.showCursor(true) <= 5; ++calls) {
   }
 }
 
-void ParkCursor(os::Cursor& cursor, const os::Screen& screen) {
+void ParkCursor(os::Desktop& desktop, const os::Screen& screen) {
   const int twipsPerPixel = base::TwipsPerPixelForDpi(screen.dpi());
   const base::PixelSize size = screen.primarySize();
-  cursor.moveTo(size.width * twipsPerPixel + kBeyondCorner, size.height * twipsPerPixel + kBeyondCorner);
+  desktop.moveCursor(size.width * twipsPerPixel + kBeyondCorner, size.height * twipsPerPixel + kBeyondCorner);
 }
 
 }  // namespace startup

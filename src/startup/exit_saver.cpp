@@ -20,14 +20,14 @@ void SaverExit::ExitSaver() {
   if (state_ != State::Showing) return;
   if (facts_.guardsPassword()) {
     if (!passwordAccepted()) {
-      ParkCursor(services_.cursor, services_.screen);
+      ParkCursor(services_.desktop, services_.screen);
       show_.showFormAgain();
       return;
     }
-    services_.flags.setScreenSaverRunning(false);
+    services_.desktop.setScreenSaverRunning(false);
   }
   state_ = State::Ended;
-  services_.taskbar.show(services_.taskbar.find());
+  services_.desktop.showTaskbar(services_.desktop.findTaskbar());
   show_.unloadForm();
   show_.endProgram();
 }

@@ -4,12 +4,10 @@
 #include <cstdint>
 #include <functional>
 
-#include "os/cursor.h"
+#include "os/desktop.h"
+#include "os/machine_facts.h"
 #include "os/passwords.h"
 #include "os/screen.h"
-#include "os/system_facts.h"
-#include "os/system_flags.h"
-#include "os/taskbar.h"
 
 namespace startup {
 
@@ -17,10 +15,8 @@ class SaverExit {
  public:
   struct Services {
     os::Passwords& passwords;
-    os::Cursor& cursor;
+    os::Desktop& desktop;
     const os::Screen& screen;
-    os::SystemFlags& flags;
-    os::Taskbar& taskbar;
   };
 
   // What belongs to the show.

@@ -6,7 +6,7 @@
 #include <optional>
 #include <utility>
 
-#include "settings/settings_path.h"
+#include "os/paths.h"
 
 namespace startup {
 
@@ -35,7 +35,7 @@ std::string YoungerHalf(const std::string& content) {
 }  // namespace
 
 FailureLog::FailureLog(os::Files& files, const os::Clock& clock, const std::string& programFolder)
-    : files_(files), clock_(clock), path_(settings::InProgramFolder(programFolder, "lumora.log")) {}
+    : files_(files), clock_(clock), path_(os::JoinPath(programFolder, "lumora.log")) {}
 
 void FailureLog::note(const std::string& failure) noexcept {
   try {

@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "base/geometry.h"
-#include "os/system_facts.h"
+#include "os/machine_facts.h"
 
 namespace startup {
 

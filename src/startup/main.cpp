@@ -9,12 +9,12 @@ namespace {
 
 void StartSaver(os::SystemFacts& facts, const StartServices& services, const RunModes& modes) {
   if (facts.guardsPassword()) {
-    ParkCursor(services.cursor, services.screen);
+    ParkCursor(services.desktop, services.screen);
   } else {
-    HideCursor(services.cursor);
+    HideCursor(services.desktop);
   }
-  facts.taskbarWindow = services.taskbar.find();
-  services.taskbar.hide(facts.taskbarWindow);
+  facts.taskbarWindow = services.desktop.findTaskbar();
+  services.desktop.hideTaskbar(facts.taskbarWindow);
   modes.showSaver(facts);
 }
 
@@ -22,8 +22,8 @@ void StartSaver(os::SystemFacts& facts, const StartServices& services, const Run
 
 Start Main(const std::string& commandText, const StartServices& services, const RunModes& modes) {
   Start start;
-  start.facts.osPlatformId = services.version.platformId();
-  start.facts.usePassword = PasswordFlagNumber(ReadPasswordFlag(services.registry));
+  start.facts.osPlatformId = services.machine.platformId();
+  start.facts.usePassword = PasswordFlagNumber(ReadPasswordFlag(services.machine));
   if (!services.instance.becomeOnly()) return start;
   start.mode = RunModeOf(commandText);
   switch (*start.mode) {

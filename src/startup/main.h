@@ -5,25 +5,20 @@
 #include <optional>
 #include <string>
 
-#include "os/cursor.h"
+#include "os/desktop.h"
 #include "os/instance.h"
+#include "os/machine_facts.h"
 #include "os/passwords.h"
-#include "os/registry.h"
 #include "os/screen.h"
-#include "os/system_facts.h"
-#include "os/system_version.h"
-#include "os/taskbar.h"
 #include "startup/command_line.h"
 
 namespace startup {
 
 struct StartServices {
-  os::SystemVersion& version;
-  os::Registry& registry;
+  os::MachineFacts& machine;
   os::Instance& instance;
   os::Passwords& passwords;
-  os::Cursor& cursor;
-  os::Taskbar& taskbar;
+  os::Desktop& desktop;
   const os::Screen& screen;
 };
 

@@ -32,8 +32,8 @@ std::string PasswordFlagText(const os::RegistryValue& value) {
   return text;
 }
 
-std::string ReadPasswordFlag(os::Registry& registry) {
-  const auto value = registry.readUserValue("Control Panel\\Desktop", "ScreenSaveUsePassword");
+std::string ReadPasswordFlag(os::MachineFacts& machine) {
+  const auto value = machine.readUserValue("Control Panel\\Desktop", "ScreenSaveUsePassword");
   return value ? PasswordFlagText(*value) : std::string();
 }
 

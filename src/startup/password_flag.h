@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "os/registry.h"
+#include "os/machine_facts.h"
 
 namespace startup {
 
@@ -12,7 +12,7 @@ namespace startup {
 std::string PasswordFlagText(const os::RegistryValue& value);
 
 // The flag of the current user as text; empty where there is none.
-std::string ReadPasswordFlag(os::Registry& registry);
+std::string ReadPasswordFlag(os::MachineFacts& machine);
 
 // The text as a number, read leniently; 0 = no password. A number beyond 16 bits becomes the nearest that
 // fits: a flag of whatever size is a flag that is on.

@@ -11,7 +11,7 @@ namespace startup {
 namespace {
 
 saver::ShowServices With(pictures::PictureLoader& pictures, const saver::ShowServices& s) {
-  return {s.files, s.ansi, pictures, s.clock, s.loop, s.screen, s.flags, s.dates, s.stage, s.window};
+  return {s.files, s.ansi, pictures, s.clock, s.loop, s.screen, s.desktop, s.dates, s.stage, s.window};
 }
 
 }  // namespace

@@ -3,19 +3,17 @@
 
 #include <atomic>
 
-#include "os/cursor.h"
-#include "os/system_flags.h"
-#include "os/taskbar.h"
+#include "os/desktop.h"
 
 namespace startup {
 
-// Stands between the program and the parts of the system that the show changes: it passes every call on and
-// remembers what is still changed. Given to Main, the show and the exit in place of the seams themselves, it
-// knows at every moment what is left to put back. Nothing is put back twice, whoever asks first: the way out,
-// the end of a scope, or a crash on any thread.
-class SystemRestore : public os::Taskbar, public os::Cursor, public os::SystemFlags {
+// Stands between the program and the desktop that the show changes: it passes every call on and remembers
+// what is still changed. Given to Main, the show and the exit in place of the desktop itself, it knows at
+// every moment what is left to put back. Nothing is put back twice, whoever asks first: the way out, the end
+// of a scope, or a crash on any thread.
+class SystemRestore : public os::Desktop {
  public:
-  SystemRestore(os::Taskbar& taskbar, os::Cursor& cursor, os::SystemFlags& flags);
+  explicit SystemRestore(os::Desktop& desktop) : desktop_(desktop) {}
   ~SystemRestore() override { restore(); }
   SystemRestore(const SystemRestore&) = delete;
   SystemRestore& operator=(const SystemRestore&) = delete;
@@ -24,19 +22,17 @@ class SystemRestore : public os::Taskbar, public os::Cursor, public os::SystemFl
   // changed.
   void restore() noexcept;
 
-  std::intptr_t find() override;
-  void hide(std::intptr_t window) override;
-  void show(std::intptr_t window) override;
-  int showCounter(bool show) override;
-  void moveTo(int x, int y) override;
+  int showCursor(bool show) override;
+  void moveCursor(int x, int y) override { desktop_.moveCursor(x, y); }
+  std::intptr_t findTaskbar() override { return desktop_.findTaskbar(); }
+  void hideTaskbar(std::intptr_t window) override;
+  void showTaskbar(std::intptr_t window) override;
   void setScreenSaverRunning(bool running) override;
 
  private:
   void restoreTaskbar();
 
-  os::Taskbar& taskbar_;
-  os::Cursor& cursor_;
-  os::SystemFlags& flags_;
+  os::Desktop& desktop_;
   std::atomic<std::intptr_t> hiddenTaskbar_ = 0;
   std::atomic<int> cursorCounter_ = 0;
   std::atomic<bool> running_ = false;

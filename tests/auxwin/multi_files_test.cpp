@@ -14,7 +14,7 @@ namespace {
 using Paths = std::vector<std::string>;
 
 struct MultiFilesTest : testing::Test {
-  support::FakeFolders folders;
+  support::FakeFiles disk;
   support::FakeDialogs dialogs;
   support::FakeWindowSystem windows;
   forms::Form dialog{"Form2"};
@@ -27,13 +27,13 @@ struct MultiFilesTest : testing::Test {
   std::unique_ptr<MultiFiles> form;
 
   MultiFilesTest() {
-    folders.roots = {"C:\\", "D:\\"};
-    folders.current = "C:\\photos";
-    folders.folders["C:\\"] = {"photos"};
-    folders.folders["C:\\photos"] = {"sea"};
-    folders.files["C:\\photos"] = {"b.jpg", "A.BMP", "c.jpeg", "d.dib", "e.gif", "f.png", "g.jif", "h.txt"};
-    folders.files["C:\\photos\\sea"] = {"wave.gif"};
-    folders.files["D:\\"] = {"root.gif"};
+    disk.roots = {"C:\\", "D:\\"};
+    disk.current = "C:\\photos";
+    disk.folders["C:\\"] = {"photos"};
+    disk.folders["C:\\photos"] = {"sea"};
+    disk.listed["C:\\photos"] = {"b.jpg", "A.BMP", "c.jpeg", "d.dib", "e.gif", "f.png", "g.jif", "h.txt"};
+    disk.listed["C:\\photos\\sea"] = {"wave.gif"};
+    disk.listed["D:\\"] = {"root.gif"};
     List1.onClick = [this] { order.push_back("selected " + std::to_string(List1.listIndex())); };
     Text3.onChange = [this] { order.push_back("total " + Text3.text()); };
   }
@@ -45,7 +45,7 @@ struct MultiFilesTest : testing::Test {
                         return path.size() > 30 ? std::nullopt : std::optional<std::string>(path);
                       },
                       [this](int count) { leftOut.push_back(count); }},
-        folders, dialogs, windows);
+        disk, dialogs, windows);
     windows.show(*form);
     return *form;
   }
@@ -94,7 +94,7 @@ TEST_F(MultiFilesTest, AFolderWithoutPicturesRewritesTheCountAndCloses) {
   List1.addItem("first.gif");
   photo_caption.addItem("First");
   Text3.setDesignText("Total: 1");
-  folders.files["C:\\photos"] = {"h.txt"};
+  disk.listed["C:\\photos"] = {"h.txt"};
   open().Command1.userClicked();
   EXPECT_EQ(List1.listCount(), 1);
   EXPECT_EQ(Text3.text(), "1");
@@ -103,7 +103,7 @@ TEST_F(MultiFilesTest, AFolderWithoutPicturesRewritesTheCountAndCloses) {
 }
 
 TEST_F(MultiFilesTest, AFolderWithoutPicturesDoesNotDisturbAnEmptyList) {
-  folders.files["C:\\photos"] = {};
+  disk.listed["C:\\photos"] = {};
   open().Command1.userClicked();
   EXPECT_EQ(order, Paths{"total 0"});
   EXPECT_FALSE(isOpen());
@@ -126,10 +126,10 @@ TEST_F(MultiFilesTest, CancelAndEscapeAddNothing) {
 }
 
 TEST_F(MultiFilesTest, MoreThan700PicturesBringTheAdviceUnlessItWasGiven) {
-  folders.files["C:\\photos"].assign(700, "x.gif");
+  disk.listed["C:\\photos"].assign(700, "x.gif");
   open().Command1.userClicked();
   EXPECT_TRUE(dialogs.messages.empty());
-  folders.files["C:\\photos"] = {"y.gif"};
+  disk.listed["C:\\photos"] = {"y.gif"};
   open().Command1.userClicked();
   ASSERT_EQ(dialogs.messages.size(), 1U);
   EXPECT_EQ(dialogs.messages[0].text,
@@ -141,8 +141,8 @@ TEST_F(MultiFilesTest, MoreThan700PicturesBringTheAdviceUnlessItWasGiven) {
 }
 
 TEST_F(MultiFilesTest, PathsThatCannotBeKeptAreLeftOutAndCounted) {
-  folders.files["C:\\photos"] = {"a.gif", std::string(30, 'l') + ".gif", "z.gif",
-                                 std::string(31, 'l') + ".gif"};
+  disk.listed["C:\\photos"] = {"a.gif", std::string(30, 'l') + ".gif", "z.gif",
+                               std::string(31, 'l') + ".gif"};
   open().Command1.userClicked();
   EXPECT_EQ(List1.items(), (Paths{"C:\\photos\\a.gif", "C:\\photos\\z.gif"}));
   EXPECT_EQ(photo_caption.listCount(), 2);
@@ -150,7 +150,7 @@ TEST_F(MultiFilesTest, PathsThatCannotBeKeptAreLeftOutAndCounted) {
 }
 
 TEST_F(MultiFilesTest, TwentyThousandFilesComeInAMoment) {
-  Paths& files = folders.files["C:\\photos"];
+  Paths& files = disk.listed["C:\\photos"];
   files.clear();
   for (int i = 20'000; i > 0; --i) files.push_back("picture " + std::to_string(i) + ".jpg");
   const auto start = std::chrono::steady_clock::now();

@@ -6,11 +6,7 @@
 
 namespace bench {
 
-saver::StageWindowWin::Guard Unguarded() {
-  return [](const std::function<void()>& handler) { handler(); };
-}
-
-BenchStage::BenchStage(base::PixelSize size) : window(GetModuleHandleW(nullptr), Unguarded()) {
+BenchStage::BenchStage(base::PixelSize size) {
   form.setHost(&stage);
   form.setBackColor(base::kBlack);
   window.cover(base::PixelRect::ofSize(size));

@@ -3,15 +3,14 @@
 
 #include "forms/form.h"
 #include "forms/picture_box.h"
+#include "os/clock_win.h"
+#include "os/event_loop_win.h"
 #include "os/text_renderer_win.h"
 #include "saver/stage.h"
 #include "saver/stage_window_win.h"
 #include "saver/transitions/plan.h"
 
 namespace bench {
-
-// Handlers are run as they are: whatever they throw ends the benchmark.
-saver::StageWindowWin::Guard Unguarded();
 
 class BenchStage {
  public:
@@ -21,7 +20,9 @@ class BenchStage {
   // Places the picture box at whole pixels.
   void placePicture(const base::PixelRect& place);
 
-  saver::StageWindowWin window;
+  os::ClockWin clock;
+  os::EventLoopWin loop{clock};  // without an error handler: an error ends the benchmark
+  saver::StageWindowWin window{loop};
   os::TextRendererWin text{96};
   saver::Stage stage{window, text, 15};
   forms::Form form{"bench"};

@@ -48,6 +48,7 @@ class FrameWatch : public os::EventLoop {
   void setErrorHandler(std::function<void(const std::exception&)> handler) override {
     loop_.setErrorHandler(std::move(handler));
   }
+  void dispatch(const std::function<void()>& handler) override { loop_.dispatch(handler); }
 
   int inTime = 0;
 

@@ -12,7 +12,6 @@
 #include "bench/rows.h"
 #include "forms/picture.h"
 #include "os/com_pointer_win.h"
-#include "os/file_head_win.h"
 #include "os/files_win.h"
 #include "os/picture_decoder_win.h"
 #include "os/utf16_win.h"
@@ -79,7 +78,7 @@ class Way {
   }
 
  private:
-  os::FileHeadWin heads_;
+  os::FilesWin heads_;
   os::PictureDecoderWin decoder_;
   pictures::FilePictureLoader loader_{heads_, decoder_};
   BenchStage stage_{kScreen};

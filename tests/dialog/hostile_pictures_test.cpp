@@ -23,7 +23,7 @@ struct HostileChoice : testing::Test {
 
   const support::HostilePictures all = support::AllHostilePictures();
   support::SettingsDialogMachine machine;
-  support::FakeFileHead heads;
+  support::FakeFiles heads;
   support::FakePictureDecoder none;  // the machine's own decoder refuses everything
   pictures::FilePictureLoader loader{heads, none};
 };

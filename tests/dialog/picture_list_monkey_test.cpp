@@ -43,9 +43,9 @@ struct Monkey {
       machine.pictures.add(path, {8, 6}, base::kBlack);
       machine.files.content[path] = "pixels";
     }
-    machine.folders.files["C:\\"] = {"p1.gif", "p2.gif", "p3.gif", "notes.txt"};
-    machine.folders.files["C:\\empty"] = {};
-    machine.folders.folders["C:\\"] = {"empty"};
+    machine.files.listed["C:\\"] = {"p1.gif", "p2.gif", "p3.gif", "notes.txt"};
+    machine.files.listed["C:\\empty"] = {};
+    machine.files.folders["C:\\"] = {"empty"};
     machine.windows.whileModal = [this](forms::Form& modal) {
       auto& import = static_cast<auxwin::MultiFiles&>(modal);
       if (importsEmptyFolder) import.dirDirectories.setPath("C:\\empty");

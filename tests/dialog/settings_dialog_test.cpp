@@ -64,7 +64,7 @@ TEST_F(SettingsDialogTest, ClosingTheWindowEndsTheProgramToo) {
 
 TEST_F(SettingsDialogTest, FolderImportIsModalAndItsListIsUpToDateWhenItCloses) {
   SettingsDialog& dialog = open();
-  machine.folders.files["C:\\"] = {"z.bmp", "y.txt", "x.GIF"};
+  machine.files.listed["C:\\"] = {"z.bmp", "y.txt", "x.GIF"};
   machine.pictures.add("C:\\z.bmp", {4, 3}, 0);
   machine.windows.whileModal = [](forms::Form& form) {
     static_cast<auxwin::MultiFiles&>(form).Command1.userClicked();
@@ -82,7 +82,7 @@ TEST_F(SettingsDialogTest, FolderImportIsModalAndItsListIsUpToDateWhenItCloses) 
 
 TEST_F(SettingsDialogTest, TheAdviceIsGivenOnceWhetherByFolderOrByFile) {
   SettingsDialog& dialog = open();
-  for (int i = 0; i < 699; ++i) machine.folders.files["C:\\"].push_back(std::to_string(i) + ".gif");
+  for (int i = 0; i < 699; ++i) machine.files.listed["C:\\"].push_back(std::to_string(i) + ".gif");
   machine.windows.whileModal = [](forms::Form& form) {
     static_cast<auxwin::MultiFiles&>(form).Command1.userClicked();
   };
@@ -106,7 +106,7 @@ TEST_F(SettingsDialogTest, HelpIsThePageInTheProgramFolder) {
 
 TEST_F(SettingsDialogTest, AProgramFolderThatEndsInABackslashGetsNoSecondOne) {
   SettingsDialog dialog({machine.files, machine.ansi, machine.pictures, machine.dialogs, machine.windows},
-                        machine.loop, machine.folders, machine.shell, "D:\\", nullptr);
+                        machine.loop, machine.shell, "D:\\", nullptr);
   dialog.form.LumoraHelp.userClicked();
   EXPECT_EQ(machine.shell.opened, Names{"D:\\lumoraHelp.htm"});
 }
@@ -128,7 +128,7 @@ TEST_F(SettingsDialogTest, TheAboutBoxIsModalAndCanBeOpenedAgain) {
 TEST_F(SettingsDialogTest, NothingOfItStaysWhenItIsTakenDownWhileOpen) {
   {
     SettingsDialog dialog({machine.files, machine.ansi, machine.pictures, machine.dialogs, machine.windows},
-                          machine.loop, machine.folders, machine.shell, "C:\\Lumora", nullptr);
+                          machine.loop, machine.shell, "C:\\Lumora", nullptr);
     dialog.show();
     machine.dialogs.messages.clear();
     dialog.EnlargeCommand_Click();

@@ -36,7 +36,7 @@ class Poster {
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     auto* self = reinterpret_cast<Poster*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (message != kPosted) return DefWindowProcW(window, message, wParam, lParam);
-    self->loop_.dispatchGuarded(self->events_.at(wParam));
+    self->loop_.dispatch(self->events_.at(wParam));
     return 0;
   }
 
@@ -71,7 +71,7 @@ using EventLoopWin = EventLoopWinTest;
 TEST_F(EventLoopWin, TheBorderStopsWhatIsNoExceptionToo) {
   std::string told;
   loop.setErrorHandler([&](const std::exception& error) { told = error.what(); });
-  loop.dispatchGuarded([] { throw 42; });
+  loop.dispatch([] { throw 42; });
   EXPECT_FALSE(told.empty());
 }
 
@@ -88,8 +88,8 @@ TEST_F(EventLoopWin, TheErrorHandlerMayReplaceItself) {
   int second = 0;
   loop.setErrorHandler(
       [&](const std::exception&) { loop.setErrorHandler([&](const std::exception&) { ++second; }); });
-  loop.dispatchGuarded([] { throw base::Overflow(); });
-  loop.dispatchGuarded([] { throw base::Overflow(); });
+  loop.dispatch([] { throw base::Overflow(); });
+  loop.dispatch([] { throw base::Overflow(); });
   EXPECT_EQ(second, 1);
 }
 

@@ -51,9 +51,11 @@ TEST(FilesWin, WorkBeyond260Characters) {
   EXPECT_TRUE(files.replace(path, "pixels"));
   EXPECT_EQ(files.read(path), "pixels");
   EXPECT_TRUE(files.exists(path));
-  EXPECT_TRUE(files.copy(path, folder + "\\copy.jpg"));
+  EXPECT_EQ(files.readHead(path, 3), "pix");
+  ASSERT_NE(CreateDirectoryW((L"\\\\?\\" + os::ToWide(folder + "\\inner")).c_str(), nullptr), FALSE);
   EXPECT_TRUE(files.canWriteIn(folder));
-  EXPECT_EQ(files.filesIn(folder).size(), 2U);
+  EXPECT_EQ(files.filesIn(folder), std::vector<std::string>{"picture.jpg"});
+  EXPECT_EQ(files.foldersIn(folder), std::vector<std::string>{"inner"});
 }
 
 TEST(FilesWin, ANameThatOnlyJustFitsLeavesRoomForTheFileBeside) {

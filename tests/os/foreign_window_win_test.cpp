@@ -1,10 +1,11 @@
-#include "os/foreign_window_win.h"
+#include "os/foreign_window.h"
 
 #include <gtest/gtest.h>
 
 #include "os/clock_win.h"
 #include "os/event_loop_win.h"
-#include "os/instance_win.h"
+#include "os/handles_win.h"
+#include "os/instance.h"
 #include "os/screen_win.h"
 #include "startup/preview.h"
 
@@ -33,7 +34,7 @@ LRESULT CALLBACK PaintGrey(HWND window, UINT message, WPARAM wParam, LPARAM lPar
 struct ForeignWindowWin : testing::Test {
   os::ClockWin clock;
   os::EventLoopWin loop{clock};
-  os::ForeignWindowWin foreign;
+  std::unique_ptr<os::ForeignWindow> foreign = os::MakeForeignWindow();
   os::OwnedWindow owner;
   base::Bitmap image = ColorfulImage();
 
@@ -61,17 +62,17 @@ struct ForeignWindowWin : testing::Test {
 constexpr base::Pixel kGrey = 0xFF808080;
 
 TEST_F(ForeignWindowWin, KnowsWindowsFromNumbers) {
-  EXPECT_TRUE(foreign.exists(handle()));
-  EXPECT_FALSE(foreign.exists(0));
-  EXPECT_FALSE(foreign.exists(-1));
-  EXPECT_FALSE(foreign.exists(0x7FFFFFFF));
+  EXPECT_TRUE(foreign->exists(handle()));
+  EXPECT_FALSE(foreign->exists(0));
+  EXPECT_FALSE(foreign->exists(-1));
+  EXPECT_FALSE(foreign->exists(0x7FFFFFFF));
   const std::intptr_t gone = handle();
   owner.reset();
-  EXPECT_FALSE(foreign.exists(gone));
+  EXPECT_FALSE(foreign->exists(gone));
 }
 
 TEST_F(ForeignWindowWin, EveryPixelOfThePictureArrivesOnTheScreen) {
-  foreign.draw(handle(), image);
+  foreign->draw(handle(), image);
   settle();
   const base::Bitmap screen = os::ScreenWin().copyDesktop();
   int wrong = 0;
@@ -84,14 +85,14 @@ TEST_F(ForeignWindowWin, EveryPixelOfThePictureArrivesOnTheScreen) {
 }
 
 TEST_F(ForeignWindowWin, ReadsBackWhatTheWindowShows) {
-  EXPECT_EQ(foreign.pixelAt(handle(), {20, 60}), kGrey);
-  foreign.draw(handle(), image);
-  EXPECT_EQ(foreign.pixelAt(handle(), {20, 60}), image.at(20, 60));
-  EXPECT_EQ(foreign.pixelAt(handle(), {320, 60}), std::nullopt);
-  EXPECT_FALSE(startup::PreviewIsLost(foreign, handle(), image));
+  EXPECT_EQ(foreign->pixelAt(handle(), {20, 60}), kGrey);
+  foreign->draw(handle(), image);
+  EXPECT_EQ(foreign->pixelAt(handle(), {20, 60}), image.at(20, 60));
+  EXPECT_EQ(foreign->pixelAt(handle(), {320, 60}), std::nullopt);
+  EXPECT_FALSE(startup::PreviewIsLost(*foreign, handle(), image));
   InvalidateRect(owner.get(), nullptr, TRUE);
   UpdateWindow(owner.get());
-  EXPECT_TRUE(startup::PreviewIsLost(foreign, handle(), image));
+  EXPECT_TRUE(startup::PreviewIsLost(*foreign, handle(), image));
 }
 
 TEST_F(ForeignWindowWin, DrawingIntoNoWindowDrawsNowhere) {
@@ -99,19 +100,19 @@ TEST_F(ForeignWindowWin, DrawingIntoNoWindowDrawsNowhere) {
   owner.reset();
   settle();
   const base::Bitmap before = os::ScreenWin().copyDesktop();
-  foreign.draw(gone, image);
+  foreign->draw(gone, image);
   settle();
   EXPECT_TRUE(before == os::ScreenWin().copyDesktop());
 }
 
 TEST_F(ForeignWindowWin, WindowsOfItsOwnerAndOurFollowerAreNoOthers) {
-  EXPECT_FALSE(foreign.holdsAnother(handle()));
-  foreign.follow(handle(), [] {});
-  EXPECT_FALSE(foreign.holdsAnother(handle()));
+  EXPECT_FALSE(foreign->holdsAnother(handle()));
+  foreign->follow(handle(), [] {});
+  EXPECT_FALSE(foreign->holdsAnother(handle()));
 }
 
 TEST_F(ForeignWindowWin, TheFollowerIsInsideAndHidden) {
-  foreign.follow(handle(), [] {});
+  foreign->follow(handle(), [] {});
   const HWND inside = GetWindow(owner.get(), GW_CHILD);
   ASSERT_NE(inside, nullptr);
   EXPECT_FALSE(IsWindowVisible(inside));
@@ -119,7 +120,7 @@ TEST_F(ForeignWindowWin, TheFollowerIsInsideAndHidden) {
 
 TEST_F(ForeignWindowWin, TheFollowerTellsOnceThatTheWindowHasGone) {
   int closed = 0;
-  foreign.follow(handle(), [&]() noexcept { ++closed; });
+  foreign->follow(handle(), [&]() noexcept { ++closed; });
   owner.reset();
   settle();
   EXPECT_EQ(closed, 1);
@@ -127,7 +128,7 @@ TEST_F(ForeignWindowWin, TheFollowerTellsOnceThatTheWindowHasGone) {
 
 TEST_F(ForeignWindowWin, TheFollowerTellsThatTheOwnerClosedIt) {
   int closed = 0;
-  foreign.follow(handle(), [&]() noexcept { ++closed; });
+  foreign->follow(handle(), [&]() noexcept { ++closed; });
   SendMessageW(GetWindow(owner.get(), GW_CHILD), WM_CLOSE, 0, 0);
   EXPECT_EQ(closed, 1);
   EXPECT_EQ(GetWindow(owner.get(), GW_CHILD), nullptr);
@@ -144,12 +145,12 @@ TEST_F(ForeignWindowWin, TheFollowerLeavesWithItsMaker) {
 }
 
 TEST_F(ForeignWindowWin, ALivePreviewComesBackAfterARepaintAndEndsWithItsWindow) {
-  os::InstanceWin instance("LumoraTestPreview");
-  ASSERT_TRUE(instance.becomeOnly());
+  const auto instance = os::MakeInstance("LumoraTestPreview");
+  ASSERT_TRUE(instance->becomeOnly());
   int repaints = 0;
   const std::int64_t giveUp = clock.tickMs() + 20000;
   loop.startTimer(50, [&] {
-    if (clock.tickMs() < giveUp && startup::PreviewIsLost(foreign, handle(), image)) return;
+    if (clock.tickMs() < giveUp && startup::PreviewIsLost(*foreign, handle(), image)) return;
     if (clock.tickMs() >= giveUp || repaints == 3) {
       owner.reset();
       return;
@@ -157,23 +158,23 @@ TEST_F(ForeignWindowWin, ALivePreviewComesBackAfterARepaintAndEndsWithItsWindow)
     ++repaints;  // the picture is there: lose it again
     InvalidateRect(owner.get(), nullptr, TRUE);
     UpdateWindow(owner.get());
-    EXPECT_TRUE(startup::PreviewIsLost(foreign, handle(), image));
+    EXPECT_TRUE(startup::PreviewIsLost(*foreign, handle(), image));
   });
   bool ended = false;
-  startup::DrawPreview("/p " + std::to_string(handle()), image, "1", {foreign, loop, clock, instance},
+  startup::DrawPreview("/p " + std::to_string(handle()), image, "1", {*foreign, loop, clock, *instance},
                        [&] { ended = true; });
   EXPECT_TRUE(ended);
   EXPECT_EQ(repaints, 3) << "it came back after each";
-  EXPECT_TRUE(os::InstanceWin("LumoraTestPreview").becomeOnly()) << "another copy may start";
+  EXPECT_TRUE(os::MakeInstance("LumoraTestPreview")->becomeOnly()) << "another copy may start";
 }
 
 TEST_F(ForeignWindowWin, AnOrdinaryPreviewIsDrawnAndEnds) {
-  os::InstanceWin instance("LumoraTestPreview");
+  const auto instance = os::MakeInstance("LumoraTestPreview");
   bool ended = false;
-  startup::DrawPreview("/p " + std::to_string(handle()), image, "", {foreign, loop, clock, instance},
+  startup::DrawPreview("/p " + std::to_string(handle()), image, "", {*foreign, loop, clock, *instance},
                        [&] { ended = true; });
   EXPECT_TRUE(ended);
-  EXPECT_FALSE(startup::PreviewIsLost(foreign, handle(), image));
+  EXPECT_FALSE(startup::PreviewIsLost(*foreign, handle(), image));
 }
 
 }  // namespace

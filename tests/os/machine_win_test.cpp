@@ -5,16 +5,13 @@
 #include <array>
 
 #include "os/clock_win.h"
-#include "os/cursor_win.h"
+#include "os/desktop.h"
 #include "os/handles_win.h"
-#include "os/instance_win.h"
-#include "os/passwords_win.h"
-#include "os/program_win.h"
-#include "os/registry_win.h"
-#include "os/system_facts.h"
-#include "os/system_flags_win.h"
-#include "os/system_version_win.h"
-#include "os/taskbar_win.h"
+#include "os/instance.h"
+#include "os/machine_facts.h"
+#include "os/passwords.h"
+#include "os/paths.h"
+#include "os/shell.h"
 #include "startup/cursor_rules.h"
 #include "startup/password_flag.h"
 
@@ -37,14 +34,14 @@ TEST(ClockWin, TellsTheLocalTimeAndATickThatGoesOn) {
   EXPECT_LT(passed, 5000);
 }
 
-TEST(SystemVersionWin, IsTheFamilyThatTheSystemSaysItIs) {
+TEST(MachineFactsWin, IsTheFamilyThatTheSystemSaysItIs) {
   const std::int32_t expected = GetVersion() & 0x80000000U ? 1 : os::kNtFamily;
-  EXPECT_EQ(os::SystemVersionWin().platformId(), expected);
+  EXPECT_EQ(os::MakeMachineFacts()->platformId(), expected);
 }
 
 struct RegistryWin : testing::Test {
   static constexpr const char* kKey = "Software\\LumoraTests\\Registry";
-  os::RegistryWin registry;
+  std::unique_ptr<os::MachineFacts> facts = os::MakeMachineFacts();
   os::OwnedKey key;
 
   RegistryWin() {
@@ -63,14 +60,14 @@ struct RegistryWin : testing::Test {
                    static_cast<DWORD>(bytes.size()));
   }
   std::string text() {
-    const auto value = registry.readUserValue(kKey, "Flag");
+    const auto value = facts->readUserValue(kKey, "Flag");
     return value ? startup::PasswordFlagText(*value) : "(none)";
   }
 };
 
 TEST_F(RegistryWin, ReadsANumberAsItsFourBytes) {
   set(REG_DWORD, std::string("\x01\x02\x00\x00", 4));
-  const auto value = registry.readUserValue(kKey, "Flag");
+  const auto value = facts->readUserValue(kKey, "Flag");
   ASSERT_TRUE(value);
   EXPECT_EQ(value->type, os::kRegistryNumber);
   EXPECT_EQ(value->bytes, std::string("\x01\x02\x00\x00", 4));
@@ -88,7 +85,7 @@ TEST_F(RegistryWin, ReadsATextThatBecomesTheFlag) {
 
 TEST_F(RegistryWin, AnAbsentKeyOrValueIsNothing) {
   EXPECT_EQ(text(), "(none)");
-  EXPECT_FALSE(registry.readUserValue("Software\\LumoraTests\\NoSuchKey", "Flag"));
+  EXPECT_FALSE(facts->readUserValue("Software\\LumoraTests\\NoSuchKey", "Flag"));
 }
 
 TEST_F(RegistryWin, AValueBeyondTheBufferIsNothing) {
@@ -98,38 +95,38 @@ TEST_F(RegistryWin, AValueBeyondTheBufferIsNothing) {
   EXPECT_EQ(text(), "(none)");
 }
 
-TEST(CursorWin, CountsByOneAndReturnsTheCounter) {
-  os::CursorWin cursor;
-  const int start = cursor.showCounter(false);
-  EXPECT_EQ(cursor.showCounter(false), start - 1);
-  EXPECT_EQ(cursor.showCounter(true), start);
-  cursor.showCounter(true);
+TEST(DesktopWin, CursorCountsByOneAndReturnsTheCounter) {
+  const auto desktop = os::MakeDesktop();
+  const int start = desktop->showCursor(false);
+  EXPECT_EQ(desktop->showCursor(false), start - 1);
+  EXPECT_EQ(desktop->showCursor(true), start);
+  desktop->showCursor(true);
 }
 
-TEST(CursorWin, TheLoopsEndOneBeyondTheirBounds) {
-  os::CursorWin cursor;
-  startup::HideCursor(cursor);
-  EXPECT_EQ(cursor.showCounter(true), -5) << "it had come to -6";
-  startup::ShowCursor(cursor);
-  EXPECT_EQ(cursor.showCounter(false), 5) << "it had come to 6";
-  while (cursor.showCounter(false) > 0) {
+TEST(DesktopWin, TheLoopsEndOneBeyondTheirBounds) {
+  const auto desktop = os::MakeDesktop();
+  startup::HideCursor(*desktop);
+  EXPECT_EQ(desktop->showCursor(true), -5) << "it had come to -6";
+  startup::ShowCursor(*desktop);
+  EXPECT_EQ(desktop->showCursor(false), 5) << "it had come to 6";
+  while (desktop->showCursor(false) > 0) {
   }
 }
 
-TEST(CursorWin, APlaceBeyondTheScreenIsItsCorner) {
-  os::CursorWin cursor;
-  cursor.moveTo(100, 120);
+TEST(DesktopWin, APlaceBeyondTheScreenIsItsCorner) {
+  const auto desktop = os::MakeDesktop();
+  desktop->moveCursor(100, 120);
   POINT place{};
   GetCursorPos(&place);
   EXPECT_EQ(place.x, 100);
   EXPECT_EQ(place.y, 120);
-  cursor.moveTo(GetSystemMetrics(SM_CXSCREEN) * 15 + 12, GetSystemMetrics(SM_CYSCREEN) * 15 + 12);
+  desktop->moveCursor(GetSystemMetrics(SM_CXSCREEN) * 15 + 12, GetSystemMetrics(SM_CYSCREEN) * 15 + 12);
   GetCursorPos(&place);
   EXPECT_EQ(place.x, GetSystemMetrics(SM_CXSCREEN) - 1);
   EXPECT_EQ(place.y, GetSystemMetrics(SM_CYSCREEN) - 1);
 }
 
-TEST(TaskbarWin, IsFoundByItsClassAndHiddenAndShown) {
+TEST(DesktopWin, TheTaskbarIsFoundByItsClassAndHiddenAndShown) {
   WNDCLASSW description{};
   description.lpfnWndProc = DefWindowProcW;
   description.hInstance = GetModuleHandleW(nullptr);
@@ -137,27 +134,27 @@ TEST(TaskbarWin, IsFoundByItsClassAndHiddenAndShown) {
   RegisterClassW(&description);
   const os::OwnedWindow bar(CreateWindowExW(WS_EX_TOPMOST, L"Shell_TrayWnd", L"", WS_POPUP | WS_VISIBLE, 0, 0,
                                             50, 20, nullptr, nullptr, description.hInstance, nullptr));
-  os::TaskbarWin taskbar;
-  EXPECT_EQ(taskbar.find(), reinterpret_cast<std::intptr_t>(bar.get()));
-  taskbar.hide(taskbar.find());
+  const auto desktop = os::MakeDesktop();
+  EXPECT_EQ(desktop->findTaskbar(), reinterpret_cast<std::intptr_t>(bar.get()));
+  desktop->hideTaskbar(desktop->findTaskbar());
   EXPECT_FALSE(IsWindowVisible(bar.get()));
-  taskbar.show(taskbar.find());
+  desktop->showTaskbar(desktop->findTaskbar());
   EXPECT_TRUE(IsWindowVisible(bar.get()));
 }
 
-TEST(TaskbarWin, HandleZeroDoesNothing) {
-  os::TaskbarWin taskbar;
-  taskbar.hide(0);
-  taskbar.show(0);
+TEST(DesktopWin, TaskbarZeroIsNone) {
+  const auto desktop = os::MakeDesktop();
+  desktop->hideTaskbar(0);
+  desktop->showTaskbar(0);
 }
 
-TEST(SystemFlagsWin, TheSystemKnowsThatASaverRuns) {
-  os::SystemFlagsWin flags;
+TEST(DesktopWin, TheSystemKnowsThatASaverRuns) {
+  const auto desktop = os::MakeDesktop();
   BOOL running = FALSE;
-  flags.setScreenSaverRunning(true);
+  desktop->setScreenSaverRunning(true);
   SystemParametersInfoW(SPI_GETSCREENSAVERRUNNING, 0, &running, 0);
   EXPECT_TRUE(running);
-  flags.setScreenSaverRunning(false);
+  desktop->setScreenSaverRunning(false);
   SystemParametersInfoW(SPI_GETSCREENSAVERRUNNING, 0, &running, 0);
   EXPECT_FALSE(running);
 }
@@ -167,39 +164,42 @@ TEST(PasswordsWin, WithoutADialogNothingIsRefusedAndChangingEndsQuietly) {
   GetSystemDirectoryW(folder.data(), MAX_PATH);
   const std::wstring provider = std::wstring(folder.data()) + L"\\password.cpl";
   if (GetFileAttributesW(provider.c_str()) != INVALID_FILE_ATTRIBUTES) GTEST_SKIP() << "this system has one";
-  os::PasswordsWin passwords;
-  EXPECT_TRUE(passwords.verify(0));
-  passwords.change(0);
+  const auto passwords = os::MakePasswords();
+  EXPECT_TRUE(passwords->verify(0));
+  passwords->change(0);
 }
 
 TEST(InstanceWin, ASecondOneFindsTheMarkOfTheFirst) {
-  os::InstanceWin first("LumoraTestInstance");
-  os::InstanceWin second("LumoraTestInstance");
-  EXPECT_TRUE(first.becomeOnly());
-  EXPECT_TRUE(first.becomeOnly()) << "it is still the one";
-  EXPECT_FALSE(second.becomeOnly());
-  EXPECT_FALSE(second.becomeOnly()) << "asking leaves no mark";
-  first.release();
-  EXPECT_TRUE(second.becomeOnly());
-  EXPECT_FALSE(first.becomeOnly());
+  const auto first = os::MakeInstance("LumoraTestInstance");
+  const auto second = os::MakeInstance("LumoraTestInstance");
+  EXPECT_TRUE(first->becomeOnly());
+  EXPECT_TRUE(first->becomeOnly()) << "it is still the one";
+  EXPECT_FALSE(second->becomeOnly());
+  EXPECT_FALSE(second->becomeOnly()) << "asking leaves no mark";
+  first->release();
+  EXPECT_TRUE(second->becomeOnly());
+  EXPECT_FALSE(first->becomeOnly());
 }
 
 TEST(InstanceWin, TheMarkGoesWithItsOwnerAndHasItsName) {
-  os::InstanceWin second("LumoraTestInstance");
+  const auto second = os::MakeInstance("LumoraTestInstance");
   {
-    os::InstanceWin first("LumoraTestInstance");
-    EXPECT_TRUE(first.becomeOnly());
-    EXPECT_TRUE(os::InstanceWin("LumoraTestOther").becomeOnly());
+    const auto first = os::MakeInstance("LumoraTestInstance");
+    EXPECT_TRUE(first->becomeOnly());
+    EXPECT_TRUE(os::MakeInstance("LumoraTestOther")->becomeOnly());
   }
-  EXPECT_TRUE(second.becomeOnly());
+  EXPECT_TRUE(second->becomeOnly());
 }
 
-TEST(ProgramWin, KnowsItsFileItsFolderAndItsCommandLine) {
-  const os::ProgramWin program;
-  EXPECT_TRUE(program.path().ends_with(".exe")) << program.path();
-  EXPECT_EQ(program.path().substr(0, program.folder().size()), program.folder());
-  EXPECT_FALSE(program.folder().empty());
-  EXPECT_NE(program.commandLine().find("lumora_win_tests"), std::string::npos);
+TEST(MachineFactsWin, KnowTheProgramsFileAndItsCommandLine) {
+  const auto facts = os::MakeMachineFacts();
+  EXPECT_TRUE(facts->programPath().ends_with(".exe")) << facts->programPath();
+  EXPECT_FALSE(os::FolderOf(facts->programPath()).empty());
+  EXPECT_NE(facts->commandLine().find("lumora_win_tests"), std::string::npos);
+}
+
+TEST(ShellWin, GivesTheShellsResult) {
+  EXPECT_EQ(os::MakeShell()->open("C:\\no such folder\\no such file.htm"), ERROR_FILE_NOT_FOUND);
 }
 
 }  // namespace

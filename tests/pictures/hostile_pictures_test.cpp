@@ -11,6 +11,7 @@
 #include "pictures/picture_limits.h"
 #include "pictures/picture_loader.h"
 #include "support/allocation_watch.h"
+#include "support/fake_files.h"
 #include "support/fake_picture_decoder.h"
 
 namespace pictures {
@@ -23,7 +24,7 @@ bool IsGif(const support::HostilePicture& picture) { return picture.bytes.starts
 // A decoder that opens everything that it is asked for, at the size that the file claims, and then breaks.
 class TrustingDecoder final : public os::PictureDecoder {
  public:
-  explicit TrustingDecoder(support::FakeFileHead& heads) : heads_(heads) {}
+  explicit TrustingDecoder(support::FakeFiles& heads) : heads_(heads) {}
 
   std::unique_ptr<os::PictureSource> open(const std::string& path) override {
     const auto header = ReadPictureHeader(heads_.content[path]);
@@ -48,7 +49,7 @@ class TrustingDecoder final : public os::PictureDecoder {
     base::PixelSize size_;
   };
 
-  support::FakeFileHead& heads_;
+  support::FakeFiles& heads_;
 };
 
 class HostilePictures : public testing::Test {
@@ -58,7 +59,7 @@ class HostilePictures : public testing::Test {
   }
 
   const support::HostilePictures all = support::AllHostilePictures();
-  support::FakeFileHead heads;
+  support::FakeFiles heads;
 };
 
 TEST_F(HostilePictures, EveryNameStandsForOneFile) {

@@ -9,9 +9,9 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "os/file_head_win.h"
+#include "os/files_win.h"
+#include "os/open_file_win.h"
 #include "os/picture_decoder_win.h"
-#include "os/wide_path_win.h"
 #include "pictures/picture_loader.h"
 #include "support/hostile/bitmap_files.h"
 #include "support/temporary_folder_win.h"
@@ -58,7 +58,7 @@ class HostilePicturesWin : public testing::Test {
 
   support::ComScope com;
   support::TemporaryFolder folder;
-  os::FileHeadWin heads;
+  os::FilesWin heads;
   os::PictureDecoderWin decoder;
   FilePictureLoader loader{heads, decoder};
 };

@@ -5,6 +5,7 @@
 #include <numeric>
 
 #include "base/resample.h"
+#include "support/fake_files.h"
 #include "support/fake_picture_decoder.h"
 #include "support/gif_builder.h"
 #include "support/jpeg_builder.h"
@@ -35,7 +36,7 @@ class PictureLoader : public testing::Test {
     return decoder.pictures[path];
   }
 
-  support::FakeFileHead heads;
+  support::FakeFiles heads;
   support::FakePictureDecoder decoder;
   FilePictureLoader loader{heads, decoder};
 };

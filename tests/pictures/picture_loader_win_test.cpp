@@ -6,9 +6,9 @@
 #include <cstdlib>
 #include <fstream>
 
-#include "os/file_head_win.h"
+#include "os/files_win.h"
+#include "os/open_file_win.h"
 #include "os/picture_decoder_win.h"
-#include "os/wide_path_win.h"
 #include "support/bmp_builder.h"
 #include "support/gif_builder.h"
 #include "support/jpeg_builder.h"
@@ -65,7 +65,7 @@ class PictureLoaderWin : public testing::Test {
 
   support::ComScope com;
   support::TemporaryFolder folder;
-  os::FileHeadWin heads;
+  os::FilesWin heads;
   os::PictureDecoderWin decoder;
   FilePictureLoader loader{heads, decoder};
 };

@@ -239,15 +239,15 @@ TEST(PictureCycle, OnTheOlderFamilyWithAPasswordTheSystemIsToldThatASaverRuns) {
   ShowStage guarded;
   guarded.facts = {.osPlatformId = 1, .usePassword = 1};
   guarded.start();
-  EXPECT_EQ(guarded.flags.calls, std::vector<bool>{true});
+  EXPECT_EQ(guarded.desktop.runningCalls, std::vector<bool>{true});
   ShowStage unguarded;
   unguarded.facts = {.osPlatformId = 1, .usePassword = 0};
   unguarded.start();
-  EXPECT_TRUE(unguarded.flags.calls.empty());
+  EXPECT_TRUE(unguarded.desktop.runningCalls.empty());
   ShowStage nt;
   nt.facts = {.osPlatformId = 2, .usePassword = 1};
   nt.start();
-  EXPECT_TRUE(nt.flags.calls.empty());
+  EXPECT_TRUE(nt.desktop.runningCalls.empty());
 }
 
 TEST(PictureCycle, TheWindowCoversThePrimaryScreen) {

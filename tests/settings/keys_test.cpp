@@ -37,7 +37,6 @@ TEST(Keys, DefaultsOfTheNumbersThatMustBeThereAreNumbers) {
 TEST(SettingsPath, TheFolderGetsABackslashWhenItHasNone) {
   EXPECT_EQ(settings::IniPath("C:\\Lumora"), "C:\\Lumora\\zbfaone.ini");
   EXPECT_EQ(settings::IniPath("C:\\"), "C:\\zbfaone.ini");
-  EXPECT_EQ(settings::InProgramFolder("C:\\Lumora", "image1.gif"), "C:\\Lumora\\image1.gif");
 }
 
 }  // namespace

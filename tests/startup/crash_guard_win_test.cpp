@@ -23,26 +23,19 @@ std::wstring Variable(const wchar_t* name) {
   return value.data();
 }
 
-// A taskbar whose showing raises the count of a semaphore that the test's own process can see.
-class SignallingTaskbar : public os::Taskbar {
+// A desktop whose taskbar, when it is shown, raises the count of a semaphore that the test's own process can
+// see.
+class SignallingDesktop : public os::Desktop {
  public:
-  std::intptr_t find() override { return 1; }
-  void hide(std::intptr_t) override {}
-  void show(std::intptr_t) override {
+  int showCursor(bool) override { return 0; }
+  void moveCursor(int, int) override {}
+  std::intptr_t findTaskbar() override { return 1; }
+  void hideTaskbar(std::intptr_t) override {}
+  void showTaskbar(std::intptr_t) override {
     const os::OwnedHandle signal(
         OpenSemaphoreW(SEMAPHORE_MODIFY_STATE, FALSE, Variable(kSignalVariable).c_str()));
     ReleaseSemaphore(signal.get(), 1, nullptr);
   }
-};
-
-class IdleCursor : public os::Cursor {
- public:
-  int showCounter(bool) override { return 0; }
-  void moveTo(int, int) override {}
-};
-
-class IdleFlags : public os::SystemFlags {
- public:
   void setScreenSaverRunning(bool) override {}
 };
 
@@ -110,12 +103,10 @@ Outcome RunCrashingProcess(const std::wstring& way) {
 TEST(CrashGuardProcess, DISABLED_Crashes) {
   const std::wstring way = Variable(kCrashVariable);
   ASSERT_FALSE(way.empty()) << "to be started by the tests of the crash guard alone";
-  SignallingTaskbar taskbar;
-  IdleCursor cursor;
-  IdleFlags flags;
-  startup::SystemRestore restore(taskbar, cursor, flags);
+  SignallingDesktop desktop;
+  startup::SystemRestore restore(desktop);
   const startup::CrashGuard guard(restore);
-  restore.hide(restore.find());
+  restore.hideTaskbar(restore.findTaskbar());
   // The test program catches crashes of its own; here they are to reach the process's end.
   testing::GTEST_FLAG(catch_exceptions) = false;
   CrashBy(way);

@@ -17,9 +17,7 @@ struct ExitSaverTest : testing::Test {
                                 [this] { machine.log.add("unload form"); },
                                 [this] { machine.log.add("end"); }};
 
-  startup::SaverExit make() {
-    return {facts, {machine.passwords, machine.cursor, machine.screen, machine.flags, machine.taskbar}, show};
-  }
+  startup::SaverExit make() { return {facts, {machine.passwords, machine.desktop, machine.screen}, show}; }
 
   void guardWithPassword() {
     facts.osPlatformId = 1;
@@ -103,14 +101,14 @@ TEST_F(ExitSaver, EventsThatArriveWhileTheFormUnloadsDoNothing) {
 }
 
 TEST_F(ExitSaver, EndsWhereThereIsNoTaskbar) {
-  machine.taskbar.window = 0;
+  machine.desktop.taskbar = 0;
   make().ExitSaver();
   EXPECT_THAT(machine.log.calls, ElementsAre("taskbar find", "taskbar show 0", "unload form", "end"));
 }
 
 TEST_F(ExitSaver, ShowsTheTaskbarThatIsThereNow) {
   facts.taskbarWindow = 77;
-  machine.taskbar.window = 78;
+  machine.desktop.taskbar = 78;
   make().ExitSaver();
   EXPECT_EQ(machine.log.count("taskbar show 78"), 1U);
 }

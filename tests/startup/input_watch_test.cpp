@@ -269,8 +269,7 @@ TEST_F(InputWatch, MovesInTheMiddleOfThePasswordDialogAskNoSecondTime) {
   guardWithPassword();
   support::FakeMachine machine;
   machine.passwords.accepts = false;
-  startup::SaverExit exit(facts,
-                          {machine.passwords, machine.cursor, machine.screen, machine.flags, machine.taskbar},
+  startup::SaverExit exit(facts, {machine.passwords, machine.desktop, machine.screen},
                           {[] { return 1; }, [] {}, [] {}, [] {}});
   startup::InputWatch watch(facts, 1, {[this] { ++cursorsShown; }, [&] { exit.ExitSaver(); }});
   machine.passwords.whileAsking = [&] { moveOften(watch, 10); };

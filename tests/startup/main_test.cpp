@@ -17,8 +17,7 @@ struct MainTest : testing::Test {
   os::SystemFacts factsOfSaver;
 
   startup::Start run(const std::string& text) {
-    const startup::StartServices services{machine.version,   machine.registry, machine.instance,
-                                          machine.passwords, machine.cursor,   machine.taskbar,
+    const startup::StartServices services{machine.facts, machine.instance, machine.passwords, machine.desktop,
                                           machine.screen};
     const startup::RunModes modes{
         [this](const os::SystemFacts& facts) {
@@ -31,7 +30,7 @@ struct MainTest : testing::Test {
   }
 
   void setPassword(const std::string& text) {
-    machine.registry.values[{"Control Panel\\Desktop", "ScreenSaveUsePassword"}] = {os::kRegistryText, text};
+    machine.facts.values[{"Control Panel\\Desktop", "ScreenSaveUsePassword"}] = {os::kRegistryText, text};
   }
 };
 
@@ -45,11 +44,11 @@ TEST_F(Main, StartsTheSaverInThisOrder) {
                                              "cursor down", "cursor down", "cursor down", "cursor down",
                                              "taskbar find", "taskbar hide 77", "saver"));
   EXPECT_EQ(start.mode, RunMode::Show);
-  EXPECT_EQ(machine.cursor.counter, -6) << "below -5, and no further";
+  EXPECT_EQ(machine.desktop.cursorCounter, -6) << "below -5, and no further";
 }
 
 TEST_F(Main, OnTheOlderFamilyWithAPasswordParksTheCursorInsteadOfHidingIt) {
-  machine.version.platform = 1;
+  machine.facts.platform = 1;
   setPassword("1");
   run("/S");
   EXPECT_THAT(machine.log.calls, ElementsAre("version", kReadFlag, "instance", "cursor to 15372 11532",
@@ -57,7 +56,7 @@ TEST_F(Main, OnTheOlderFamilyWithAPasswordParksTheCursorInsteadOfHidingIt) {
 }
 
 TEST_F(Main, ParksTheCursorByTheScreensTwips) {
-  machine.version.platform = 1;
+  machine.facts.platform = 1;
   setPassword("1");
   machine.screen.size = {1920, 1080};
   machine.screen.dotsPerInch = 144;
@@ -74,7 +73,7 @@ TEST_F(Main, OnTheNtFamilyWithAPasswordHidesTheCursor) {
 }
 
 TEST_F(Main, OnTheOlderFamilyWithoutAPasswordHidesTheCursor) {
-  machine.version.platform = 1;
+  machine.facts.platform = 1;
   setPassword("0");
   run("/S");
   EXPECT_EQ(machine.log.count("cursor down"), 6U);
@@ -82,19 +81,19 @@ TEST_F(Main, OnTheOlderFamilyWithoutAPasswordHidesTheCursor) {
 }
 
 TEST_F(Main, TakesACounterDownFromWhereverItStands) {
-  machine.cursor.counter = 3;
+  machine.desktop.cursorCounter = 3;
   run("");
   EXPECT_EQ(machine.log.count("cursor down"), 9U);
 }
 
 TEST_F(Main, StartsEvenWhereTheCursorsCounterDoesNotMove) {
-  machine.cursor.stuck = true;
+  machine.desktop.cursorStuck = true;
   run("");
   EXPECT_EQ(machine.log.calls.back(), "saver");
 }
 
 TEST_F(Main, GivesTheSaverWhatItLearntOfTheSystem) {
-  machine.version.platform = 1;
+  machine.facts.platform = 1;
   setPassword("7");
   const startup::Start start = run("/s");
   EXPECT_EQ(factsOfSaver.osPlatformId, 1);
@@ -104,7 +103,7 @@ TEST_F(Main, GivesTheSaverWhatItLearntOfTheSystem) {
 }
 
 TEST_F(Main, AMissingTaskbarIsHiddenAsWindowZero) {
-  machine.taskbar.window = 0;
+  machine.desktop.taskbar = 0;
   run("/s");
   EXPECT_EQ(machine.log.count("taskbar hide 0"), 1U);
   EXPECT_EQ(machine.log.calls.back(), "saver");
@@ -121,7 +120,7 @@ TEST_F(Main, ShowsTheDialogAndTouchesNothing) {
 TEST_F(Main, ChangesThePasswordOnBothFamilies) {
   for (const int platform : {1, 2}) {
     machine.log.clear();
-    machine.version.platform = platform;
+    machine.facts.platform = platform;
     const startup::Start start = run("/a 4711");
     EXPECT_EQ(start.mode, RunMode::ChangePassword);
     EXPECT_EQ(start.parentWindow, 4711);

@@ -45,10 +45,10 @@ TEST(PasswordFlag, OtherTypesAreNoFlag) {
 
 TEST(PasswordFlag, IsReadFromTheDesktopKeyOfTheUser) {
   support::FakeMachine machine;
-  EXPECT_EQ(startup::ReadPasswordFlag(machine.registry), "");
-  machine.registry.values[{"Control Panel\\Desktop", "ScreenSaveUsePassword"}] =
+  EXPECT_EQ(startup::ReadPasswordFlag(machine.facts), "");
+  machine.facts.values[{"Control Panel\\Desktop", "ScreenSaveUsePassword"}] =
       Number(std::string("\x01\x00\x00\x00", 4));
-  EXPECT_EQ(startup::ReadPasswordFlag(machine.registry), "001");
+  EXPECT_EQ(startup::ReadPasswordFlag(machine.facts), "001");
 }
 
 TEST(PasswordFlag, SwitchesThePasswordOnByAnyLeadingNumber) {

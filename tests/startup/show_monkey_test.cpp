@@ -49,15 +49,14 @@ class MonkeyShow {
     drawSettings();
     stage_.writeSettings();
     const saver::ShowServices s = stage_.services();
-    show_.emplace(
-        saver::ShowServices{s.files, s.ansi, s.pictures, s.clock, s.loop, s.screen, restore_, s.dates,
-                            s.stage, s.window},
-        startup::SaverExit::Services{machine_.passwords, restore_, stage_.screen, restore_, restore_},
-        restore_, facts_, support::ShowStage::programFolder(), [] {
-          return std::make_unique<support::FakeStageWindow>(base::PixelSize{1, 1});
-        });
+    show_.emplace(saver::ShowServices{s.files, s.ansi, s.pictures, s.clock, s.loop, s.screen, restore_,
+                                      s.dates, s.stage, s.window},
+                  startup::SaverExit::Services{machine_.passwords, restore_, stage_.screen}, restore_, facts_,
+                  support::ShowStage::programFolder(), [] {
+                    return std::make_unique<support::FakeStageWindow>(base::PixelSize{1, 1});
+                  });
     stage_.loop.afterEach = [this] { check(); };
-    restore_.hide(restore_.find());
+    restore_.hideTaskbar(restore_.findTaskbar());
   }
 
   // Runs about `events` events, then ends the show.
@@ -205,8 +204,8 @@ class MonkeyShow {
   void checkEnd() {
     EXPECT_TRUE(stage_.loop.isQuitting());
     EXPECT_TRUE(stage_.window.closed);
-    EXPECT_TRUE(machine_.taskbar.visible);
-    EXPECT_FALSE(machine_.flags.running);
+    EXPECT_TRUE(machine_.desktop.taskbarVisible);
+    EXPECT_FALSE(machine_.desktop.running);
     EXPECT_EQ(stage_.loop.timersRunning(), 0);
   }
 
@@ -337,7 +336,7 @@ class MonkeyShow {
   support::FakeMachine machine_;
   support::ShowStage stage_;
   os::SystemFacts facts_;
-  startup::SystemRestore restore_{machine_.taskbar, machine_.cursor, machine_.flags};
+  startup::SystemRestore restore_{machine_.desktop};
   std::optional<startup::Show> show_;
   bool settingsAreGood_ = true;
   bool begun_ = false;

@@ -21,13 +21,13 @@ class ShowTest : public testing::Test {
     show.emplace(
         saver::ShowServices{services.files, services.ansi, services.pictures, services.clock, services.loop,
                             services.screen, restore, services.dates, services.stage, services.window},
-        startup::SaverExit::Services{machine.passwords, restore, stage.screen, restore, restore}, restore,
-        facts, support::ShowStage::programFolder(), [this] {
+        startup::SaverExit::Services{machine.passwords, restore, stage.screen}, restore, facts,
+        support::ShowStage::programFolder(), [this] {
           auto cover = std::make_unique<support::FakeStageWindow>(base::PixelSize{1, 1});
           covers.push_back(cover.get());
           return cover;
         });
-    restore.hide(restore.find());
+    restore.hideTaskbar(restore.findTaskbar());
     show->start();
   }
 
@@ -37,7 +37,7 @@ class ShowTest : public testing::Test {
 
   support::FakeMachine machine;
   support::ShowStage stage;
-  startup::SystemRestore restore{machine.taskbar, machine.cursor, machine.flags};
+  startup::SystemRestore restore{machine.desktop};
   std::vector<support::FakeStageWindow*> covers;
   std::optional<startup::Show> show;
 };
@@ -53,7 +53,7 @@ TEST_F(ShowTest, AnyKeyEndsItBeforeAnythingWasDrawn) {
   window().onKeyDown(65);
   EXPECT_TRUE(hasEnded());
   EXPECT_TRUE(window().closed);
-  EXPECT_TRUE(machine.taskbar.visible);
+  EXPECT_TRUE(machine.desktop.taskbarVisible);
 }
 
 TEST_F(ShowTest, AnyButtonEndsItOverThePictureToo) {
@@ -140,11 +140,11 @@ TEST_F(ShowTest, APoliteCloseEndsIt) {
 TEST_F(ShowTest, TheEndOfTheSessionPutsTheSystemBackWithoutAskingForAPassword) {
   machine.passwords.accepts = false;
   start({.osPlatformId = 1, .usePassword = 1});
-  EXPECT_TRUE(machine.flags.running);
+  EXPECT_TRUE(machine.desktop.running);
   window().onSessionEnd();
   EXPECT_TRUE(hasEnded());
-  EXPECT_FALSE(machine.flags.running);
-  EXPECT_TRUE(machine.taskbar.visible);
+  EXPECT_FALSE(machine.desktop.running);
+  EXPECT_TRUE(machine.desktop.taskbarVisible);
 }
 
 TEST_F(ShowTest, ARunTimeErrorEndsItWithoutAMessageAndPutsTheSystemBack) {
@@ -153,7 +153,7 @@ TEST_F(ShowTest, ARunTimeErrorEndsItWithoutAMessageAndPutsTheSystemBack) {
   start();
   stage.runFor(1000);
   EXPECT_TRUE(hasEnded());
-  EXPECT_TRUE(machine.taskbar.visible);
+  EXPECT_TRUE(machine.desktop.taskbarVisible);
   EXPECT_TRUE(window().closed);
 }
 
@@ -161,7 +161,7 @@ TEST_F(ShowTest, AnErrorWhileLoadingEndsItToo) {
   stage.set("font/newFontForeColor", "white");
   start();
   EXPECT_TRUE(hasEnded());
-  EXPECT_TRUE(machine.taskbar.visible);
+  EXPECT_TRUE(machine.desktop.taskbarVisible);
 }
 
 TEST_F(ShowTest, ARefusedPasswordShowsTheWindowAgainAndTheShowGoesOn) {

@@ -20,20 +20,20 @@ struct SystemRestoreTest : testing::Test {
   support::FakeMachine machine;
   std::optional<startup::SystemRestore> restore;
 
-  SystemRestoreTest() { restore.emplace(machine.taskbar, machine.cursor, machine.flags); }
+  SystemRestoreTest() { restore.emplace(machine.desktop); }
 
   // What the start of a show changes, running flag included.
   void startShow() {
     startup::HideCursor(*restore);
-    restore->hide(restore->find());
+    restore->hideTaskbar(restore->findTaskbar());
     restore->setScreenSaverRunning(true);
     machine.log.clear();
   }
 
   void expectRestored() {
-    EXPECT_TRUE(machine.taskbar.visible);
-    EXPECT_GE(machine.cursor.counter, 0);
-    EXPECT_FALSE(machine.flags.running);
+    EXPECT_TRUE(machine.desktop.taskbarVisible);
+    EXPECT_GE(machine.desktop.cursorCounter, 0);
+    EXPECT_FALSE(machine.desktop.running);
   }
 };
 
@@ -42,11 +42,11 @@ using SystemRestore = SystemRestoreTest;
 }  // namespace
 
 TEST_F(SystemRestore, PassesEveryCallOn) {
-  EXPECT_EQ(restore->find(), 77);
-  restore->hide(77);
-  restore->show(77);
-  EXPECT_EQ(restore->showCounter(false), -1);
-  restore->moveTo(3, 4);
+  EXPECT_EQ(restore->findTaskbar(), 77);
+  restore->hideTaskbar(77);
+  restore->showTaskbar(77);
+  EXPECT_EQ(restore->showCursor(false), -1);
+  restore->moveCursor(3, 4);
   restore->setScreenSaverRunning(true);
   EXPECT_THAT(machine.log.calls, ElementsAre("taskbar find", "taskbar hide 77", "taskbar show 77",
                                              "cursor down", "cursor to 3 4", "running on"));
@@ -71,7 +71,7 @@ TEST_F(SystemRestore, PutsBackExactlyOnce) {
 }
 
 TEST_F(SystemRestore, TouchesNothingThatWasNotChanged) {
-  restore->find();
+  restore->findTaskbar();
   machine.log.clear();
   restore.reset();
   EXPECT_THAT(machine.log.calls, IsEmpty());
@@ -79,10 +79,10 @@ TEST_F(SystemRestore, TouchesNothingThatWasNotChanged) {
 
 TEST_F(SystemRestore, PutsBackAtTheEndOfItsScopeWhenAnErrorLeavesIt) {
   try {
-    const startup::SystemRestore scope(machine.taskbar, machine.cursor, machine.flags);
+    const startup::SystemRestore scope(machine.desktop);
     auto& changed = const_cast<startup::SystemRestore&>(scope);
     startup::HideCursor(changed);
-    changed.hide(changed.find());
+    changed.hideTaskbar(changed.findTaskbar());
     changed.setScreenSaverRunning(true);
     throw std::runtime_error("in the middle of the show");
   } catch (const std::runtime_error&) {
@@ -94,9 +94,9 @@ TEST_F(SystemRestore, LeavesToTheExitWhatTheExitDoes) {
   os::SystemFacts facts;
   facts.osPlatformId = 1;
   facts.usePassword = 1;
-  restore->hide(restore->find());
+  restore->hideTaskbar(restore->findTaskbar());
   restore->setScreenSaverRunning(true);
-  startup::SaverExit exit(facts, {machine.passwords, *restore, machine.screen, *restore, *restore},
+  startup::SaverExit exit(facts, {machine.passwords, *restore, machine.screen},
                           {[] { return 1; }, [] {}, [] {}, [] {}});
   exit.ExitSaver();
   expectRestored();
@@ -107,28 +107,28 @@ TEST_F(SystemRestore, LeavesToTheExitWhatTheExitDoes) {
 
 TEST_F(SystemRestore, ShowsTheTaskbarThatTheDesktopHasMadeMeanwhile) {
   startShow();
-  machine.taskbar.window = 99;
+  machine.desktop.taskbar = 99;
   restore->restore();
   EXPECT_EQ(machine.log.count("taskbar show 99"), 1U);
 }
 
 TEST_F(SystemRestore, ShowsTheHiddenTaskbarWhereNoneIsFound) {
   startShow();
-  machine.taskbar.window = 0;
+  machine.desktop.taskbar = 0;
   restore->restore();
   EXPECT_EQ(machine.log.count("taskbar show 77"), 1U);
 }
 
 TEST_F(SystemRestore, AVainSearchForTheTaskbarAtTheExitLeavesItToTheGuard) {
   startShow();
-  restore->show(0);
+  restore->showTaskbar(0);
   restore->restore();
-  EXPECT_TRUE(machine.taskbar.visible);
+  EXPECT_TRUE(machine.desktop.taskbarVisible);
 }
 
 TEST_F(SystemRestore, GivesUpOnACounterThatDoesNotMove) {
   startShow();
-  machine.cursor.stuck = true;
+  machine.desktop.cursorStuck = true;
   restore->restore();
-  EXPECT_TRUE(machine.taskbar.visible);
+  EXPECT_TRUE(machine.desktop.taskbarVisible);
 }

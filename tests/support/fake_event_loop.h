@@ -25,6 +25,7 @@ class FakeEventLoop : public os::EventLoop {
   void setErrorHandler(std::function<void(const std::exception&)> handler) override {
     errorHandler_ = std::move(handler);
   }
+  void dispatch(const std::function<void()>& handler) override;
 
   // An event that arrives now, or after `delayMs`.
   void post(std::function<void()> event);
@@ -50,7 +51,6 @@ class FakeEventLoop : public os::EventLoop {
 
   bool runOneDue();
   std::int64_t nextDue() const;
-  void dispatch(const std::function<void()>& handler);
 
   FakeClock& clock_;
   std::map<TimerId, Running> timers_;

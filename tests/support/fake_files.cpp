@@ -1,5 +1,7 @@
 #include "support/fake_files.h"
 
+#include <algorithm>
+
 namespace support {
 
 std::optional<std::string> FakeFiles::read(const std::string& path) {
@@ -9,6 +11,13 @@ std::optional<std::string> FakeFiles::read(const std::string& path) {
   return found->second;
 }
 
+std::optional<std::string> FakeFiles::readHead(const std::string& path, std::size_t limit) {
+  limits.push_back(limit);
+  std::optional<std::string> whole = read(path);
+  if (whole) whole->resize(std::min(whole->size(), limit));
+  return whole;
+}
+
 bool FakeFiles::replace(const std::string& path, std::string_view text) {
   writes.push_back(path);
   if (!writable || locked.contains(path)) return false;
@@ -16,16 +25,20 @@ bool FakeFiles::replace(const std::string& path, std::string_view text) {
   return true;
 }
 
-bool FakeFiles::exists(const std::string& path) { return content.contains(path); }
-
-bool FakeFiles::copy(const std::string& from, const std::string& to) {
-  const std::optional<std::string> text = read(from);
-  return text && replace(to, *text);
+bool FakeFiles::exists(const std::string& path) {
+  lookups.push_back(path);
+  return content.contains(path);
 }
 
 bool FakeFiles::canWriteIn(const std::string&) { return writable; }
 
+std::vector<std::string> FakeFiles::foldersIn(const std::string& folder) {
+  const auto found = folders.find(folder);
+  return found == folders.end() ? std::vector<std::string>() : found->second;
+}
+
 std::vector<std::string> FakeFiles::filesIn(const std::string& folder) {
+  if (const auto found = listed.find(folder); found != listed.end()) return found->second;
   std::vector<std::string> names;
   const std::string prefix = folder.ends_with('\\') ? folder : folder + '\\';
   for (const auto& [path, text] : content) {

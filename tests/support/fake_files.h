@@ -1,7 +1,6 @@
 // A disk in memory that remembers what was asked of it.
 #pragma once
 
-#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -11,24 +10,34 @@
 
 namespace support {
 
+// Paths are compared letter for letter, with backslashes between folders.
 class FakeFiles : public os::Files {
  public:
   std::optional<std::string> read(const std::string& path) override;
+  std::optional<std::string> readHead(const std::string& path, std::size_t limit) override;
   bool replace(const std::string& path, std::string_view content) override;
   bool exists(const std::string& path) override;
-  bool copy(const std::string& from, const std::string& to) override;
   bool canWriteIn(const std::string& folder) override;
+  std::vector<std::string> foldersIn(const std::string& folder) override;
   std::vector<std::string> filesIn(const std::string& folder) override;
+  std::vector<std::string> drives() override { return roots; }
+  std::string currentFolder() override { return current; }
+  void enterFolder(const std::string& folder) override { current = folder; }
   std::string shortPath(const std::string& path) override;
 
-  // Path to content; paths are compared letter for letter, with backslashes between folders.
-  std::map<std::string, std::string> content;
+  std::map<std::string, std::string> content;               // by path
+  std::map<std::string, std::vector<std::string>> folders;  // names in a folder, by its path
+  std::map<std::string, std::vector<std::string>> listed;  // files of a folder in place of those in `content`
+  std::vector<std::string> roots = {"C:\\"};
+  std::string current = "C:\\";
 
   bool writable = true;          // false: every write fails
   std::set<std::string> locked;  // paths that cannot be read or replaced
   std::map<std::string, std::string> shortPaths;
-  std::vector<std::string> reads;   // paths in the order of reading
-  std::vector<std::string> writes;  // paths in the order of writing
+  std::vector<std::string> reads;    // paths in the order of reading
+  std::vector<std::size_t> limits;   // of the heads, in the order of reading
+  std::vector<std::string> writes;   // paths in the order of writing
+  std::vector<std::string> lookups;  // paths whose existence was asked, in that order
 };
 
 }  // namespace support

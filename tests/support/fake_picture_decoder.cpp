@@ -48,11 +48,4 @@ std::unique_ptr<os::PictureSource> FakePictureDecoder::open(const std::string& p
   return std::make_unique<FakeSource>(*this, found->second);
 }
 
-std::optional<std::string> FakeFileHead::readHead(const std::string& path, std::size_t limit) {
-  limits.push_back(limit);
-  const auto found = content.find(path);
-  if (found == content.end()) return std::nullopt;
-  return found->second.substr(0, limit);
-}
-
 }  // namespace support

@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "os/file_head.h"
 #include "os/picture_decoder.h"
 
 namespace support {
@@ -35,14 +34,6 @@ class FakePictureDecoder : public os::PictureDecoder {
   std::map<std::string, FakeStoredPicture> pictures;
   std::vector<std::string> opened;
   int openSources = 0;  // sources that are alive
-};
-
-class FakeFileHead : public os::FileHead {
- public:
-  std::optional<std::string> readHead(const std::string& path, std::size_t limit) override;
-
-  std::map<std::string, std::string> content;
-  std::vector<std::size_t> limits;  // in the order of reading
 };
 
 }  // namespace support

@@ -30,6 +30,9 @@ class FaultyFiles : public os::Files {
     const Fault* fault = next();
     return fault && *fault != Fault::NoRoom ? std::nullopt : files_.read(path);
   }
+  std::optional<std::string> readHead(const std::string& path, std::size_t limit) override {
+    return files_.readHead(path, limit);
+  }
   bool replace(const std::string& path, std::string_view content) override {
     return !next() && files_.replace(path, content);
   }
@@ -37,11 +40,12 @@ class FaultyFiles : public os::Files {
     const Fault* fault = next();
     return !(fault && *fault == Fault::Vanished) && files_.exists(path);
   }
-  bool copy(const std::string& from, const std::string& to) override {
-    return !next() && files_.copy(from, to);
-  }
   bool canWriteIn(const std::string& folder) override { return !next() && files_.canWriteIn(folder); }
   std::vector<std::string> filesIn(const std::string& folder) override { return files_.filesIn(folder); }
+  std::vector<std::string> foldersIn(const std::string& folder) override { return files_.foldersIn(folder); }
+  std::vector<std::string> drives() override { return files_.drives(); }
+  std::string currentFolder() override { return files_.currentFolder(); }
+  void enterFolder(const std::string& folder) override { files_.enterFolder(folder); }
   std::string shortPath(const std::string& path) override { return files_.shortPath(path); }
 
  private:

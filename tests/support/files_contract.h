@@ -63,17 +63,21 @@ TYPED_TEST_P(FilesContract, AFileThatIsInUseKeepsItsOldContentWhole) {
   EXPECT_EQ(this->sortedNames(), std::vector<std::string>{"a.ini"});
 }
 
-TYPED_TEST_P(FilesContract, ACopyReplacesItsTarget) {
-  EXPECT_TRUE(this->files().replace(this->path("from"), "new"));
-  EXPECT_TRUE(this->files().replace(this->path("to"), "much older"));
-  EXPECT_TRUE(this->files().copy(this->path("from"), this->path("to")));
-  EXPECT_EQ(this->files().read(this->path("to")), "new");
-  EXPECT_EQ(this->files().read(this->path("from")), "new");
+TYPED_TEST_P(FilesContract, AHeadIsTheFrontOfAFile) {
+  EXPECT_TRUE(this->files().replace(this->path("a.jpg"), "0123456789"));
+  EXPECT_EQ(this->files().readHead(this->path("a.jpg"), 4), "0123");
+  EXPECT_EQ(this->files().readHead(this->path("a.jpg"), 10), "0123456789");
+  EXPECT_EQ(this->files().readHead(this->path("a.jpg"), 1000), "0123456789");
+  EXPECT_EQ(this->files().readHead(this->path("missing"), 4), std::nullopt);
+  EXPECT_EQ(this->files().readHead(this->folder(), 4), std::nullopt);
 }
 
-TYPED_TEST_P(FilesContract, AMissingFileCannotBeCopied) {
-  EXPECT_FALSE(this->files().copy(this->path("missing"), this->path("to")));
-  EXPECT_FALSE(this->files().exists(this->path("to")));
+TYPED_TEST_P(FilesContract, TheFolderThatWasEnteredIsTheCurrentOne) {
+  const std::string before = this->files().currentFolder();
+  this->files().enterFolder(this->folder());
+  EXPECT_EQ(this->files().currentFolder(), this->folder());
+  this->files().enterFolder(before);
+  EXPECT_EQ(this->files().currentFolder(), before);
 }
 
 TYPED_TEST_P(FilesContract, AFolderListsTheNamesOfItsFiles) {
@@ -104,9 +108,9 @@ TYPED_TEST_P(FilesContract, AShortPathLeadsToTheSameFile) {
 
 REGISTER_TYPED_TEST_SUITE_P(FilesContract, AFileReadsBackAsItWasPut, AnEmptyFileIsNotAMissingOne,
                             ReplacingPutsTheNewContentWholeAndLeavesNothingBeside,
-                            AFileThatIsInUseKeepsItsOldContentWhole, ACopyReplacesItsTarget,
-                            AMissingFileCannotBeCopied, AFolderListsTheNamesOfItsFiles, AFolderIsNoFile,
-                            AFileCanBeMadeInAWritableFolderAndTheQuestionLeavesNone,
+                            AFileThatIsInUseKeepsItsOldContentWhole, AHeadIsTheFrontOfAFile,
+                            TheFolderThatWasEnteredIsTheCurrentOne, AFolderListsTheNamesOfItsFiles,
+                            AFolderIsNoFile, AFileCanBeMadeInAWritableFolderAndTheQuestionLeavesNone,
                             AShortPathLeadsToTheSameFile);
 
 }  // namespace support

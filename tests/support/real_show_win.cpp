@@ -3,16 +3,13 @@
 #include <stdexcept>
 #include <utility>
 
-#include "os/date_text_win.h"
+#include "os/date_text.h"
 #include "settings/settings_path.h"
 
 namespace support {
 
 RealShow::RealShow(const os::Clock& clock, os::EventLoop& loop, base::PixelSize screenSize)
-    : dates_(os::MakeDateText()),
-      clock_(clock),
-      loop_(loop),
-      window_(GetModuleHandleW(nullptr), [](const std::function<void()>& handler) { handler(); }) {
+    : dates_(os::MakeDateText()), clock_(clock), loop_(loop), window_(loop) {
   screen_.size = screenSize;
 }
 
@@ -33,9 +30,9 @@ void RealShow::addPath(const std::string& path, const std::string& caption) {
 void RealShow::start() {
   settings_.try_emplace("total/total", std::to_string(count_));
   files_.replace(settings::IniPath(folder()), IniText(settings_));
-  form_ = std::make_unique<saver::Form1>(
-      saver::ShowServices{files_, ansi_, pictures_, clock_, loop_, screen_, flags_, *dates_, stage_, window_},
-      os::SystemFacts{}, folder());
+  form_ = std::make_unique<saver::Form1>(saver::ShowServices{files_, ansi_, pictures_, clock_, loop_, screen_,
+                                                             desktop_, *dates_, stage_, window_},
+                                         os::SystemFacts{}, folder());
   loop_.setErrorHandler([this](const std::exception&) { form_->unload(); });
   form_->Form_Load();
 }

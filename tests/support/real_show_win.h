@@ -7,15 +7,14 @@
 #include <vector>
 
 #include "os/ansi_code_page_win.h"
-#include "os/file_head_win.h"
 #include "os/files_win.h"
 #include "os/picture_decoder_win.h"
 #include "os/text_renderer_win.h"
 #include "pictures/picture_loader.h"
 #include "saver/form1.h"
 #include "saver/stage_window_win.h"
+#include "support/fake_desktop.h"
 #include "support/fake_screen.h"
-#include "support/fake_system_flags.h"
 #include "support/plain_show.h"
 #include "support/temporary_folder_win.h"
 
@@ -48,12 +47,11 @@ class RealShow {
   TemporaryFolder folder_;
   os::FilesWin files_;
   os::AnsiCodePageWin ansi_;
-  os::FileHeadWin heads_;
   os::PictureDecoderWin decoder_;
-  pictures::FilePictureLoader pictures_{heads_, decoder_};
+  pictures::FilePictureLoader pictures_{files_, decoder_};
   std::unique_ptr<os::DateText> dates_;
   FakeScreen screen_;
-  FakeSystemFlags flags_;
+  FakeDesktop desktop_;
   const os::Clock& clock_;
   os::EventLoop& loop_;
   saver::StageWindowWin window_;

@@ -20,8 +20,7 @@ dialog::SettingsDialog& SettingsDialogMachine::openDialog() {
 
 dialog::SettingsDialog& SettingsDialogMachine::openDialogOnFile() {
   dialog_ = std::make_unique<dialog::SettingsDialog>(
-      dialog::DialogServices{files, ansi, pictures, dialogs, windows}, loop, folders, shell, kProgramFolder,
-      nullptr);
+      dialog::DialogServices{files, ansi, pictures, dialogs, windows}, loop, shell, kProgramFolder, nullptr);
   dialog_->show();
   return *dialog_;
 }

@@ -11,7 +11,6 @@
 #include "support/dialog_machine.h"
 #include "support/fake_clock.h"
 #include "support/fake_event_loop.h"
-#include "support/fake_folders.h"
 #include "support/shell_recorder.h"
 
 namespace support {
@@ -37,7 +36,6 @@ class SettingsDialogMachine : public DialogMachine {
 
   FakeClock clock;
   FakeEventLoop loop{clock};
-  FakeFolders folders;
   ShellRecorder shell;
 
  private:

@@ -35,7 +35,7 @@ void ShowStage::writeSettings() {
 void ShowStage::start() {
   writeSettings();
   form = std::make_unique<saver::Form1>(
-      saver::ShowServices{files, ansi, pictures, clock, loop, screen, flags, dates, stage, window}, facts,
+      saver::ShowServices{files, ansi, pictures, clock, loop, screen, desktop, dates, stage, window}, facts,
       kFolder);
   const auto end = [this](const std::exception& error) {
     errors.emplace_back(error.what());

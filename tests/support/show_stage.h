@@ -9,12 +9,12 @@
 #include "saver/form1.h"
 #include "support/fake_clock.h"
 #include "support/fake_date_text.h"
+#include "support/fake_desktop.h"
 #include "support/fake_event_loop.h"
 #include "support/fake_files.h"
 #include "support/fake_pictures.h"
 #include "support/fake_screen.h"
 #include "support/fake_stage_window.h"
-#include "support/fake_system_flags.h"
 #include "support/fake_text_renderer.h"
 #include "support/plain_show.h"
 #include "support/windows_1252.h"
@@ -35,7 +35,7 @@ class ShowStage {
 
   // What a show on this machine runs on.
   saver::ShowServices services() {
-    return {files, ansi, pictures, clock, loop, screen, flags, dates, stage, window};
+    return {files, ansi, pictures, clock, loop, screen, desktop, dates, stage, window};
   }
   static const char* programFolder();
 
@@ -58,7 +58,7 @@ class ShowStage {
   FakePictures pictures;
   FakeDateText dates;
   FakeTextRenderer text;
-  FakeSystemFlags flags;
+  FakeDesktop desktop;
   Windows1252 ansi;
   FakeStageWindow window;
   saver::Stage stage;

@@ -1,8 +1,6 @@
-#include "os/wide_path_win.h"
+#include "os/open_file_win.h"
 
-#include <windows.h>
-
-#include "os/long_path.h"
+#include "os/paths.h"
 #include "os/utf16_win.h"
 
 namespace os {
@@ -21,6 +19,14 @@ std::wstring FullPath(const std::wstring& path) {
 std::wstring WidePath(const std::string& path, std::size_t extra) {
   const std::wstring wide = ToWide(path);
   return wide.size() + extra > kLongestPlainPath ? LongPath(FullPath(wide)) : wide;
+}
+
+FileHandle OpenForReading(const std::string& path) {
+  FileHandle file(CreateFileW(WidePath(path).c_str(), GENERIC_READ,
+                              FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                              FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+  if (file.isOpen() && GetFileType(file.get()) != FILE_TYPE_DISK) return FileHandle(INVALID_HANDLE_VALUE);
+  return file;
 }
 
 }  // namespace os

@@ -1,6 +1,20 @@
-#include "os/long_path.h"
+#include "os/paths.h"
 
 namespace os {
+
+std::string FolderOf(const std::string& path) {
+  const std::size_t last = path.find_last_of("\\/");
+  if (last == std::string::npos) return {};
+  const bool isRoot = last == 0 || path[last - 1] == ':';
+  return path.substr(0, isRoot ? last + 1 : last);
+}
+
+std::string JoinPath(const std::string& folder, std::string_view name) {
+  std::string path = folder;
+  if (!path.ends_with('\\')) path += '\\';
+  path += name;
+  return path;
+}
 
 std::wstring LongPath(std::wstring_view absolutePath) {
   std::wstring path(absolutePath);

@@ -1,6 +1,21 @@
-#include "os/long_path.h"
+#include "os/paths.h"
 
 #include <gtest/gtest.h>
+
+TEST(FolderOf, TheFolderHasNoBackslashAtItsEndUnlessItIsARoot) {
+  EXPECT_EQ(os::FolderOf("C:\\Lumora\\Lumora.scr"), "C:\\Lumora");
+  EXPECT_EQ(os::FolderOf("C:\\Lumora.scr"), "C:\\");
+  EXPECT_EQ(os::FolderOf("\\\\server\\share\\Lumora.scr"), "\\\\server\\share");
+  EXPECT_EQ(os::FolderOf("C:\\Bilder Ö\\日本\\Lumora.scr"), "C:\\Bilder Ö\\日本");
+  EXPECT_EQ(os::FolderOf("Lumora.scr"), "");
+  EXPECT_EQ(os::FolderOf(""), "");
+}
+
+TEST(JoinPath, TheFolderGetsABackslashWhenItHasNone) {
+  EXPECT_EQ(os::JoinPath("C:\\", "a"), "C:\\a");
+  EXPECT_EQ(os::JoinPath("C:\\x", "a"), "C:\\x\\a");
+  EXPECT_EQ(os::JoinPath("C:\\Lumora", "image1.gif"), "C:\\Lumora\\image1.gif");
+}
 
 TEST(LongPath, OfADriveOrAShareGetsTheFormWithoutALimit) {
   EXPECT_EQ(os::LongPath(L"C:\\a\\b.jpg"), L"\\\\?\\C:\\a\\b.jpg");

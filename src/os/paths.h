@@ -1,10 +1,18 @@
-// Paths of more than 260 characters.
+// Paths as text. Folders are separated by backslashes.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace os {
+
+// The folder part of a path, without a backslash at its end unless it is a drive's root ("C:\"); empty for a
+// bare name.
+std::string FolderOf(const std::string& path);
+
+// The path of a name in a folder, which may end in a backslash or not.
+std::string JoinPath(const std::string& folder, std::string_view name);
 
 // Above this many characters a path needs the form of LongPath(): a folder's limit, which leaves room for an
 // 8.3 name in the 260 characters of a path with its end mark (platform documentation, "Maximum Path Length").
