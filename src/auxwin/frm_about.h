@@ -3,10 +3,10 @@
 
 #include <array>
 
-#include "forms/command_button.h"
+#include "forms/buttons.h"
 #include "forms/form.h"
-#include "forms/image.h"
-#include "forms/label.h"
+#include "forms/picture_boxes.h"
+#include "forms/texts.h"
 #include "forms/window_system.h"
 #include "os/shell.h"
 

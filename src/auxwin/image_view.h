@@ -6,8 +6,8 @@
 #include "base/geometry.h"
 #include "forms/dialogs.h"
 #include "forms/form.h"
-#include "forms/list_box.h"
-#include "forms/picture_box.h"
+#include "forms/lists.h"
+#include "forms/picture_boxes.h"
 #include "forms/window_system.h"
 #include "pictures/pictures.h"
 

@@ -6,8 +6,8 @@
 #include <string>
 
 #include "auxwin/many_images_advice.h"
-#include "forms/list_box.h"
-#include "forms/text_box.h"
+#include "forms/lists.h"
+#include "forms/texts.h"
 
 namespace auxwin {
 

@@ -9,7 +9,6 @@
 #include "forms/control.h"
 #include "forms/form_host.h"
 #include "forms/menu.h"
-#include "forms/mouse_pointer.h"
 
 namespace forms {
 

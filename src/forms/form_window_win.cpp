@@ -6,12 +6,12 @@
 #include <algorithm>
 
 #include "base/twips.h"
-#include "forms/command_button.h"
+#include "forms/buttons.h"
 #include "forms/container_peer_win.h"
-#include "forms/list_box.h"
+#include "forms/containers.h"
+#include "forms/lists.h"
 #include "forms/picture_peer_win.h"
 #include "forms/surface_win.h"
-#include "forms/tab_control.h"
 #include "os/text_renderer_win.h"
 #include "os/utf16_win.h"
 

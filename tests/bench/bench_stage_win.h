@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/form.h"
-#include "forms/picture_box.h"
+#include "forms/picture_boxes.h"
 #include "os/text_renderer_win.h"
 #include "saver/stage.h"
 #include "saver/stage_window_win.h"
