@@ -44,7 +44,7 @@ void FormWindow::formChanged(Form&, FormChange change) {
   if (!window_) return;
   switch (change) {
     case FormChange::Caption:
-      SetWindowTextW(window_, os::ToWide(form_.caption).c_str());
+      SetWindowTextW(window_, os::ToWide(form_.caption()).c_str());
       break;
     case FormChange::Place:
       placeFromForm();
