@@ -3,9 +3,6 @@
 #include <string_view>
 #include <utility>
 
-#include "auxwin/open_with_shell.h"
-#include "auxwin/product_version.h"
-
 namespace auxwin {
 
 namespace {

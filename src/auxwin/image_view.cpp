@@ -4,7 +4,6 @@
 #include <cmath>
 #include <memory>
 
-#include "auxwin/messages.h"
 #include "forms/file_name.h"
 
 namespace auxwin {

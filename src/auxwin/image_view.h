@@ -13,6 +13,9 @@
 
 namespace auxwin {
 
+inline constexpr char kCannotLoadImage[] =
+    "Cannot load image file properly.\r\nYou need to reload a new one.";
+
 // Shown beside the dialog, which stays usable. A click on the picture or Escape closes it. A picture of which
 // not all is in sight is pulled about with the mouse. With no picture selected the window is small and empty;
 // for one that cannot be loaded it closes after the message.
