@@ -3,9 +3,6 @@
 #include <string_view>
 #include <utility>
 
-#include "auxwin/open_with_shell.h"
-#include "auxwin/product_version.h"
-
 namespace auxwin {
 
 namespace {
@@ -35,9 +32,8 @@ frmAbout::frmAbout(forms::SharedPicture icon, os::Shell& shell, forms::WindowSys
 }
 
 void frmAbout::layOut() {
-  caption = "About Lumora Screen Saver";
-  clientWidth = 460 * kTwips;
-  clientHeight = 212 * kTwips;
+  setCaption("About Lumora Screen Saver");
+  setClientSize(460 * kTwips, 212 * kTwips);
   Place(picIcon, 20, 20, 48, 48);
   Place(lblTitle, 88, 24, 352, 18);
   lblTitle.setCaption("Lumora Screen Saver");
@@ -57,11 +53,7 @@ void frmAbout::layOut() {
   cmdOK.isCancel = true;
 }
 
-void frmAbout::Form_Load() {
-  left = (windows_.screenWidthTwips() - width) / 2;
-  top = (windows_.screenHeightTwips() - height) / 2;
-  placeChanged();
-}
+void frmAbout::Form_Load() { centerOn(windows_.screenWidthTwips(), windows_.screenHeightTwips()); }
 
 void frmAbout::Command1_Click() { OpenWithShell(shell_, kMakersPage); }
 

@@ -2,15 +2,26 @@
 #pragma once
 
 #include <array>
+#include <string>
 
-#include "forms/command_button.h"
+#include "forms/buttons.h"
 #include "forms/form.h"
-#include "forms/image.h"
-#include "forms/label.h"
+#include "forms/picture_boxes.h"
+#include "forms/texts.h"
 #include "forms/window_system.h"
 #include "os/shell.h"
 
 namespace auxwin {
+
+// As the build names it.
+extern const char* const kProductVersion;
+
+// The maker's page on the web.
+inline constexpr char kMakersPage[] = "https://www.lumora.example/";
+
+// Opens a file or a web address with whatever the user's system opens it with. A missing file or an
+// unreachable page is the shell's to report.
+inline auto OpenWithShell(os::Shell& shell, const std::string& target) { return shell.open(target); }
 
 // Shown modally.
 class frmAbout : public forms::Form {

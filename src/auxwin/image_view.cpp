@@ -4,7 +4,6 @@
 #include <cmath>
 #include <memory>
 
-#include "auxwin/messages.h"
 #include "forms/file_name.h"
 
 namespace auxwin {
@@ -42,17 +41,13 @@ ImageView::ImageView(const forms::ListBox& pictures, pictures::PictureLoader& lo
 
 void ImageView::Form_Load() {
   const std::string path = pictures_.text();
-  caption = path.empty() ? "Image" : forms::LastName(path);
-  captionChanged();
+  setCaption(path.empty() ? "Image" : forms::LastName(path));
   Picture1.setPicture(nullptr);
   Picture1.move(0, 0, kEmptySize, kEmptySize);
   const bool loaded = loadPicture(path);
-  width = Picture1.width() <= kNarrowest ? kNarrowest : Picture1.width() + kBorders;
-  height = Picture1.height() + kTitleAndBorders;
-  // A window larger than the screen starts at the screen's corner, where its title is within reach.
-  left = std::max(0.0F, (windows_.screenWidthTwips() - width) / 2);
-  top = std::max(0.0F, (windows_.screenHeightTwips() - height) / 2);
-  placeChanged();
+  const float wide = Picture1.width() <= kNarrowest ? kNarrowest : Picture1.width() + kBorders;
+  move(left(), top(), wide, Picture1.height() + kTitleAndBorders);
+  centerOn(windows_.screenWidthTwips(), windows_.screenHeightTwips());
   pressed_ = pulled_ = false;
   if (loaded) return;
   dialogs_.messageBox(kCannotLoadImage, forms::kExclamation);
@@ -98,9 +93,9 @@ void ImageView::Picture1_MouseMove(const forms::MouseEvent& event) {
 base::TwipsPoint ImageView::farthestCorner() const {
   const base::PixelSize inner = host() ? host()->innerSize() : base::PixelSize{};
   const auto perPixel = static_cast<float>(twipsPerPixel());
-  const float innerWidth = inner.isEmpty() ? width - kBorders : static_cast<float>(inner.width) * perPixel;
+  const float innerWidth = inner.isEmpty() ? width() - kBorders : static_cast<float>(inner.width) * perPixel;
   const float innerHeight =
-      inner.isEmpty() ? height - kTitleAndBorders : static_cast<float>(inner.height) * perPixel;
+      inner.isEmpty() ? height() - kTitleAndBorders : static_cast<float>(inner.height) * perPixel;
   // What hangs over the screen's edge is not in sight either.
   return {std::min(0.0F, std::min(innerWidth, windows_.screenWidthTwips()) - Picture1.width()),
           std::min(0.0F, std::min(innerHeight, windows_.screenHeightTwips()) - Picture1.height())};

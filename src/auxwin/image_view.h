@@ -6,12 +6,15 @@
 #include "base/geometry.h"
 #include "forms/dialogs.h"
 #include "forms/form.h"
-#include "forms/list_box.h"
-#include "forms/picture_box.h"
+#include "forms/lists.h"
+#include "forms/picture_boxes.h"
 #include "forms/window_system.h"
 #include "pictures/pictures.h"
 
 namespace auxwin {
+
+inline constexpr char kCannotLoadImage[] =
+    "Cannot load image file properly.\r\nYou need to reload a new one.";
 
 // Shown beside the dialog, which stays usable. A click on the picture or Escape closes it. A picture of which
 // not all is in sight is pulled about with the mouse. With no picture selected the window is small and empty;

@@ -37,9 +37,8 @@ MultiFiles::MultiFiles(PictureTarget target, os::Files& disk, forms::Dialogs& di
 }
 
 void MultiFiles::layOut() {
-  caption = "Add Images From a Folder";
-  clientWidth = 500 * kTwips;
-  clientHeight = 372 * kTwips;
+  setCaption("Add Images From a Folder");
+  setClientSize(500 * kTwips, 372 * kTwips);
   fraFileControls.setCaption("Folder");
   Place(fraFileControls, 12, 12, 476, 312);
   for (forms::Control* list :
@@ -64,11 +63,7 @@ void MultiFiles::layOut() {
   cmdQuit.isCancel = true;
 }
 
-void MultiFiles::Form_Load() {
-  left = (windows_.screenWidthTwips() - width) / 2;
-  top = (windows_.screenHeightTwips() - height) / 2;
-  placeChanged();
-}
+void MultiFiles::Form_Load() { centerOn(windows_.screenWidthTwips(), windows_.screenHeightTwips()); }
 
 void MultiFiles::drvDrives_Change() { dirDirectories.setPath(drvDrives.drive()); }
 

@@ -2,13 +2,11 @@
 #pragma once
 
 #include "auxwin/picture_target.h"
-#include "forms/command_button.h"
+#include "forms/buttons.h"
+#include "forms/containers.h"
 #include "forms/dialogs.h"
-#include "forms/drive_list.h"
-#include "forms/file_list.h"
-#include "forms/folder_list.h"
+#include "forms/folder_lists.h"
 #include "forms/form.h"
-#include "forms/frame.h"
 #include "forms/window_system.h"
 #include "os/files.h"
 

@@ -1,15 +1,30 @@
-// The settings dialog's picture list, as the folder import sees it.
+// The settings dialog's picture list, as the folder import sees it, with the advice against a very long one.
 #pragma once
 
 #include <functional>
 #include <optional>
 #include <string>
 
-#include "auxwin/many_images_advice.h"
-#include "forms/list_box.h"
-#include "forms/text_box.h"
+#include "forms/dialogs.h"
+#include "forms/lists.h"
+#include "forms/texts.h"
 
 namespace auxwin {
+
+constexpr int kAdvisedImages = 700;
+
+// Given once in the life of the dialog, whichever way the list grew.
+struct ManyImagesAdvice {
+  bool manyImagesWarned = false;
+
+  // Shows the advice when the list holds more than 700 pictures and it was not shown before.
+  void consider(int count, forms::Dialogs& dialogs) {
+    if (count <= kAdvisedImages || manyImagesWarned) return;
+    dialogs.messageBox("It is recommended that the screen saver should have less than 700 loaded images.",
+                       forms::kExclamation);
+    manyImagesWarned = true;
+  }
+};
 
 // Entry i of `captions` is the caption of entry i of `paths`; whoever adds to one adds to both.
 struct PictureTarget {

@@ -1,4 +1,5 @@
-#include "auxwin/product_version.h"
+// A file of its own, so that each program is built with its own number and all else is shared.
+#include "auxwin/frm_about.h"
 
 namespace auxwin {
 

@@ -56,9 +56,8 @@ Form2::Form2(const DialogServices& services, std::string programFolder)
       SSTab1(*this, "SSTab1", Texts(TabCaptions())),
       services_(services),
       programFolder_(std::move(programFolder)) {
-  caption = " Lumora Screen Saver";
-  clientWidth = Twips(kClientWidth);
-  clientHeight = Twips(kClientHeight);
+  setCaption(" Lumora Screen Saver");
+  setClientSize(Twips(kClientWidth), Twips(kClientHeight));
   File.setChildren({&Save, &Exit});
   Help.setChildren({&LumoraHelp, &AboutLumora});
   Websites.setChildren({&Tolv});

@@ -51,9 +51,7 @@ void Form2::loadSettings(settings::SettingsRecord& read) {
   greenSlider.setValue(0);
   blueSlider.setValue(0);
   UpdateGradientPreview();
-  left = (services_.windows.screenWidthTwips() - width) / 2;
-  top = (services_.windows.screenHeightTwips() - height) / 2;
-  placeChanged();
+  centerOn(services_.windows.screenWidthTwips(), services_.windows.screenHeightTwips());
 
   const settings::IniDocument document =
       settings::OpenSettings(services_.files, services_.ansi, programFolder_);

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <utility>
 
-#include "auxwin/messages.h"
+#include "auxwin/image_view.h"
 #include "base/number_text.h"
 #include "dialog/open_picture_file.h"
 #include "dialog/thumbnail.h"

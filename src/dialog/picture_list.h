@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "auxwin/many_images_advice.h"
 #include "auxwin/picture_target.h"
 #include "dialog/form2.h"
 #include "dialog/selection_rest.h"

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "auxwin/multi_files.h"
-#include "auxwin/open_with_shell.h"
 #include "dialog/save_settings.h"
 #include "os/paths.h"
 

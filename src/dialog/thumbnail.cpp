@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "forms/image.h"
+#include "forms/picture_boxes.h"
 
 namespace dialog {
 

@@ -1,10 +1,8 @@
 // Push buttons, options and check boxes as real buttons.
 #pragma once
 
-#include "forms/check_box.h"
-#include "forms/command_button.h"
+#include "forms/buttons.h"
 #include "forms/control_peer_win.h"
-#include "forms/option_button.h"
 
 namespace forms {
 

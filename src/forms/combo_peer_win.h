@@ -1,9 +1,9 @@
 // Combo boxes and drive lists as real drop-down lists.
 #pragma once
 
-#include "forms/combo_box.h"
 #include "forms/control_peer_win.h"
-#include "forms/drive_list.h"
+#include "forms/folder_lists.h"
+#include "forms/lists.h"
 
 namespace forms {
 

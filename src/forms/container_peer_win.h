@@ -1,10 +1,9 @@
 // Frames, tab controls with their pages, and status bars as real windows.
 #pragma once
 
+#include "forms/containers.h"
 #include "forms/control_peer_win.h"
-#include "forms/frame.h"
-#include "forms/status_bar.h"
-#include "forms/tab_control.h"
+#include "forms/texts.h"
 
 namespace forms {
 

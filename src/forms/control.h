@@ -124,4 +124,20 @@ class Control {
   std::string accessibleName_;
 };
 
+// A control with a caption; "&" before a letter makes it the control's mnemonic.
+class CaptionedControl : public Control {
+ public:
+  CaptionedControl(Form& form, std::string name) : Control(form, std::move(name)) {}
+
+  const std::string& caption() const { return caption_; }
+  void setCaption(std::string caption) {
+    if (caption_ == caption) return;
+    caption_ = std::move(caption);
+    changed(Change::Text);
+  }
+
+ private:
+  std::string caption_;
+};
+
 }  // namespace forms

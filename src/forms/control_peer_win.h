@@ -11,7 +11,7 @@
 #include <string>
 
 #include "forms/control.h"
-#include "forms/list_edit.h"
+#include "forms/form_host.h"
 #include "os/handles_win.h"
 
 namespace forms {

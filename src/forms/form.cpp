@@ -1,10 +1,40 @@
 #include "forms/form.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace forms {
 
 Form::Form(std::string name) : name_(std::move(name)) {}
+
+void Form::move(float left, float top, float width, float height) {
+  left_ = left;
+  top_ = top;
+  width_ = width;
+  height_ = height;
+  tell(FormChange::Place);
+}
+
+void Form::centerOn(float screenWidth, float screenHeight) {
+  move(std::max(0.0F, (screenWidth - width_) / 2), std::max(0.0F, (screenHeight - height_) / 2), width_,
+       height_);
+}
+
+void Form::setClientSize(float width, float height) {
+  clientWidth_ = width;
+  clientHeight_ = height;
+}
+
+void Form::windowSized(float width, float height) {
+  width_ = width;
+  height_ = height;
+}
+
+void Form::setCaption(std::string caption) {
+  if (caption_ == caption) return;
+  caption_ = std::move(caption);
+  tell(FormChange::Caption);
+}
 
 void Form::setBackColor(base::PackedColor color) {
   if (backColor_ == color) return;

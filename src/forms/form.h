@@ -9,7 +9,6 @@
 #include "forms/control.h"
 #include "forms/form_host.h"
 #include "forms/menu.h"
-#include "forms/mouse_pointer.h"
 
 namespace forms {
 
@@ -31,28 +30,36 @@ class Form {
   const std::vector<Control*>& controls() const { return controls_; }
 
   // Outer place in twips.
-  float left = 0;
-  float top = 0;
-  float width = 0;
-  float height = 0;
+  float left() const { return left_; }
+  float top() const { return top_; }
+  float width() const { return width_; }
+  float height() const { return height_; }
+  void move(float left, float top, float width, float height);
 
-  // Inner size in twips. Where set, the host gives the window this inner size and writes the outer one back.
-  float clientWidth = 0;
-  float clientHeight = 0;
-  bool sizable = false;
+  // Centred on a screen of this size. A form larger than the screen starts at its corner, where the title is
+  // within reach.
+  void centerOn(float screenWidth, float screenHeight);
+
+  // Inner size in twips. Where set, the host gives the window this inner size and reports the outer one.
+  // Set once while building a form.
+  float clientWidth() const { return clientWidth_; }
+  float clientHeight() const { return clientHeight_; }
+  void setClientSize(float width, float height);
+
+  // For the host: the window has taken this outer size.
+  void windowSized(float width, float height);
 
   // The vertical scale that the form gave itself for drawing, over its whole height; 0 = twips.
   // It scales the pointer positions that the form reports; controls stay placed in twips.
-  float scaleHeight = 0;
+  float scaleHeight() const { return scaleHeight_; }
+  void setScaleHeight(float scale) { scaleHeight_ = scale; }
 
-  std::string caption;
+  const std::string& caption() const { return caption_; }
+  void setCaption(std::string caption);
+
   base::PackedColor backColor() const { return backColor_; }
   void setBackColor(base::PackedColor color);
   std::function<void()> onBackColorChanged;  // for the host
-
-  // Tell the host that caption or place were set while the form is shown.
-  void captionChanged() { tell(FormChange::Caption); }
-  void placeChanged() { tell(FormChange::Place); }
 
   MousePointer mousePointer() const { return mousePointer_; }
   void setMousePointer(MousePointer pointer);
@@ -86,6 +93,14 @@ class Form {
 
   std::string name_;
   FormHost* host_ = nullptr;
+  float left_ = 0;
+  float top_ = 0;
+  float width_ = 0;
+  float height_ = 0;
+  float clientWidth_ = 0;
+  float clientHeight_ = 0;
+  float scaleHeight_ = 0;
+  std::string caption_;
   MousePointer mousePointer_ = MousePointer::Default;
   std::vector<Control*> controls_;
   base::PackedColor backColor_ = base::kButtonFace;

@@ -6,7 +6,6 @@
 
 #include "base/font.h"
 #include "base/geometry.h"
-#include "forms/list_edit.h"
 
 namespace forms {
 
@@ -31,6 +30,18 @@ enum class Change {
 
 // What a form tells its host has changed.
 enum class FormChange { Caption, Place, MousePointer };
+
+// What happened to the entries of a list.
+struct ListEdit {
+  enum class Kind { Reset, Inserted, Removed, Replaced };
+
+  Kind kind = Kind::Reset;
+  int index = 0;  // of the first entry concerned
+  int count = 0;  // entries concerned
+};
+
+// The shape of the mouse pointer over a form.
+enum class MousePointer { Default = 0, Hourglass = 11 };
 
 class FormHost {
  public:

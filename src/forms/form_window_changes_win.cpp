@@ -1,6 +1,6 @@
 // What the models of a form change, shown in its window.
 #include "forms/form_window_win.h"
-#include "forms/list_box.h"
+#include "forms/lists.h"
 #include "forms/picture_peer_win.h"
 #include "os/text_renderer_win.h"
 #include "os/utf16_win.h"
@@ -44,7 +44,7 @@ void FormWindow::formChanged(Form&, FormChange change) {
   if (!window_) return;
   switch (change) {
     case FormChange::Caption:
-      SetWindowTextW(window_, os::ToWide(form_.caption).c_str());
+      SetWindowTextW(window_, os::ToWide(form_.caption()).c_str());
       break;
     case FormChange::Place:
       placeFromForm();

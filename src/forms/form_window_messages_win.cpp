@@ -4,8 +4,8 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
-#include "forms/command_button.h"
-#include "forms/tab_control.h"
+#include "forms/buttons.h"
+#include "forms/containers.h"
 
 namespace forms {
 

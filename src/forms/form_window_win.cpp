@@ -6,12 +6,12 @@
 #include <algorithm>
 
 #include "base/twips.h"
-#include "forms/command_button.h"
+#include "forms/buttons.h"
 #include "forms/container_peer_win.h"
-#include "forms/list_box.h"
+#include "forms/containers.h"
+#include "forms/lists.h"
 #include "forms/picture_peer_win.h"
 #include "forms/surface_win.h"
-#include "forms/tab_control.h"
 #include "os/text_renderer_win.h"
 #include "os/utf16_win.h"
 
@@ -30,10 +30,7 @@ struct EmptyTemplate {
   WORD padding = 0;
 };
 
-DWORD StyleOf(const Form& form) {
-  const DWORD frame = form.sizable ? WS_THICKFRAME | WS_MAXIMIZEBOX : 0UL;
-  return WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN | frame;
-}
+constexpr DWORD kFrameStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
 
 }  // namespace
 
@@ -43,11 +40,11 @@ FormWindow::~FormWindow() { close(); }
 
 void FormWindow::make(HWND owner) {
   EmptyTemplate empty;
-  empty.head.style = StyleOf(form_) | DS_3DLOOK;
+  empty.head.style = kFrameStyle | DS_3DLOOK;
   CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &empty.head, owner, Procedure,
                              reinterpret_cast<LPARAM>(this));
   if (!window_) return;
-  SetWindowTextW(window_, os::ToWide(form_.caption).c_str());
+  SetWindowTextW(window_, os::ToWide(form_.caption()).c_str());
   const HINSTANCE instance = GetModuleHandleW(nullptr);
   for (const auto& [kind, metric] : {std::pair{ICON_BIG, SM_CXICON}, std::pair{ICON_SMALL, SM_CXSMICON}}) {
     const int side = GetSystemMetrics(metric);
@@ -71,13 +68,13 @@ void FormWindow::takeDpi(int dpi) {
 }
 
 void FormWindow::sizeFromForm() {
-  int width = static_cast<int>(form_.width) / twipsPerPixel_;
-  int height = static_cast<int>(form_.height) / twipsPerPixel_;
-  if (form_.clientWidth > 0) {
-    RECT outer{0, 0, base::TwipsToPixels(form_.clientWidth, twipsPerPixel_),
-               base::TwipsToPixels(form_.clientHeight, twipsPerPixel_)};
+  int width = static_cast<int>(form_.width()) / twipsPerPixel_;
+  int height = static_cast<int>(form_.height()) / twipsPerPixel_;
+  if (form_.clientWidth() > 0) {
+    RECT outer{0, 0, base::TwipsToPixels(form_.clientWidth(), twipsPerPixel_),
+               base::TwipsToPixels(form_.clientHeight(), twipsPerPixel_)};
     const RECT inner = outer;
-    AdjustWindowRectEx(&outer, StyleOf(form_), menu_ != nullptr, 0);
+    AdjustWindowRectEx(&outer, kFrameStyle, menu_ != nullptr, 0);
     SetWindowPos(window_, nullptr, 0, 0, outer.right - outer.left, outer.bottom - outer.top,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     // A frame or a menu bar of another height than the system said is made up for.
@@ -89,15 +86,14 @@ void FormWindow::sizeFromForm() {
     height = static_cast<int>(now.bottom - now.top + inner.bottom - client.bottom);
   }
   SetWindowPos(window_, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-  form_.width = static_cast<float>(width * twipsPerPixel_);
-  form_.height = static_cast<float>(height * twipsPerPixel_);
+  form_.windowSized(static_cast<float>(width * twipsPerPixel_), static_cast<float>(height * twipsPerPixel_));
 }
 
 void FormWindow::placeFromForm() {
-  SetWindowPos(window_, nullptr, base::TwipsToPixels(form_.left, twipsPerPixel_),
-               base::TwipsToPixels(form_.top, twipsPerPixel_),
-               base::TwipsToPixels(form_.width, twipsPerPixel_),
-               base::TwipsToPixels(form_.height, twipsPerPixel_), SWP_NOZORDER | SWP_NOACTIVATE);
+  SetWindowPos(window_, nullptr, base::TwipsToPixels(form_.left(), twipsPerPixel_),
+               base::TwipsToPixels(form_.top(), twipsPerPixel_),
+               base::TwipsToPixels(form_.width(), twipsPerPixel_),
+               base::TwipsToPixels(form_.height(), twipsPerPixel_), SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void FormWindow::makeMenu() {

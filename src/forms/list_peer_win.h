@@ -2,9 +2,8 @@
 #pragma once
 
 #include "forms/control_peer_win.h"
-#include "forms/file_list.h"
-#include "forms/folder_list.h"
-#include "forms/list_box.h"
+#include "forms/folder_lists.h"
+#include "forms/lists.h"
 
 namespace forms {
 

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "forms/control_peer_win.h"
-#include "forms/image.h"
-#include "forms/picture_box.h"
+#include "forms/picture_boxes.h"
 #include "os/dib_win.h"
 
 namespace forms {

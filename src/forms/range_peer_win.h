@@ -2,8 +2,7 @@
 #pragma once
 
 #include "forms/control_peer_win.h"
-#include "forms/scroll_bar.h"
-#include "forms/slider.h"
+#include "forms/ranges.h"
 
 namespace forms {
 

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "forms/control_peer_win.h"
-#include "forms/label.h"
-#include "forms/text_box.h"
+#include "forms/texts.h"
 
 namespace forms {
 

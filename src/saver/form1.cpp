@@ -86,8 +86,7 @@ void Form1::Form_Load() {
 
 void Form1::coverScreen() {
   screenSize_ = services_.screen.primarySize();
-  width = screenWidth();
-  height = screenHeight();
+  move(0, 0, screenWidth(), screenHeight());
   services_.window.cover(base::PixelRect::ofSize(screenSize_));
   services_.stage.invalidateAll();
 }

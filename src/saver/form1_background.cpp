@@ -35,7 +35,7 @@ base::SharedBitmap Form1::composeBackground(BackgroundKind kind) {
 
 base::SharedBitmap Form1::composeGradient() {
   // One unit a band from now on, for the pointer positions that the form reports too.
-  scaleHeight = kGradientBands;
+  setScaleHeight(kGradientBands);
   const settings::SettingsRecord& record = settings_.record;
   const GradientColor color{.red = base::StrictInt32(record.redBackground),
                             .green = base::StrictInt32(record.greenBackground),

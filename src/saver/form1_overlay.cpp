@@ -61,7 +61,7 @@ void Form1::ShowCaption() {
   Label1.setVisible(true);
   if (Label1.caption().empty()) Label1.setHeight(0);
   if (scrolls) {
-    Label1.setLeft(width);
+    Label1.setLeft(width());
     ScrollerTimer.setInterval(kScrollIntervalMs);
     ScrollerTimer.setEnabled(true);
   }
@@ -69,7 +69,7 @@ void Form1::ShowCaption() {
 
 void Form1::ScrollerTimer_Timer() {
   const double speed = base::StrictDouble(settings_.record.scrollSpeed);
-  Label1.setLeft(ScrolledCaptionLeft(Label1.left(), Label1.width(), speed, width));
+  Label1.setLeft(ScrolledCaptionLeft(Label1.left(), Label1.width(), speed, width()));
 }
 
 void Form1::PrepareClock() {

@@ -26,13 +26,13 @@ void Form1::loadPicture(std::int16_t number) {
     return;
   }
   IntialPicture.setPicture(forms::MakePicture(std::move(file)));
-  const PictureLimit limit = PictureLimit::of(width, height, settings_.pictureScale);
+  const PictureLimit limit = PictureLimit::of(width(), height(), settings_.pictureScale);
   loadReduction_ =
       ReductionFor(limit, base::ToInt32(IntialPicture.width()), base::ToInt32(IntialPicture.height()));
 }
 
 void Form1::ScalePicture() {
-  const PictureLimit limit = PictureLimit::of(width, height, settings_.pictureScale);
+  const PictureLimit limit = PictureLimit::of(width(), height(), settings_.pictureScale);
   const ShownSize shown = ScalePictureSize(limit, {.width = base::ToInt32(IntialPicture.width()),
                                                    .height = base::ToInt32(IntialPicture.height()),
                                                    .reduction = loadReduction_});

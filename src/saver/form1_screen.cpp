@@ -31,7 +31,7 @@ void Form1::layOutAgain(base::PixelSize before) {
   if (!pictureShown_) return;
   refitPicture();
   const bool scrolls = base::StrictDouble(settings_.record.scroll) == 0;
-  Label1.setLeft(scrolls ? std::min(Label1.left(), width)
+  Label1.setLeft(scrolls ? std::min(Label1.left(), width())
                          : CenteredCaptionLeft(screenWidth(), Label1.width()));
 }
 

@@ -8,8 +8,8 @@
 
 #include "base/bitmap.h"
 #include "forms/form.h"
-#include "forms/label.h"
-#include "forms/picture_box.h"
+#include "forms/picture_boxes.h"
+#include "forms/texts.h"
 #include "os/text_renderer.h"
 #include "saver/stage_window.h"
 

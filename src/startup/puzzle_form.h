@@ -3,7 +3,7 @@
 
 #include "base/bitmap.h"
 #include "forms/form.h"
-#include "forms/picture_box.h"
+#include "forms/picture_boxes.h"
 
 namespace startup {
 

@@ -122,7 +122,7 @@ std::optional<PointedControl> Show::pointedControl(base::PixelPoint onScreen) co
   const float x = static_cast<float>(onScreen.x) * perPixel;
   const float y = static_cast<float>(onScreen.y) * perPixel;
   return PointedControl{WatchedControl::Form, x,
-                        form_.scaleHeight == 0 ? y : y * form_.scaleHeight / form_.height};
+                        form_.scaleHeight() == 0 ? y : y * form_.scaleHeight() / form_.height()};
 }
 
 void Show::mouseMoved(base::PixelPoint onScreen) {

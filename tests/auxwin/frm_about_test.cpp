@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "auxwin/open_with_shell.h"
-#include "auxwin/product_version.h"
 #include "support/fake_window_system.h"
 #include "support/shell_recorder.h"
 

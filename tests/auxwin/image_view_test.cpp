@@ -33,38 +33,38 @@ TEST_F(ImageViewTest, ThePictureIsShownAtItsActualSizeInTheCorner) {
   EXPECT_EQ(view.Picture1.top(), 0);
   EXPECT_EQ(view.Picture1.width(), 400 * 15);
   EXPECT_EQ(view.Picture1.height(), 300 * 15);
-  EXPECT_EQ(view.width, 400 * 15 + 120);
-  EXPECT_EQ(view.height, 300 * 15 + 405);
+  EXPECT_EQ(view.width(), 400 * 15 + 120);
+  EXPECT_EQ(view.height(), 300 * 15 + 405);
   view.Picture1.image();
   EXPECT_EQ(pictures.drawnSizes, (std::vector<base::PixelSize>{{400, 300}})) << "decoded once";
-  EXPECT_EQ(view.caption, "p.gif");
+  EXPECT_EQ(view.caption(), "p.gif");
   EXPECT_TRUE(dialogs.messages.empty());
 }
 
 TEST_F(ImageViewTest, ANarrowPictureOpensInAWindow2000TwipsWide) {
   open({133, 50});  // 1995 twips
-  EXPECT_EQ(view.width, 2000);
-  EXPECT_EQ(view.height, 50 * 15 + 405);
+  EXPECT_EQ(view.width(), 2000);
+  EXPECT_EQ(view.height(), 50 * 15 + 405);
   EXPECT_EQ(view.Picture1.left(), 0);
 }
 
 TEST_F(ImageViewTest, JustAbove2000TwipsTheBordersAreAdded) {
   open({134, 50});  // 2010 twips
-  EXPECT_EQ(view.width, 2010 + 120);
+  EXPECT_EQ(view.width(), 2010 + 120);
 }
 
 TEST_F(ImageViewTest, APictureLargerThanTheScreenOpensInALargerWindow) {
   open({4000, 3000});
-  EXPECT_EQ(view.width, 4000 * 15 + 120);
-  EXPECT_EQ(view.height, 3000 * 15 + 405);
-  EXPECT_EQ(view.left, 0) << "its title stays within reach";
-  EXPECT_EQ(view.top, 0);
+  EXPECT_EQ(view.width(), 4000 * 15 + 120);
+  EXPECT_EQ(view.height(), 3000 * 15 + 405);
+  EXPECT_EQ(view.left(), 0) << "its title stays within reach";
+  EXPECT_EQ(view.top(), 0);
 }
 
 TEST_F(ImageViewTest, ASmallerOneStandsInTheMiddle) {
   open({400, 300});
-  EXPECT_EQ(view.left, (windows.screenWidth - view.width) / 2);
-  EXPECT_EQ(view.top, (windows.screenHeight - view.height) / 2);
+  EXPECT_EQ(view.left(), (windows.screenWidth - view.width()) / 2);
+  EXPECT_EQ(view.top(), (windows.screenHeight - view.height()) / 2);
 }
 
 TEST_F(ImageViewTest, APictureThatCannotBeLoadedIsReported) {
@@ -88,8 +88,8 @@ TEST_F(ImageViewTest, WithNothingSelectedItIsSmallAndEmptyWithoutAMessage) {
   for (const int selected : {-1, 2}) {
     List1.setListIndex(selected);
     windows.show(view);
-    EXPECT_EQ(view.width, 2000);
-    EXPECT_LT(view.height, 2000);
+    EXPECT_EQ(view.width(), 2000);
+    EXPECT_LT(view.height(), 2000);
     EXPECT_EQ(view.Picture1.picture(), nullptr);
     windows.unload(view);
   }
@@ -137,7 +137,7 @@ TEST_F(ImageViewTest, APictureLargerThanTheScreenCanBePulledToItsOtherCorner) {
   }
   EXPECT_EQ(view.Picture1.left(), 0) << "and back";
   EXPECT_EQ(view.Picture1.top(), 0);
-  EXPECT_EQ(view.width, 4000 * 15 + 120) << "the window keeps its size";
+  EXPECT_EQ(view.width(), 4000 * 15 + 120) << "the window keeps its size";
 }
 
 TEST_F(ImageViewTest, AClickOfAHandThatTremblesStillCloses) {
@@ -186,8 +186,8 @@ TEST_F(ImageViewTest, AfterALargePictureAnEmptyWindowIsSmallAgain) {
   windows.unload(view);
   List1.setListIndex(-1);
   windows.show(view);
-  EXPECT_EQ(view.width, 2000);
-  EXPECT_EQ(view.caption, "Image");
+  EXPECT_EQ(view.width(), 2000);
+  EXPECT_EQ(view.caption(), "Image");
 }
 
 }  // namespace

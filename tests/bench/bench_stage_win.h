@@ -2,7 +2,7 @@
 #pragma once
 
 #include "forms/form.h"
-#include "forms/picture_box.h"
+#include "forms/picture_boxes.h"
 #include "os/clock_win.h"
 #include "os/event_loop_win.h"
 #include "os/text_renderer_win.h"

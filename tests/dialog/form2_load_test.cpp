@@ -412,11 +412,10 @@ TEST_F(Form2Load, TheExtraKeysPassThrough) {
 TEST_F(Form2Load, TheWindowStandsInTheMiddleOfTheScreen) {
   Form2 form(DialogServices{machine.files, machine.ansi, machine.pictures, machine.dialogs, machine.windows},
              "C:");
-  form.width = 9600;
-  form.height = 7200;
+  form.windowSized(9600, 7200);
   machine.windows.show(form);
-  EXPECT_EQ(form.left, (1920 * 15 - 9600) / 2);
-  EXPECT_EQ(form.top, (1080 * 15 - 7200) / 2);
+  EXPECT_EQ(form.left(), (1920 * 15 - 9600) / 2);
+  EXPECT_EQ(form.top(), (1080 * 15 - 7200) / 2);
   machine.windows.unload(form);
 }
 

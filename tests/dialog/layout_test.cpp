@@ -24,8 +24,8 @@ TEST_F(DialogLayout, TheTablesNameEveryControlOnce) {
 TEST_F(DialogLayout, EveryControlLiesInsideWhatItStandsOn) {
   for (const forms::Control* control : form.controls()) {
     if (control->name() == "photo" || control->name() == "photo_caption") continue;
-    const float width = control->container() ? control->container()->width() : form.clientWidth;
-    const float height = control->container() ? control->container()->height() : form.clientHeight;
+    const float width = control->container() ? control->container()->width() : form.clientWidth();
+    const float height = control->container() ? control->container()->height() : form.clientHeight();
     EXPECT_GE(control->left(), 0) << control->name();
     EXPECT_GE(control->top(), 0) << control->name();
     EXPECT_LE(control->left() + control->width(), width) << control->name();

@@ -1,18 +1,13 @@
 #include <gtest/gtest.h>
 
 #include "base/errors.h"
-#include "forms/check_box.h"
-#include "forms/combo_box.h"
-#include "forms/command_button.h"
+#include "forms/buttons.h"
+#include "forms/containers.h"
 #include "forms/form.h"
-#include "forms/frame.h"
-#include "forms/image.h"
-#include "forms/option_button.h"
-#include "forms/scroll_bar.h"
-#include "forms/slider.h"
-#include "forms/status_bar.h"
-#include "forms/tab_control.h"
-#include "forms/text_box.h"
+#include "forms/lists.h"
+#include "forms/picture_boxes.h"
+#include "forms/ranges.h"
+#include "forms/texts.h"
 #include "support/fake_window_system.h"
 
 namespace forms {

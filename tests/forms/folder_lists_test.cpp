@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "forms/drive_list.h"
-#include "forms/file_list.h"
 #include "forms/file_name.h"
-#include "forms/folder_list.h"
+#include "forms/folder_lists.h"
 #include "forms/form.h"
 #include "support/fake_folders.h"
 

@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "forms/frame.h"
-#include "forms/label.h"
-#include "forms/tab_control.h"
+#include "forms/containers.h"
+#include "forms/texts.h"
 
 namespace forms {
 namespace {

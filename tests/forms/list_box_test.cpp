@@ -1,4 +1,4 @@
-#include "forms/list_box.h"
+#include "forms/lists.h"
 
 #include <gtest/gtest.h>
 

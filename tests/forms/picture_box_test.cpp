@@ -1,4 +1,4 @@
-#include "forms/picture_box.h"
+#include "forms/picture_boxes.h"
 
 #include <gtest/gtest.h>
 

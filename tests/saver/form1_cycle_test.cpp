@@ -254,8 +254,8 @@ TEST(PictureCycle, TheWindowCoversThePrimaryScreen) {
   ShowStage show({1280, 720});
   show.start();
   EXPECT_EQ(show.window.covered, (base::PixelRect{0, 0, 1280, 720}));
-  EXPECT_FLOAT_EQ(show.form->width, 1280 * 15.0F);
-  EXPECT_FLOAT_EQ(show.form->height, 720 * 15.0F);
+  EXPECT_FLOAT_EQ(show.form->width(), 1280 * 15.0F);
+  EXPECT_FLOAT_EQ(show.form->height(), 720 * 15.0F);
 }
 
 TEST(PictureCycle, RunsForAWeekWithoutARunTimeErrorOrATimerTooMany) {

@@ -280,8 +280,8 @@ TEST(Background, AGradientRunsFromItsColourToBlackAndRescalesTheFormForPointers)
   show.start();
   EXPECT_EQ(show.screenAt(0, 0), 0xFFFF0000U);
   EXPECT_EQ(show.screenAt(1023, 767), 0xFF000000U);
-  EXPECT_FLOAT_EQ(show.form->scaleHeight, 256);
-  EXPECT_FLOAT_EQ(show.form->height, 768 * 15) << "controls stay placed in twips";
+  EXPECT_FLOAT_EQ(show.form->scaleHeight(), 256);
+  EXPECT_FLOAT_EQ(show.form->height(), 768 * 15) << "controls stay placed in twips";
 }
 
 TEST(Background, ABadPictureLeavesTheWindowsOwnBackgroundWithoutAMessage) {

@@ -26,8 +26,8 @@ TEST(ScreenChange, TheWindowCoversTheScreenAsItIsNow) {
   show.start();
   ChangeScreen(show, {800, 600});
   EXPECT_EQ(show.window.covered, (base::PixelRect{0, 0, 800, 600}));
-  EXPECT_FLOAT_EQ(show.form->width, 800 * 15.0F);
-  EXPECT_FLOAT_EQ(show.form->height, 600 * 15.0F);
+  EXPECT_FLOAT_EQ(show.form->width(), 800 * 15.0F);
+  EXPECT_FLOAT_EQ(show.form->height(), 600 * 15.0F);
 }
 
 TEST(ScreenChange, AtTheSameSizeTheWindowGoesToThePrimaryScreenAndNothingElseChanges) {
@@ -50,7 +50,7 @@ TEST(ScreenChange, WithoutAnyScreenNothingHappens) {
   show.window.calls.clear();
   ChangeScreen(show, {0, 0});
   EXPECT_TRUE(show.window.calls.empty());
-  EXPECT_FLOAT_EQ(show.form->width, 1024 * 15.0F);
+  EXPECT_FLOAT_EQ(show.form->width(), 1024 * 15.0F);
 }
 
 TEST(ScreenChange, ThePictureIsFittedAgainAndStandsInTheMiddle) {

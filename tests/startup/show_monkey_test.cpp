@@ -274,7 +274,7 @@ class MonkeyShow {
     if (!caption.visible()) return;
     EXPECT_TRUE(form().pictureShown());
     EXPECT_FALSE(changing()) << "a caption over a change";
-    const float screen = form().width;
+    const float screen = form().width();
     if (number(record().scroll) != 0) {
       EXPECT_FLOAT_EQ(caption.left(), saver::CenteredCaptionLeft(screen, caption.width()));
     } else if (number(record().scrollSpeed) >= 0) {
@@ -286,8 +286,8 @@ class MonkeyShow {
   // The clock's last letter stands in the corner or left of it; the clock may be wider than a small screen.
   void checkClock() {
     if (!form().time.visible()) return;
-    EXPECT_LE(form().time.left() + form().time.width(), form().width + 0.5F);
-    EXPECT_NEAR(form().time.top() + form().time.height(), form().height, 0.5F);
+    EXPECT_LE(form().time.left() + form().time.width(), form().width() + 0.5F);
+    EXPECT_NEAR(form().time.top() + form().time.height(), form().height(), 0.5F);
   }
 
   void checkPicture() {
@@ -295,18 +295,19 @@ class MonkeyShow {
     checkSize(box);
     const bool centred = !floats() || !form().pictureShown();
     if (centred) {
-      const auto middle = saver::Centered(form().width, form().height, box.width(), box.height());
+      const auto middle = saver::Centered(form().width(), form().height(), box.width(), box.height());
       EXPECT_FLOAT_EQ(box.left(), middle.left);
       EXPECT_FLOAT_EQ(box.top(), middle.top);
       return;
     }
-    checkAxis(box.left(), box.width(), form().width, lastLeft_);
-    checkAxis(box.top(), box.height(), form().height, lastTop_);
+    checkAxis(box.left(), box.width(), form().width(), lastLeft_);
+    checkAxis(box.top(), box.height(), form().height(), lastTop_);
   }
 
   // The longer side keeps to its share of the screen, to the pixel.
   void checkSize(const forms::PictureBox& box) {
-    const auto limit = saver::PictureLimit::of(form().width, form().height, form().settings().pictureScale);
+    const auto limit =
+        saver::PictureLimit::of(form().width(), form().height(), form().settings().pictureScale);
     const auto pixel = static_cast<float>(form().twipsPerPixel());
     const bool portrait = box.width() < box.height();
     const float longer = portrait ? box.height() : box.width();

@@ -9,7 +9,7 @@
 #include "base/bitmap.h"
 #include "base/random.h"
 #include "forms/form.h"
-#include "forms/picture_box.h"
+#include "forms/picture_boxes.h"
 #include "saver/transitions/effects.h"
 
 namespace support {

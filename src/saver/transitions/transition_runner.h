@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "base/bitmap.h"
-#include "forms/picture_box.h"
+#include "forms/picture_boxes.h"
 #include "os/clock.h"
 #include "os/event_loop.h"
 #include "saver/transitions/plan.h"

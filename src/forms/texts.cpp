@@ -1,4 +1,4 @@
-#include "forms/label.h"
+#include "forms/texts.h"
 
 #include <utility>
 

@@ -1,6 +1,7 @@
-// A list of lines of which one or none is selected.
+// Lists of texts from which one is chosen.
 #pragma once
 
+#include <functional>
 #include <span>
 #include <string>
 #include <utility>
@@ -10,6 +11,7 @@
 
 namespace forms {
 
+// A list of lines of which one or none is selected.
 class ListBox : public Control {
  public:
   ListBox(Form& form, std::string name) : Control(form, std::move(name)) {}
@@ -49,6 +51,35 @@ class ListBox : public Control {
 
   std::vector<std::string> items_;
   int listIndex_ = -1;
+};
+
+// A text with a list to choose it from. Nothing can be typed, but any text that was set is shown.
+class ComboBox : public Control {
+ public:
+  ComboBox(Form& form, std::string name) : Control(form, std::move(name)) {}
+  ControlKind kind() const override { return ControlKind::ComboBox; }
+
+  const std::vector<std::string>& items() const { return items_; }
+  void setItems(std::vector<std::string> items);
+
+  const std::string& text() const { return text_; }
+
+  // Shows a text, whether or not it is in the list. No event.
+  void setText(std::string text);
+
+  // The first entry that equals the text, or -1.
+  int listIndex() const;
+
+  // Shows an entry and raises the click unless it was shown before. An index beyond the list throws
+  // base::InvalidPropertyValue.
+  void setListIndex(int index);
+
+  // The user chose an entry, perhaps the one that is shown: the click is raised in any case.
+  void userSelected(int index);
+
+ private:
+  std::vector<std::string> items_;
+  std::string text_;
 };
 
 }  // namespace forms

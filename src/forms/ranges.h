@@ -1,4 +1,4 @@
-// A control with a whole number between two limits.
+// Controls with a whole number between two limits.
 #pragma once
 
 #include <functional>
@@ -45,6 +45,30 @@ class RangeControl : public Control {
   int smallChange_ = 1;
   int largeChange_ = 1;
   int value_ = 0;
+};
+
+// A horizontal slider with tick marks.
+class Slider : public RangeControl {
+ public:
+  Slider(Form& form, std::string name) : RangeControl(form, std::move(name)) {}
+  ControlKind kind() const override { return ControlKind::Slider; }
+
+  int tickFrequency() const { return tickFrequency_; }
+  void setTickFrequency(int every) {
+    if (tickFrequency_ == every) return;
+    tickFrequency_ = every;
+    changed(Change::Range);
+  }
+
+ private:
+  int tickFrequency_ = 1;
+};
+
+// A vertical scroll bar. Its top is its minimum: with the greater limit as minimum, up gives more.
+class ScrollBar : public RangeControl {
+ public:
+  ScrollBar(Form& form, std::string name) : RangeControl(form, std::move(name)) {}
+  ControlKind kind() const override { return ControlKind::ScrollBar; }
 };
 
 }  // namespace forms

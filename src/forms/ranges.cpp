@@ -1,4 +1,4 @@
-#include "forms/range_control.h"
+#include "forms/ranges.h"
 
 #include <algorithm>
 

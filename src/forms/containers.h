@@ -1,14 +1,22 @@
-// Pages one above the other, one of them shown, chosen by their tabs.
+// What other controls stand on.
 #pragma once
 
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/control.h"
 
 namespace forms {
+
+// A captioned group box. Its text colour is its caption's.
+class Frame : public CaptionedControl {
+ public:
+  Frame(Form& form, std::string name) : CaptionedControl(form, std::move(name)) {}
+  ControlKind kind() const override { return ControlKind::Frame; }
+};
 
 // What the controls of one tab stand on. Its place is the tab control's, without the tabs.
 class TabPage : public Control {
@@ -23,6 +31,7 @@ class TabPage : public Control {
   std::string caption_;
 };
 
+// Pages one above the other, one of them shown, chosen by their tabs.
 class TabControl : public Control {
  public:
   // The pages are made at once; page i is named "<name>(i)". The first is shown.

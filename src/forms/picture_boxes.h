@@ -1,16 +1,19 @@
-// A box that holds an assigned picture and a drawing surface over it. Works in pixels inside.
+// Boxes that show a picture.
 #pragma once
 
 #include <span>
 #include <string>
+#include <utility>
 
 #include "base/bitmap.h"
+#include "base/geometry.h"
 #include "base/region.h"
 #include "forms/control.h"
 #include "forms/picture.h"
 
 namespace forms {
 
+// A box that holds an assigned picture and a drawing surface over it. Works in pixels inside.
 class PictureBox : public Control {
  public:
   PictureBox(Form& form, std::string name);
@@ -71,6 +74,27 @@ class PictureBox : public Control {
   base::SharedBitmap paintedFrom_;
   base::Region painted_;
   mutable bool isPaintedDrawn_ = true;
+};
+
+// The largest size with the proportions of `picture` inside `box`, at least one pixel each way. A picture
+// that fits is not enlarged.
+base::PixelSize FitInside(base::PixelSize picture, base::PixelSize box);
+
+// A picture shown as large as its box allows, in its own proportions.
+class Image : public Control {
+ public:
+  Image(Form& form, std::string name) : Control(form, std::move(name)) {}
+  ControlKind kind() const override { return ControlKind::Image; }
+
+  const SharedPicture& picture() const { return picture_; }
+  void setPicture(SharedPicture picture) {
+    if (picture_ == picture) return;
+    picture_ = std::move(picture);
+    changed(Change::Picture);
+  }
+
+ private:
+  SharedPicture picture_;
 };
 
 }  // namespace forms

@@ -1,8 +1,24 @@
-#include "forms/option_button.h"
+#include "forms/buttons.h"
+
+#include <algorithm>
 
 #include "forms/form.h"
 
 namespace forms {
+
+bool CheckBox::assign(int value) {
+  value = std::clamp(value, 0, 1);
+  if (value_ == value) return false;
+  value_ = value;
+  changed(Change::Value);
+  return true;
+}
+
+void CheckBox::setValue(int value) {
+  if (assign(value) && onClick) onClick();
+}
+
+void CheckBox::setDesignValue(int value) { assign(value); }
 
 // The others give up the choice before anybody is told, so that whoever is told sees one choice.
 bool OptionButton::assign(bool value) {

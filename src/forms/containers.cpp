@@ -1,4 +1,4 @@
-#include "forms/tab_control.h"
+#include "forms/containers.h"
 
 #include "base/errors.h"
 
