@@ -9,7 +9,7 @@
 #include "forms/list_box.h"
 #include "forms/picture_box.h"
 #include "forms/window_system.h"
-#include "pictures/pictures.h"
+#include "pictures/picture.h"
 
 namespace auxwin {
 

@@ -11,7 +11,7 @@
 #include "os/files.h"
 #include "os/folders_win.h"
 #include "os/shell_win.h"
-#include "pictures/pictures.h"
+#include "pictures/picture.h"
 
 namespace dialog {
 

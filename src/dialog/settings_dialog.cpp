@@ -10,7 +10,8 @@
 namespace dialog {
 
 SettingsDialog::SettingsDialog(const DialogServices& services, os::EventLoop& loop, os::Folders& folders,
-                               os::Shell& shell, const std::string& programFolder, forms::SharedPicture icon)
+                               os::Shell& shell, const std::string& programFolder,
+                               pictures::SharedPicture icon)
     : form(services, programFolder),
       pictures(form, loop),
       background(form),

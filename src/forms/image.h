@@ -6,7 +6,7 @@
 
 #include "base/geometry.h"
 #include "forms/control.h"
-#include "forms/picture.h"
+#include "pictures/picture.h"
 
 namespace forms {
 
@@ -19,15 +19,15 @@ class Image : public Control {
   Image(Form& form, std::string name) : Control(form, std::move(name)) {}
   ControlKind kind() const override { return ControlKind::Image; }
 
-  const SharedPicture& picture() const { return picture_; }
-  void setPicture(SharedPicture picture) {
+  const pictures::SharedPicture& picture() const { return picture_; }
+  void setPicture(pictures::SharedPicture picture) {
     if (picture_ == picture) return;
     picture_ = std::move(picture);
     changed(Change::Picture);
   }
 
  private:
-  SharedPicture picture_;
+  pictures::SharedPicture picture_;
 };
 
 }  // namespace forms

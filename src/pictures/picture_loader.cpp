@@ -6,10 +6,9 @@
 
 #include "base/orientation.h"
 #include "pictures/draw_source.h"
-#include "pictures/exif.h"
-#include "pictures/gif_picture_source.h"
+#include "pictures/gif_first_frame.h"
+#include "pictures/jpeg_head.h"
 #include "pictures/picture_header.h"
-#include "pictures/picture_limits.h"
 
 namespace pictures {
 
@@ -33,7 +32,7 @@ std::optional<CheckedHead> ReadHead(os::FileHead& heads, const std::string& path
   return CheckedHead{std::move(*bytes), *header, isWholeFile};
 }
 
-// The head of a picture whose claims have been found bearable; nothing for anything else.
+// The head of a picture that claims no more than is allowed; nothing for anything else.
 std::optional<CheckedHead> CheckHead(os::FileHead& heads, const std::string& path) {
   auto head = ReadHead(heads, path, kHeadBytes);
   if (head && !head->header.size && !head->isWholeFile) head = ReadHead(heads, path, kLongHeadBytes);
@@ -63,32 +62,42 @@ struct OpenedPicture {
 OpenedPicture OpenPicture(os::FileHead& heads, os::PictureDecoder& decoder, const std::string& path) {
   const auto head = CheckHead(heads, path);
   if (!head) return {};
-  const bool isGif = head->header.kind == PictureKind::gif;
+  const bool isGif = head->header.kind == PictureKind::Gif;
   auto source = isGif ? OpenGif(heads, path, *head) : decoder.open(path);
   if (!source || !IsDecodable(source->size(), head->header.bytesPerPixel)) return {};
   return {std::move(source), ReadExifOrientation(head->bytes)};
 }
 
-class LoadedPicture final : public PictureFile {
+class FilePicture final : public Picture {
  public:
   using Reopen = std::function<OpenedPicture()>;
 
-  LoadedPicture(OpenedPicture opened, Reopen reopen)
-      : size_(opened.uprightSize()), reopen_(std::move(reopen)), opened_(std::move(opened)) {}
+  FilePicture(OpenedPicture opened, Reopen reopen, std::function<void()> tellFailure)
+      : size_(opened.uprightSize()),
+        reopen_(std::move(reopen)),
+        tellFailure_(std::move(tellFailure)),
+        opened_(std::move(opened)) {}
 
   base::PixelSize size() const override { return size_; }
 
-  std::optional<base::Bitmap> draw(base::PixelSize drawn) const override {
-    if (drawn.isEmpty()) return base::Bitmap();
-    if (PixelCount(drawn) > kMostDrawnPixels) return std::nullopt;
-    try {
-      return decode(drawn);
-    } catch (const std::bad_alloc&) {
-      return std::nullopt;  // too large for this machine at this moment
-    }
+  base::SharedBitmap drawnAt(base::PixelSize drawn) const override {
+    base::SharedBitmap pixels = draw(drawn);
+    if (!pixels) tellFailure_();
+    return pixels;
   }
 
  private:
+  base::SharedBitmap draw(base::PixelSize drawn) const {
+    if (drawn.isEmpty()) return std::make_shared<base::Bitmap>();
+    if (PixelCount(drawn) > kMostDrawnPixels) return nullptr;
+    try {
+      std::optional<base::Bitmap> pixels = decode(drawn);
+      return pixels ? std::make_shared<base::Bitmap>(std::move(*pixels)) : nullptr;
+    } catch (const std::bad_alloc&) {
+      return nullptr;  // too large for this machine at this moment
+    }
+  }
+
   std::optional<base::Bitmap> decode(base::PixelSize drawn) const {
     const OpenedPicture picture = opened_.source ? std::move(opened_) : reopen_();
     if (!picture.source || picture.uprightSize() != size_) return std::nullopt;  // the file has changed
@@ -99,6 +108,7 @@ class LoadedPicture final : public PictureFile {
 
   base::PixelSize size_;
   Reopen reopen_;
+  std::function<void()> tellFailure_;
 
   // What opening has left, given up at the first drawing: a file seldom is drawn twice.
   mutable OpenedPicture opened_;
@@ -106,15 +116,23 @@ class LoadedPicture final : public PictureFile {
 
 }  // namespace
 
-std::shared_ptr<const PictureFile> FilePictureLoader::open(const std::string& path) {
+SharedPicture FilePictureLoader::open(const std::string& path) {
   try {
     OpenedPicture opened = OpenPicture(heads_, decoder_, path);
-    if (!opened.source) return nullptr;
-    return std::make_shared<LoadedPicture>(std::move(opened),
-                                           [this, path]() { return OpenPicture(heads_, decoder_, path); });
+    if (opened.source) {
+      return std::make_shared<FilePicture>(
+          std::move(opened), [this, path] { return OpenPicture(heads_, decoder_, path); },
+          [this, path] { tell(path, PictureFailure::NotDrawn); });
+    }
   } catch (const std::bad_alloc&) {
-    return nullptr;
+    // Too large for this machine at this moment.
   }
+  tell(path, PictureFailure::NotOpened);
+  return nullptr;
+}
+
+void FilePictureLoader::tell(const std::string& path, PictureFailure failure) const {
+  if (onFailure) onFailure(path, failure);
 }
 
 }  // namespace pictures

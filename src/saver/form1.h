@@ -20,7 +20,7 @@
 #include "os/screen.h"
 #include "os/system_facts.h"
 #include "os/system_flags.h"
-#include "pictures/pictures.h"
+#include "pictures/picture.h"
 #include "saver/background.h"
 #include "saver/countdown.h"
 #include "saver/floating.h"

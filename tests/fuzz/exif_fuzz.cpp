@@ -4,8 +4,7 @@
 
 #include "fuzz/input.h"
 #include "fuzz/require.h"
-#include "pictures/exif.h"
-#include "pictures/jpeg_segments.h"
+#include "pictures/jpeg_head.h"
 #include "pictures/picture_header.h"
 #include "support/jpeg_builder.h"
 

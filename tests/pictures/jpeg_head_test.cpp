@@ -1,4 +1,4 @@
-#include "pictures/exif.h"
+#include "pictures/jpeg_head.h"
 
 #include <gtest/gtest.h>
 
