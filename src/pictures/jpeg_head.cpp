@@ -15,7 +15,6 @@ bool StandsAlone(std::uint8_t marker) {
 constexpr std::uint8_t kApp1 = 0xE1;
 constexpr std::string_view kExifName("Exif\0\0", 6);
 constexpr std::uint16_t kOrientationTag = 0x0112;
-constexpr std::uint16_t kShort = 3;  // the tag's only legal type: 16 bits, left-justified in the value field
 constexpr std::size_t kEntrySize = 12;
 
 std::optional<ByteOrder> ReadByteOrder(std::string_view tiff) {
@@ -24,9 +23,28 @@ std::optional<ByteOrder> ReadByteOrder(std::string_view tiff) {
   return std::nullopt;
 }
 
-std::optional<base::Orientation> FromTag(std::optional<std::uint16_t> value) {
-  if (!value || *value < 1 || *value > 8) return std::nullopt;
-  return static_cast<base::Orientation>(*value);
+// The value of a directory's entry. The tag is meant to be a SHORT; some writers make it a LONG or a BYTE. A
+// shorter number stands at the beginning of the four bytes.
+std::optional<std::uint32_t> EntryValue(const ByteReader& bytes, std::size_t entry) {
+  constexpr std::uint16_t kByte = 1;
+  constexpr std::uint16_t kShort = 3;
+  constexpr std::uint16_t kLong = 4;
+  const std::size_t value = entry + 8;
+  switch (bytes.u16(entry + 2).value_or(0)) {
+    case kByte:
+      return bytes.u8(value);
+    case kShort:
+      return bytes.u16(value);
+    case kLong:
+      return bytes.u32(value);
+    default:
+      return std::nullopt;
+  }
+}
+
+std::optional<base::Orientation> OrientationNumbered(std::optional<std::uint32_t> number) {
+  if (!number || *number < 1 || *number > 8) return std::nullopt;
+  return static_cast<base::Orientation>(*number);
 }
 
 // Offsets inside a TIFF block count from its beginning. Only the first directory is looked at: the second
@@ -44,7 +62,8 @@ std::optional<base::Orientation> OrientationOfTiff(std::string_view tiff) {
     const std::size_t entry = std::size_t{*directory} + 2 + i * kEntrySize;
     const auto tag = bytes.u16(entry);
     if (!tag) return std::nullopt;
-    if (*tag == kOrientationTag && bytes.u16(entry + 2) == kShort) return FromTag(bytes.u16(entry + 8));
+    if (*tag != kOrientationTag) continue;
+    if (const auto orientation = OrientationNumbered(EntryValue(bytes, entry))) return orientation;
   }
   return std::nullopt;
 }
@@ -75,12 +94,20 @@ std::optional<JpegSegment> JpegSegments::next() {
 
 bool BeginsLikeJpeg(std::string_view head) { return head.substr(0, 3) == "\xFF\xD8\xFF"; }
 
-base::Orientation ReadExifOrientation(std::string_view jpegHead) {
-  if (!BeginsLikeJpeg(jpegHead)) return base::Orientation::upright;
-  JpegSegments segments(jpegHead);
+bool BeginsLikeTiff(std::string_view head) {
+  return head.starts_with(std::string_view("II\x2A\0", 4)) ||
+         head.starts_with(std::string_view("MM\0\x2A", 4));
+}
+
+base::Orientation ReadExifOrientation(std::string_view head) {
+  if (BeginsLikeTiff(head)) return OrientationOfTiff(head).value_or(base::Orientation::upright);
+  if (!BeginsLikeJpeg(head)) return base::Orientation::upright;
+  JpegSegments segments(head);
   while (const auto segment = segments.next()) {
     if (segment->marker != kApp1 || !segment->content.starts_with(kExifName)) continue;
-    return OrientationOfTiff(segment->content.substr(kExifName.size())).value_or(base::Orientation::upright);
+    // A block that says nothing of use does not hide a later one that does.
+    const auto orientation = OrientationOfTiff(segment->content.substr(kExifName.size()));
+    if (orientation) return *orientation;
   }
   return base::Orientation::upright;
 }

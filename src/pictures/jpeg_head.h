@@ -36,8 +36,11 @@ class JpegSegments {
 // True when the bytes begin as a JPEG file does.
 bool BeginsLikeJpeg(std::string_view head);
 
-// From the file's first bytes; 256 KiB hold every Exif block, which is at most 64 KiB and stands near the
-// beginning. Upright when there is none, or none that can be understood.
-base::Orientation ReadExifOrientation(std::string_view jpegHead);
+// True when the bytes begin as a TIFF file does.
+bool BeginsLikeTiff(std::string_view head);
+
+// From the first bytes of a JPEG or a TIFF file; 256 KiB hold every Exif block, which is at most 64 KiB and
+// stands near the beginning. Upright when there is none, or none that can be understood.
+base::Orientation ReadExifOrientation(std::string_view head);
 
 }  // namespace pictures

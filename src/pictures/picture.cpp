@@ -1,5 +1,6 @@
 #include "pictures/picture.h"
 
+#include <new>
 #include <utility>
 
 #include "base/resample.h"
@@ -16,7 +17,11 @@ class MemoryPicture final : public Picture {
 
   base::SharedBitmap drawnAt(base::PixelSize size) const override {
     if (size == bitmap_->size()) return bitmap_;
-    return std::make_shared<base::Bitmap>(base::Resample(*bitmap_, size));
+    try {
+      return std::make_shared<base::Bitmap>(base::Resample(*bitmap_, size));
+    } catch (const std::bad_alloc&) {
+      return nullptr;  // too large for this machine at this moment
+    }
   }
 
  private:

@@ -27,6 +27,9 @@ struct PictureHeader {
 // Decided by what the file holds, whatever its name says. Nothing when it is no picture of a known kind.
 std::optional<PictureHeader> ReadPictureHeader(std::string_view head);
 
+// For each pixel of a kind that only the machine's decoder knows: four channels of 16 bits.
+constexpr int kUnknownBytesPerPixel = 8;
+
 // Bytes that a decoder may hold at once: the largest cameras' pictures fit.
 constexpr std::int64_t kMostDecodingBytes = std::int64_t{1} << 30;
 

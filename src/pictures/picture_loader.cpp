@@ -19,33 +19,42 @@ constexpr std::size_t kLongHeadBytes = 16 << 20;  // where profiles and thumbnai
 
 struct CheckedHead {
   std::string bytes;
-  PictureHeader header;
+  std::optional<PictureHeader> header;  // nothing for a kind that only the machine's decoder may know
   bool isWholeFile = false;
+
+  bool isUnknown() const { return !header.has_value(); }
+  bool isGif() const { return header && header->kind == PictureKind::Gif; }
+  int bytesPerPixel() const { return header ? header->bytesPerPixel : kUnknownBytesPerPixel; }
 };
 
 std::optional<CheckedHead> ReadHead(os::FileHead& heads, const std::string& path, std::size_t limit) {
   std::optional<std::string> bytes = heads.readHead(path, limit);
-  if (!bytes) return std::nullopt;
+  if (!bytes || bytes->empty()) return std::nullopt;
   const auto header = ReadPictureHeader(*bytes);
-  if (!header) return std::nullopt;
   const bool isWholeFile = bytes->size() < limit;
-  return CheckedHead{std::move(*bytes), *header, isWholeFile};
+  return CheckedHead{std::move(*bytes), header, isWholeFile};
 }
 
-// The head of a picture that claims no more than is allowed; nothing for anything else.
+// The size, or in a TIFF file the orientation, may stand further on.
+bool AsksForLongerHead(const CheckedHead& head) {
+  if (head.isWholeFile) return false;
+  return head.isUnknown() ? BeginsLikeTiff(head.bytes) : !head.header->size;
+}
+
+// The head of a picture that claims no more than is allowed, or of something that the machine's decoder may
+// know; nothing for anything else.
 std::optional<CheckedHead> CheckHead(os::FileHead& heads, const std::string& path) {
   auto head = ReadHead(heads, path, kHeadBytes);
-  if (head && !head->header.size && !head->isWholeFile) head = ReadHead(heads, path, kLongHeadBytes);
-  if (!head || !head->header.size || !IsDecodable(*head->header.size, head->header.bytesPerPixel)) {
-    return std::nullopt;
-  }
-  return head;
+  if (head && AsksForLongerHead(*head)) head = ReadHead(heads, path, kLongHeadBytes);
+  if (!head || head->isUnknown()) return head;
+  const auto& size = head->header->size;
+  return size && IsDecodable(*size, head->bytesPerPixel()) ? head : std::nullopt;
 }
 
 std::unique_ptr<os::PictureSource> OpenGif(os::FileHead& heads, const std::string& path,
                                            const CheckedHead& head) {
   std::optional<std::string> rest;
-  if (!head.isWholeFile) rest = heads.readHead(path, GifBytesNeeded(*head.header.size, head.bytes.size()));
+  if (!head.isWholeFile) rest = heads.readHead(path, GifBytesNeeded(*head.header->size, head.bytes.size()));
   auto frame = GifFirstFrame::decode(rest ? *rest : head.bytes);
   return frame ? std::make_unique<GifPictureSource>(std::move(*frame)) : nullptr;
 }
@@ -62,9 +71,8 @@ struct OpenedPicture {
 OpenedPicture OpenPicture(os::FileHead& heads, os::PictureDecoder& decoder, const std::string& path) {
   const auto head = CheckHead(heads, path);
   if (!head) return {};
-  const bool isGif = head->header.kind == PictureKind::Gif;
-  auto source = isGif ? OpenGif(heads, path, *head) : decoder.open(path);
-  if (!source || !IsDecodable(source->size(), head->header.bytesPerPixel)) return {};
+  auto source = head->isGif() ? OpenGif(heads, path, *head) : decoder.open(path);
+  if (!source || !IsDecodable(source->size(), head->bytesPerPixel())) return {};
   return {std::move(source), ReadExifOrientation(head->bytes)};
 }
 

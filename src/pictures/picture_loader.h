@@ -1,4 +1,4 @@
-// Opens picture files by what they hold: BMP, GIF, JPEG, and what else the machine's decoder reads.
+// Opens picture files by what they hold: BMP, GIF, JPEG, PNG, and whatever else the machine's decoder reads.
 #pragma once
 
 #include "os/file_head.h"

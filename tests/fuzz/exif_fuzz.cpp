@@ -14,8 +14,9 @@ void CheckOrientation(std::string_view head) {
   const auto orientation = pictures::ReadExifOrientation(head);
   fuzz::Require(orientation >= base::Orientation::upright && orientation <= base::Orientation::turnedRight,
                 "an orientation is one of eight");
-  fuzz::Require(pictures::BeginsLikeJpeg(head) || orientation == base::Orientation::upright,
-                "what is no JPEG file stands upright");
+  const bool mayBeTurned = pictures::BeginsLikeJpeg(head) || pictures::BeginsLikeTiff(head);
+  fuzz::Require(mayBeTurned || orientation == base::Orientation::upright,
+                "what is neither a JPEG nor a TIFF file stands upright");
 }
 
 void CheckSegments(std::string_view head) {

@@ -181,9 +181,62 @@ TEST_F(PictureLoader, WhatIsNoPictureIsNull) {
   EXPECT_FALSE(loader.open("missing.jpg"));
   heads.content["empty.jpg"] = "";
   EXPECT_FALSE(loader.open("empty.jpg"));
+  EXPECT_TRUE(decoder.opened.empty());
   heads.content["text.jpg"] = "no picture at all";
   EXPECT_FALSE(loader.open("text.jpg"));
-  EXPECT_TRUE(decoder.opened.empty());
+}
+
+std::string TiffHead(int orientation) {
+  std::string tiff("MM\0\x2A\0\0\0\x08\0\1\1\x12\0\3\0\0\0\1\0", 19);
+  return tiff + static_cast<char>(orientation) + std::string(6, '\0');
+}
+
+TEST_F(PictureLoader, AFileOfAKindThatOnlyTheDecoderKnowsIsItsBusiness) {
+  heads.content["a.heic"] = "some format of a later day";
+  decoder.pictures["a.heic"].pixels = Gradient({40, 30});
+  const auto picture = loader.open("a.heic");
+  ASSERT_TRUE(picture);
+  EXPECT_EQ(*picture->drawnAt({40, 30}), Gradient({40, 30}));
+  EXPECT_EQ(decoder.opened, std::vector<std::string>{"a.heic"});
+}
+
+TEST_F(PictureLoader, AnUnknownKindIsBoundedByTheSizeThatTheDecoderFinds) {
+  heads.content["long.tif"] = TiffHead(1);
+  decoder.pictures["long.tif"].pixels = base::Bitmap({base::AreaAverage::kLongestSide + 1, 1});
+  heads.content["most.tif"] = TiffHead(1);
+  decoder.pictures["most.tif"].pixels = base::Bitmap({base::AreaAverage::kLongestSide, 1});
+  EXPECT_FALSE(loader.open("long.tif"));
+  EXPECT_TRUE(loader.open("most.tif"));
+}
+
+TEST_F(PictureLoader, ATiffFileIsTurnedUprightToo) {
+  heads.content["a.tif"] = TiffHead(6);
+  decoder.pictures["a.tif"].pixels = Gradient({40, 30});
+  const auto picture = loader.open("a.tif");
+  ASSERT_TRUE(picture);
+  EXPECT_EQ(picture->size(), (base::PixelSize{30, 40}));
+}
+
+TEST_F(PictureLoader, TellsOfAFileThatItCannotOpen) {
+  std::vector<std::string> told;
+  loader.onFailure = [&](const std::string& path, PictureFailure failure) {
+    told.push_back(path + (failure == PictureFailure::NotOpened ? ": not opened" : ": not drawn"));
+  };
+  loader.open("missing.jpg");
+  EXPECT_EQ(told, std::vector<std::string>{"missing.jpg: not opened"});
+}
+
+TEST_F(PictureLoader, TellsOfAPictureThatItCannotDraw) {
+  addJpeg("a.jpg", Gradient({4, 3})).brokenFromRow = 1;
+  std::vector<std::string> told;
+  loader.onFailure = [&](const std::string& path, PictureFailure failure) {
+    told.push_back(path + (failure == PictureFailure::NotOpened ? ": not opened" : ": not drawn"));
+  };
+  const auto picture = loader.open("a.jpg");
+  ASSERT_TRUE(picture);
+  EXPECT_TRUE(told.empty());
+  EXPECT_FALSE(picture->drawnAt({4, 3}));
+  EXPECT_EQ(told, std::vector<std::string>{"a.jpg: not drawn"});
 }
 
 TEST_F(PictureLoader, APictureThatTheDecoderRefusesIsNull) {

@@ -219,6 +219,21 @@ TEST_F(PictureLoaderWin, PathsOverTwoHundredAndSixtyCharactersAreOpened) {
   EXPECT_TRUE(opened->drawnAt({16, 16}));
 }
 
+TEST_F(PictureLoaderWin, AFormatThatOnlyTheSystemKnowsIsShown) {
+  const base::Bitmap picture = FourFields({64, 48});
+  const std::string bytes = support::Encode(picture, support::EncodedAs::tiff);
+  ASSERT_FALSE(bytes.empty());
+  const auto opened = loader.open(put("a.tif", bytes));
+  ASSERT_TRUE(opened);
+  const auto drawn = opened->drawnAt({64, 48});
+  ASSERT_TRUE(drawn);
+  EXPECT_EQ(*drawn, picture);
+  for (std::size_t length = 0; length < bytes.size(); length += 7) {
+    const auto cut = loader.open(put("cut.tif", bytes.substr(0, length)));
+    if (cut) cut->drawnAt({20, 15});
+  }
+}
+
 TEST_F(PictureLoaderWin, WhatIsNoPictureFileIsNull) {
   EXPECT_FALSE(loader.open(""));
   EXPECT_FALSE(loader.open(folder.path()));

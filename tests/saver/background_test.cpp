@@ -117,7 +117,7 @@ TEST(CenteredImage, LargerThanTheScreenShowsItsMiddle) {
 TEST(StretchedImage, CoversTheWholeScreen) {
   support::FakePictures files;
   files.add("sky.bmp", {3, 2}, Rgb(1, 2, 3));
-  const auto picture = pictures::MakePicture(files.open("sky.bmp"));
+  const auto picture = files.open("sky.bmp");
   const auto composed = ComposeImage(*picture, ImageLayout::Stretched, {50, 40}, 15, kGround);
   EXPECT_EQ(composed, Bitmap({50, 40}, OpaquePixel(Rgb(1, 2, 3))));
   EXPECT_EQ(files.drawnSizes, (std::vector<base::PixelSize>{{50, 40}}));
@@ -141,7 +141,7 @@ TEST(TiledImage, LargerThanTheScreenIsOneTileCutAtTheEdges) {
 TEST(CustomImage, ThatCannotBeDecodedComposesNothing) {
   support::FakePictures files;
   files.addBroken("bad.jpg", {30, 20});
-  const auto picture = pictures::MakePicture(files.open("bad.jpg"));
+  const auto picture = files.open("bad.jpg");
   for (const ImageLayout layout : {ImageLayout::Centered, ImageLayout::Stretched, ImageLayout::Tiled}) {
     EXPECT_EQ(ComposeImage(*picture, layout, {50, 40}, 15, kGround), std::nullopt);
   }
