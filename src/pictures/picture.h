@@ -33,6 +33,7 @@ SharedPicture MakePicture(base::SharedBitmap bitmap);
 enum class PictureFailure {
   NotOpened,  // missing, in use, or of no kind that can be read
   NotDrawn,   // broken, changed since it was opened, or too large to decode
+  Late,       // not there in time, and may come later
 };
 
 class PictureLoader {

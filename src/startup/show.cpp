@@ -139,12 +139,18 @@ void Show::decideOnLog() {
 }
 
 void Show::notePicture(const std::string& path, pictures::PictureFailure failure) {
-  if (failure == pictures::PictureFailure::NotDrawn) {
-    log_.note("picture: broken, changed, or too large to decode: " + path);
-  } else {
-    log_.note((services_.files.exists(path) ? "picture: in use, or of no kind that can be read: "
-                                            : "picture: no such file: ") +
-              path);
+  switch (failure) {
+    case pictures::PictureFailure::NotOpened:
+      log_.note((services_.files.exists(path) ? "picture: in use, or of no kind that can be read: "
+                                              : "picture: no such file: ") +
+                path);
+      break;
+    case pictures::PictureFailure::NotDrawn:
+      log_.note("picture: broken, changed, or too large to decode: " + path);
+      break;
+    case pictures::PictureFailure::Late:
+      log_.note("picture: not there in time: " + path);
+      break;
   }
 }
 

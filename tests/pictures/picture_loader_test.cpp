@@ -4,6 +4,7 @@
 
 #include <numeric>
 
+#include "base/area_average.h"
 #include "base/resample.h"
 #include "support/fake_picture_decoder.h"
 #include "support/gif_builder.h"
