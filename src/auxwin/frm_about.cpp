@@ -22,7 +22,7 @@ constexpr std::array<std::string_view, 4> kAbout = {
 
 }  // namespace
 
-frmAbout::frmAbout(forms::SharedPicture icon, os::Shell& shell, forms::WindowSystem& windows)
+frmAbout::frmAbout(pictures::SharedPicture icon, os::Shell& shell, forms::WindowSystem& windows)
     : Form("frmAbout"), shell_(shell), windows_(windows) {
   layOut();
   picIcon.setPicture(std::move(icon));

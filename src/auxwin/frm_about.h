@@ -27,7 +27,7 @@ inline auto OpenWithShell(os::Shell& shell, const std::string& target) { return 
 class frmAbout : public forms::Form {
  public:
   // `icon` is the product's; null where there is none.
-  frmAbout(forms::SharedPicture icon, os::Shell& shell, forms::WindowSystem& windows);
+  frmAbout(pictures::SharedPicture icon, os::Shell& shell, forms::WindowSystem& windows);
 
   forms::Image picIcon{*this, "picIcon"};
   forms::Label lblTitle{*this, "lblTitle"};

@@ -56,12 +56,12 @@ void ImageView::Form_Load() {
 
 bool ImageView::loadPicture(const std::string& path) {
   if (path.empty()) return true;
-  const std::shared_ptr<const pictures::PictureFile> file = loader_.open(path);
+  const pictures::SharedPicture file = loader_.open(path);
   if (!file) return false;
   // Decoded once: the window is painted anew whenever something has covered it.
-  base::SharedBitmap pixels = forms::MakePicture(file)->drawnAt(file->size());
+  base::SharedBitmap pixels = file->drawnAt(file->size());
   if (!pixels) return false;
-  Picture1.setPicture(forms::MakePicture(std::move(pixels)));
+  Picture1.setPicture(pictures::MakePicture(std::move(pixels)));
   return true;
 }
 

@@ -9,7 +9,7 @@
 #include "forms/lists.h"
 #include "forms/picture_boxes.h"
 #include "forms/window_system.h"
-#include "pictures/pictures.h"
+#include "pictures/picture.h"
 
 namespace auxwin {
 

@@ -1,7 +1,7 @@
 #include "dialog/background_image.h"
 
 #include "dialog/open_picture_file.h"
-#include "forms/picture.h"
+#include "pictures/picture.h"
 
 namespace dialog {
 
@@ -26,8 +26,8 @@ void BackgroundImage::addBackImg_Click() {
   form_.record.backgroundImage = *path;
   form_.backgroundImageFile.setText(*path);
   // A picture that cannot be loaded is reported when the dialog is opened again.
-  const std::shared_ptr<const pictures::PictureFile> file = services_.pictures.open(*path);
-  form_.Image1.setPicture(file ? forms::MakePicture(file) : nullptr);
+  const pictures::SharedPicture file = services_.pictures.open(*path);
+  form_.Image1.setPicture(file);
 }
 
 void BackgroundImage::removeBackImg_Click() {

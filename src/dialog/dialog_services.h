@@ -5,7 +5,7 @@
 #include "forms/window_system.h"
 #include "os/ansi_code_page.h"
 #include "os/files.h"
-#include "pictures/pictures.h"
+#include "pictures/picture.h"
 
 namespace dialog {
 

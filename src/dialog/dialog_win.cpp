@@ -13,11 +13,11 @@ namespace {
 
 constexpr int kIconSide = 48;  // pixels at 96 dots per inch
 
-forms::SharedPicture ProductIcon() {
+pictures::SharedPicture ProductIcon() {
   const int dpi = forms::WindowDpi(nullptr);
   std::optional<base::Bitmap> icon =
       os::ProgramIcon(MulDiv(kIconSide, dpi, USER_DEFAULT_SCREEN_DPI), GetSysColor(COLOR_BTNFACE));
-  return icon ? forms::MakePicture(std::make_shared<base::Bitmap>(std::move(*icon))) : nullptr;
+  return icon ? pictures::MakePicture(std::make_shared<base::Bitmap>(std::move(*icon))) : nullptr;
 }
 
 }  // namespace

@@ -11,7 +11,7 @@
 #include "os/event_loop_win.h"
 #include "os/files.h"
 #include "os/shell.h"
-#include "pictures/pictures.h"
+#include "pictures/picture.h"
 
 namespace dialog {
 

@@ -9,7 +9,7 @@
 #include "dialog/form2.h"
 #include "dialog/load_table.h"
 #include "dialog/messages.h"
-#include "forms/picture.h"
+#include "pictures/picture.h"
 #include "settings/keys.h"
 #include "settings/open_settings.h"
 #include "settings/read_ini_value.h"
@@ -86,14 +86,14 @@ void Form2::LoadBackgroundImagePreview(const settings::IniDocument& document) {
   if (record.backgroundImage.empty()) return;
   backgroundImageFile.setText(record.backgroundImage);
   // Decoded once, at the size at which it is shown: a large photo stays cheap and a broken one is found now.
-  const std::shared_ptr<const pictures::PictureFile> file = services_.pictures.open(record.backgroundImage);
-  std::optional<base::Bitmap> drawn;
-  if (file) drawn = file->draw(forms::FitInside(file->size(), Image1.pixelRect().size()));
+  const pictures::SharedPicture file = services_.pictures.open(record.backgroundImage);
+  base::SharedBitmap drawn;
+  if (file) drawn = file->drawnAt(forms::FitInside(file->size(), Image1.pixelRect().size()));
   if (!drawn) {
     services_.dialogs.messageBox(kCouldNotLoadBackground, forms::kExclamation);
     return;
   }
-  Image1.setPicture(forms::MakePicture(std::make_shared<base::Bitmap>(std::move(*drawn))));
+  Image1.setPicture(pictures::MakePicture(std::move(drawn)));
 }
 
 }  // namespace dialog

@@ -3,7 +3,7 @@
 #include "base/rounding.h"
 #include "dialog/form2.h"
 #include "dialog/gradient.h"
-#include "forms/picture.h"
+#include "pictures/picture.h"
 
 namespace dialog {
 

@@ -57,16 +57,15 @@ void PictureList::tellCannotLoad() {
 
 bool PictureList::ShowPreview(const std::string& path) {
   if (form_.photo1.picture() && previewed_ == path) return true;
-  const std::shared_ptr<const pictures::PictureFile> file =
-      path.empty() ? nullptr : services_.pictures.open(path);
-  form_.photo.setPicture(file ? forms::MakePicture(file) : nullptr);
+  const pictures::SharedPicture file = path.empty() ? nullptr : services_.pictures.open(path);
+  form_.photo.setPicture(file);
   base::SharedBitmap thumbnail =
       file ? DrawThumbnail(*form_.photo.picture(), form_.photo1.scaleSize()) : nullptr;
   if (!thumbnail) {
     clearPreview();
     return path.empty();
   }
-  form_.photo1.setPicture(forms::MakePicture(std::move(thumbnail)));
+  form_.photo1.setPicture(pictures::MakePicture(std::move(thumbnail)));
   previewed_ = path;
   return true;
 }

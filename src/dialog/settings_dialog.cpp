@@ -9,7 +9,7 @@
 namespace dialog {
 
 SettingsDialog::SettingsDialog(const DialogServices& services, os::EventLoop& loop, os::Shell& shell,
-                               const std::string& programFolder, forms::SharedPicture icon)
+                               const std::string& programFolder, pictures::SharedPicture icon)
     : form(services, programFolder),
       pictures(form, loop),
       background(form),

@@ -18,7 +18,7 @@ class SettingsDialog {
  public:
   // All arguments outlive the dialog. `icon` is the product's; null where there is none.
   SettingsDialog(const DialogServices& services, os::EventLoop& loop, os::Shell& shell,
-                 const std::string& programFolder, forms::SharedPicture icon);
+                 const std::string& programFolder, pictures::SharedPicture icon);
   ~SettingsDialog();
   SettingsDialog(const SettingsDialog&) = delete;
   SettingsDialog& operator=(const SettingsDialog&) = delete;

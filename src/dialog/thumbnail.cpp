@@ -6,7 +6,7 @@
 
 namespace dialog {
 
-base::SharedBitmap DrawThumbnail(const forms::Picture& picture, base::PixelSize box) {
+base::SharedBitmap DrawThumbnail(const pictures::Picture& picture, base::PixelSize box) {
   const base::PixelSize size = forms::FitInside(picture.size(), box);
   const base::SharedBitmap drawn = picture.drawnAt(size);
   if (!drawn) return nullptr;

@@ -26,7 +26,7 @@ float PictureBox::scaleWidth() const { return static_cast<float>(scaleSize().wid
 
 float PictureBox::scaleHeight() const { return static_cast<float>(scaleSize().height); }
 
-void PictureBox::setPicture(SharedPicture picture) {
+void PictureBox::setPicture(pictures::SharedPicture picture) {
   picture_ = std::move(picture);
   dropDrawing();
   if (autoSize_ && picture_) {
@@ -57,7 +57,7 @@ void PictureBox::tellDrawn(const base::PixelRect& area) {
   if (host()) host()->controlDrawn(*this, {&area, 1});
 }
 
-void PictureBox::paintPicture(const Picture& source, base::PixelSize size) {
+void PictureBox::paintPicture(const pictures::Picture& source, base::PixelSize size) {
   base::SharedBitmap drawn = source.drawnAt(size);
   if (!drawn) return;
   drawPainted();

@@ -9,7 +9,7 @@
 #include "base/geometry.h"
 #include "base/region.h"
 #include "forms/control.h"
-#include "forms/picture.h"
+#include "pictures/picture.h"
 
 namespace forms {
 
@@ -28,8 +28,8 @@ class PictureBox : public Control {
   float scaleHeight() const;
 
   // The assigned picture, or null. Assigning drops what was drawn; with autoSize the box takes its size.
-  const SharedPicture& picture() const { return picture_; }
-  void setPicture(SharedPicture picture);
+  const pictures::SharedPicture& picture() const { return picture_; }
+  void setPicture(pictures::SharedPicture picture);
 
   bool autoSize() const { return autoSize_; }
   void setAutoSize(bool autoSize) { autoSize_ = autoSize; }
@@ -38,7 +38,7 @@ class PictureBox : public Control {
   void cls();
 
   // Draws the whole of a picture, stretched to `size` pixels at (0, 0).
-  void paintPicture(const Picture& source, base::PixelSize size);
+  void paintPicture(const pictures::Picture& source, base::PixelSize size);
 
   // Copies the pixels in `areas` of `source` to the same places of the drawing surface; cut to both. Shown at
   // once. The source is held until something else is drawn or assigned.
@@ -64,7 +64,7 @@ class PictureBox : public Control {
   void drawPainted() const;
   base::Bitmap& writableDrawing() const;
 
-  SharedPicture picture_;
+  pictures::SharedPicture picture_;
   bool autoSize_ = false;
   mutable base::SharedBitmap drawing_;              // shared with whoever asked for the image
   mutable std::shared_ptr<base::Bitmap> writable_;  // the same bitmap while nobody else may hold it
@@ -86,15 +86,15 @@ class Image : public Control {
   Image(Form& form, std::string name) : Control(form, std::move(name)) {}
   ControlKind kind() const override { return ControlKind::Image; }
 
-  const SharedPicture& picture() const { return picture_; }
-  void setPicture(SharedPicture picture) {
+  const pictures::SharedPicture& picture() const { return picture_; }
+  void setPicture(pictures::SharedPicture picture) {
     if (picture_ == picture) return;
     picture_ = std::move(picture);
     changed(Change::Picture);
   }
 
  private:
-  SharedPicture picture_;
+  pictures::SharedPicture picture_;
 };
 
 }  // namespace forms

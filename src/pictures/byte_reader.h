@@ -8,7 +8,7 @@
 
 namespace pictures {
 
-enum class ByteOrder { littleEndian, bigEndian };
+enum class ByteOrder { LittleEndian, BigEndian };
 
 class ByteReader {
  public:
@@ -37,7 +37,7 @@ class ByteReader {
     if (offset > bytes_.size() || bytes_.size() - offset < width) return std::nullopt;
     std::uint32_t value = 0;
     for (std::size_t i = 0; i < width; ++i) {
-      const std::size_t at = order_ == ByteOrder::bigEndian ? i : width - 1 - i;
+      const std::size_t at = order_ == ByteOrder::BigEndian ? i : width - 1 - i;
       value = value << 8 | static_cast<std::uint8_t>(bytes_[offset + at]);
     }
     return value;

@@ -6,7 +6,7 @@
 
 #include "pictures/byte_reader.h"
 #include "pictures/gif_first_frame.h"
-#include "pictures/jpeg_segments.h"
+#include "pictures/jpeg_head.h"
 
 namespace pictures {
 
@@ -25,7 +25,7 @@ std::optional<base::PixelSize> Sides(std::optional<std::uint32_t> width,
 
 // A height below 0 says that the top row comes first.
 std::optional<base::PixelSize> BitmapSize(std::string_view head) {
-  const ByteReader bytes(head, ByteOrder::littleEndian);
+  const ByteReader bytes(head, ByteOrder::LittleEndian);
   constexpr std::size_t kInfo = 14;
   const auto infoSize = bytes.u32(kInfo);
   if (!infoSize) return std::nullopt;
@@ -53,12 +53,12 @@ bool ComesInRows(std::uint8_t process, int components, const std::optional<JpegS
 // the rows themselves.
 PictureHeader JpegHeader(std::string_view head) {
   constexpr int kGatheredBytes = 2 + 1;
-  PictureHeader header{PictureKind::jpeg, std::nullopt};
+  PictureHeader header{PictureKind::Jpeg, std::nullopt};
   JpegSegments segments(head);
   auto frame = segments.next();
   while (frame && !IsStartOfFrame(frame->marker)) frame = segments.next();
   if (!frame) return header;
-  const ByteReader numbers(frame->content, ByteOrder::bigEndian);
+  const ByteReader numbers(frame->content, ByteOrder::BigEndian);
   header.size = Sides(numbers.u16(3), numbers.u16(1));
   auto scan = segments.next();
   while (scan && scan->marker != kStartOfScan) scan = segments.next();
@@ -72,8 +72,8 @@ PictureHeader JpegHeader(std::string_view head) {
 // Channels of up to 16 bits each; interlaced pictures are decoded as a whole.
 PictureHeader PngHeader(std::string_view head) {
   constexpr int kDeepPixel = 8;
-  PictureHeader header{PictureKind::png, std::nullopt};
-  const ByteReader bytes(head, ByteOrder::bigEndian);
+  PictureHeader header{PictureKind::Png, std::nullopt};
+  const ByteReader bytes(head, ByteOrder::BigEndian);
   if (bytes.part(12, 4) != "IHDR") return header;
   header.size = Sides(bytes.u32(16), bytes.u32(20));
   if (bytes.u8(24).value_or(0) > 8) header.bytesPerPixel = kDeepPixel;
@@ -83,8 +83,8 @@ PictureHeader PngHeader(std::string_view head) {
 }  // namespace
 
 std::optional<PictureHeader> ReadPictureHeader(std::string_view head) {
-  if (head.starts_with("BM")) return PictureHeader{PictureKind::bitmap, BitmapSize(head)};
-  if (BeginsLikeGif(head)) return PictureHeader{PictureKind::gif, ReadGifSize(head), kGifBytesPerPixel};
+  if (head.starts_with("BM")) return PictureHeader{PictureKind::Bitmap, BitmapSize(head)};
+  if (BeginsLikeGif(head)) return PictureHeader{PictureKind::Gif, ReadGifSize(head), kGifBytesPerPixel};
   if (BeginsLikeJpeg(head)) return JpegHeader(head);
   if (head.starts_with(kPngSignature)) return PngHeader(head);
   return std::nullopt;

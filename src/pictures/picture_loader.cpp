@@ -6,10 +6,9 @@
 
 #include "base/orientation.h"
 #include "pictures/draw_source.h"
-#include "pictures/exif.h"
-#include "pictures/gif_picture_source.h"
+#include "pictures/gif_first_frame.h"
+#include "pictures/jpeg_head.h"
 #include "pictures/picture_header.h"
-#include "pictures/picture_limits.h"
 
 namespace pictures {
 
@@ -20,33 +19,42 @@ constexpr std::size_t kLongHeadBytes = 16 << 20;  // where profiles and thumbnai
 
 struct CheckedHead {
   std::string bytes;
-  PictureHeader header;
+  std::optional<PictureHeader> header;  // nothing for a kind that only the machine's decoder may know
   bool isWholeFile = false;
+
+  bool isUnknown() const { return !header.has_value(); }
+  bool isGif() const { return header && header->kind == PictureKind::Gif; }
+  int bytesPerPixel() const { return header ? header->bytesPerPixel : kUnknownBytesPerPixel; }
 };
 
 std::optional<CheckedHead> ReadHead(os::Files& heads, const std::string& path, std::size_t limit) {
   std::optional<std::string> bytes = heads.readHead(path, limit);
-  if (!bytes) return std::nullopt;
+  if (!bytes || bytes->empty()) return std::nullopt;
   const auto header = ReadPictureHeader(*bytes);
-  if (!header) return std::nullopt;
   const bool isWholeFile = bytes->size() < limit;
-  return CheckedHead{std::move(*bytes), *header, isWholeFile};
+  return CheckedHead{std::move(*bytes), header, isWholeFile};
 }
 
-// The head of a picture whose claims have been found bearable; nothing for anything else.
+// The size, or in a TIFF file the orientation, may stand further on.
+bool AsksForLongerHead(const CheckedHead& head) {
+  if (head.isWholeFile) return false;
+  return head.isUnknown() ? BeginsLikeTiff(head.bytes) : !head.header->size;
+}
+
+// The head of a picture that claims no more than is allowed, or of something that the machine's decoder may
+// know; nothing for anything else.
 std::optional<CheckedHead> CheckHead(os::Files& heads, const std::string& path) {
   auto head = ReadHead(heads, path, kHeadBytes);
-  if (head && !head->header.size && !head->isWholeFile) head = ReadHead(heads, path, kLongHeadBytes);
-  if (!head || !head->header.size || !IsDecodable(*head->header.size, head->header.bytesPerPixel)) {
-    return std::nullopt;
-  }
-  return head;
+  if (head && AsksForLongerHead(*head)) head = ReadHead(heads, path, kLongHeadBytes);
+  if (!head || head->isUnknown()) return head;
+  const auto& size = head->header->size;
+  return size && IsDecodable(*size, head->bytesPerPixel()) ? head : std::nullopt;
 }
 
 std::unique_ptr<os::PictureSource> OpenGif(os::Files& heads, const std::string& path,
                                            const CheckedHead& head) {
   std::optional<std::string> rest;
-  if (!head.isWholeFile) rest = heads.readHead(path, GifBytesNeeded(*head.header.size, head.bytes.size()));
+  if (!head.isWholeFile) rest = heads.readHead(path, GifBytesNeeded(*head.header->size, head.bytes.size()));
   auto frame = GifFirstFrame::decode(rest ? *rest : head.bytes);
   return frame ? std::make_unique<GifPictureSource>(std::move(*frame)) : nullptr;
 }
@@ -63,32 +71,41 @@ struct OpenedPicture {
 OpenedPicture OpenPicture(os::Files& heads, os::PictureDecoder& decoder, const std::string& path) {
   const auto head = CheckHead(heads, path);
   if (!head) return {};
-  const bool isGif = head->header.kind == PictureKind::gif;
-  auto source = isGif ? OpenGif(heads, path, *head) : decoder.open(path);
-  if (!source || !IsDecodable(source->size(), head->header.bytesPerPixel)) return {};
+  auto source = head->isGif() ? OpenGif(heads, path, *head) : decoder.open(path);
+  if (!source || !IsDecodable(source->size(), head->bytesPerPixel())) return {};
   return {std::move(source), ReadExifOrientation(head->bytes)};
 }
 
-class LoadedPicture final : public PictureFile {
+class FilePicture final : public Picture {
  public:
   using Reopen = std::function<OpenedPicture()>;
 
-  LoadedPicture(OpenedPicture opened, Reopen reopen)
-      : size_(opened.uprightSize()), reopen_(std::move(reopen)), opened_(std::move(opened)) {}
+  FilePicture(OpenedPicture opened, Reopen reopen, std::function<void()> tellFailure)
+      : size_(opened.uprightSize()),
+        reopen_(std::move(reopen)),
+        tellFailure_(std::move(tellFailure)),
+        opened_(std::move(opened)) {}
 
   base::PixelSize size() const override { return size_; }
 
-  std::optional<base::Bitmap> draw(base::PixelSize drawn) const override {
-    if (drawn.isEmpty()) return base::Bitmap();
-    if (PixelCount(drawn) > kMostDrawnPixels) return std::nullopt;
-    try {
-      return decode(drawn);
-    } catch (const std::bad_alloc&) {
-      return std::nullopt;  // too large for this machine at this moment
-    }
+  base::SharedBitmap drawnAt(base::PixelSize drawn) const override {
+    base::SharedBitmap pixels = draw(drawn);
+    if (!pixels) tellFailure_();
+    return pixels;
   }
 
  private:
+  base::SharedBitmap draw(base::PixelSize drawn) const {
+    if (drawn.isEmpty()) return std::make_shared<base::Bitmap>();
+    if (PixelCount(drawn) > kMostDrawnPixels) return nullptr;
+    try {
+      std::optional<base::Bitmap> pixels = decode(drawn);
+      return pixels ? std::make_shared<base::Bitmap>(std::move(*pixels)) : nullptr;
+    } catch (const std::bad_alloc&) {
+      return nullptr;  // too large for this machine at this moment
+    }
+  }
+
   std::optional<base::Bitmap> decode(base::PixelSize drawn) const {
     const OpenedPicture picture = opened_.source ? std::move(opened_) : reopen_();
     if (!picture.source || picture.uprightSize() != size_) return std::nullopt;  // the file has changed
@@ -99,6 +116,7 @@ class LoadedPicture final : public PictureFile {
 
   base::PixelSize size_;
   Reopen reopen_;
+  std::function<void()> tellFailure_;
 
   // What opening has left, given up at the first drawing: a file seldom is drawn twice.
   mutable OpenedPicture opened_;
@@ -106,15 +124,23 @@ class LoadedPicture final : public PictureFile {
 
 }  // namespace
 
-std::shared_ptr<const PictureFile> FilePictureLoader::open(const std::string& path) {
+SharedPicture FilePictureLoader::open(const std::string& path) {
   try {
     OpenedPicture opened = OpenPicture(heads_, decoder_, path);
-    if (!opened.source) return nullptr;
-    return std::make_shared<LoadedPicture>(std::move(opened),
-                                           [this, path]() { return OpenPicture(heads_, decoder_, path); });
+    if (opened.source) {
+      return std::make_shared<FilePicture>(
+          std::move(opened), [this, path] { return OpenPicture(heads_, decoder_, path); },
+          [this, path] { tell(path, PictureFailure::NotDrawn); });
+    }
   } catch (const std::bad_alloc&) {
-    return nullptr;
+    // Too large for this machine at this moment.
   }
+  tell(path, PictureFailure::NotOpened);
+  return nullptr;
+}
+
+void FilePictureLoader::tell(const std::string& path, PictureFailure failure) const {
+  if (onFailure) onFailure(path, failure);
 }
 
 }  // namespace pictures

@@ -52,7 +52,7 @@ base::Bitmap ComposeGradient(base::PixelSize screen, const GradientColor& top) {
   return gradient;
 }
 
-std::optional<base::Bitmap> ComposeImage(const forms::Picture& image, ImageLayout layout,
+std::optional<base::Bitmap> ComposeImage(const pictures::Picture& image, ImageLayout layout,
                                          base::PixelSize screen, int twipsPerPixel, base::Pixel background) {
   const base::PixelSize size = layout == ImageLayout::Stretched ? screen : image.size();
   if (size.isEmpty()) return std::nullopt;

@@ -5,7 +5,7 @@
 
 #include "base/bitmap.h"
 #include "base/geometry.h"
-#include "forms/picture.h"
+#include "pictures/picture.h"
 
 namespace saver {
 
@@ -39,7 +39,7 @@ base::Bitmap ComposeGradient(base::PixelSize screen, const GradientColor& top);
 // The image over a screen of the default background: in the middle at its own size, stretched over the whole
 // screen, or repeated from the top left corner and cut at the edges. The middle is found in twips, its half
 // cut toward zero. Nothing when the image cannot be decoded.
-std::optional<base::Bitmap> ComposeImage(const forms::Picture& image, ImageLayout layout,
+std::optional<base::Bitmap> ComposeImage(const pictures::Picture& image, ImageLayout layout,
                                          base::PixelSize screen, int twipsPerPixel, base::Pixel background);
 
 }  // namespace saver

@@ -20,7 +20,7 @@
 #include "os/files.h"
 #include "os/machine_facts.h"
 #include "os/screen.h"
-#include "pictures/pictures.h"
+#include "pictures/picture.h"
 #include "saver/background.h"
 #include "saver/countdown.h"
 #include "saver/floating.h"

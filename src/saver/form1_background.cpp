@@ -20,7 +20,7 @@ void Form1::DrawBackground() {
       return;
     }
     if (base::SharedBitmap composed = composeBackground(*kind))
-      BgrImage.setPicture(forms::MakePicture(composed));
+      BgrImage.setPicture(pictures::MakePicture(composed));
   } catch (const base::RunTimeError&) {
     return;
   }
@@ -46,10 +46,9 @@ base::SharedBitmap Form1::composeGradient() {
 base::SharedBitmap Form1::composeCustomImage() {
   const std::optional<ImageLayout> layout =
       ImageLayoutNumbered(base::StrictDouble(settings_.record.backgroundDisplay));
-  const std::shared_ptr<const pictures::PictureFile> file =
-      services_.pictures.open(settings_.record.backgroundImage);
+  const pictures::SharedPicture file = services_.pictures.open(settings_.record.backgroundImage);
   if (!layout || !file) return nullptr;
-  PreBgrImage.setPicture(forms::MakePicture(file));
+  PreBgrImage.setPicture(file);
   std::optional<base::Bitmap> composed = ComposeImage(*PreBgrImage.picture(), *layout, screenSize_,
                                                       twipsPerPixel(), base::OpaquePixel(backColor()));
   if (!composed) return nullptr;

@@ -54,8 +54,8 @@ void Form1::RetireOldPicture() {
   // What lies under the old picture is drawn over it, so that it gives way to its background.
   const auto under =
       std::make_shared<base::Bitmap>(services_.stage.backgroundUnder(DisplayingPicture.pixelRect()));
-  IntialPicture.paintPicture(*forms::MakePicture(under), under->size());
-  PictureReduce.setPicture(forms::MakePicture(IntialPicture.image()));
+  IntialPicture.paintPicture(*pictures::MakePicture(under), under->size());
+  PictureReduce.setPicture(pictures::MakePicture(IntialPicture.image()));
   IntialPicture.setPicture(PictureReduce.picture());
   RunTransition();
   if (isOver()) return;

@@ -16,7 +16,7 @@ void Form1::LoadCurrentPicture() {
 void Form1::loadPicture(std::int16_t number) {
   loadReduction_ = 1;
   const auto index = static_cast<std::size_t>(number);
-  std::shared_ptr<const pictures::PictureFile> file;
+  pictures::SharedPicture file;
   if (number >= 0 && index < settings_.imageFiles.size() && !settings_.imageFiles[index].empty()) {
     file = services_.pictures.open(settings_.imageFiles[index]);
   }
@@ -25,7 +25,7 @@ void Form1::loadPicture(std::int16_t number) {
     IntialPicture.setPicture(nullptr);
     return;
   }
-  IntialPicture.setPicture(forms::MakePicture(std::move(file)));
+  IntialPicture.setPicture(std::move(file));
   const PictureLimit limit = PictureLimit::of(width(), height(), settings_.pictureScale);
   loadReduction_ =
       ReductionFor(limit, base::ToInt32(IntialPicture.width()), base::ToInt32(IntialPicture.height()));
@@ -39,11 +39,11 @@ void Form1::ScalePicture() {
   PictureReduce.setPicture(nullptr);
   PictureReduce.setWidth(static_cast<float>(shown.width));
   PictureReduce.setHeight(static_cast<float>(shown.height));
-  if (const forms::SharedPicture& loaded = IntialPicture.picture()) {
+  if (const pictures::SharedPicture& loaded = IntialPicture.picture()) {
     PictureReduce.paintPicture(*loaded, PictureReduce.pixelRect().size());
   }
   IntialPicture.cls();
-  IntialPicture.setPicture(forms::MakePicture(PictureReduce.image()));
+  IntialPicture.setPicture(pictures::MakePicture(PictureReduce.image()));
   DisplayingPicture.setWidth(IntialPicture.width());
   DisplayingPicture.setHeight(IntialPicture.height());
 }

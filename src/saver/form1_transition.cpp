@@ -23,7 +23,7 @@ EffectFlags FlagsOf(const settings::SettingsRecord& record) {
 void Form1::RunTransition() {
   // An error in an effect is not reported: whoever asked for it goes on to show the new picture in full.
   try {
-    const forms::SharedPicture& next = IntialPicture.picture();
+    const pictures::SharedPicture& next = IntialPicture.picture();
     if (!next) return;
     const auto over = [this] { return isOver(); };
     const std::optional<int> number =

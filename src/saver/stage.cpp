@@ -139,7 +139,7 @@ void Stage::controlChanged(forms::Control& control, forms::Change change) {
   if (!form_) return;
   if (change == forms::Change::Place || change == forms::Change::Visible) placesChanged_ = true;
   if (&control == background_) {
-    const forms::SharedPicture& picture = background_->picture();
+    const pictures::SharedPicture& picture = background_->picture();
     backgroundPixels_ = picture ? picture->drawnAt(picture->size()) : nullptr;
     invalidateAll();
   } else if (&control == picture_) {
@@ -160,7 +160,7 @@ void Stage::pictureBoxChanged(forms::Change change) {
     assigned_ = nullptr;
   }
   if (change == forms::Change::Picture) {
-    const forms::SharedPicture& picture = picture_->picture();
+    const pictures::SharedPicture& picture = picture_->picture();
     assigned_ = picture ? picture->drawnAt(picture->size()) : nullptr;
     if (assigned_ && assigned_ == transitionTo_ && place == pictureWas_) {
       // At the end of a transition nearly every pixel of the picture is there already.

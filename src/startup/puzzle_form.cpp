@@ -6,7 +6,7 @@ namespace startup {
 
 PuzzleForm::PuzzleForm(const base::Bitmap& image) : Form("PuzzleForm"), Picture1(*this, "Picture1") {
   Picture1.setAutoSize(true);
-  Picture1.setPicture(forms::MakePicture(std::make_shared<base::Bitmap>(image)));
+  Picture1.setPicture(pictures::MakePicture(std::make_shared<base::Bitmap>(image)));
 }
 
 }  // namespace startup

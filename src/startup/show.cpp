@@ -8,14 +8,6 @@
 
 namespace startup {
 
-namespace {
-
-saver::ShowServices With(pictures::PictureLoader& pictures, const saver::ShowServices& s) {
-  return {s.files, s.ansi, pictures, s.clock, s.loop, s.screen, s.desktop, s.dates, s.stage, s.window};
-}
-
-}  // namespace
-
 Show::Show(const saver::ShowServices& services, const SaverExit::Services& exit, SystemRestore& restore,
            const os::SystemFacts& facts, const std::string& programFolder, WindowMaker makeWindow)
     : services_(services),
@@ -23,8 +15,7 @@ Show::Show(const saver::ShowServices& services, const SaverExit::Services& exit,
       facts_(facts),
       makeWindow_(std::move(makeWindow)),
       log_(services.files, services.clock, programFolder),
-      pictures_(services.pictures, services.files, log_),
-      form_(With(pictures_, services), facts, programFolder),
+      form_(services, facts, programFolder),
       exit_(facts, exit,
             {.window = [this] { return services_.window.handle(); },
              .showFormAgain = [this] { services_.window.activate(); },
@@ -37,9 +28,13 @@ Show::Show(const saver::ShowServices& services, const SaverExit::Services& exit,
              .endProgram = [this] { services_.loop.quit(); }}) {
   services_.loop.setErrorHandler([this](const std::exception& error) { endByError(error); });
   services_.window.onSessionEnd = [this] { endWithoutAsking(); };
+  services_.pictures.onFailure = [this](const std::string& path, pictures::PictureFailure failure) {
+    notePicture(path, failure);
+  };
 }
 
 Show::~Show() {
+  services_.pictures.onFailure = nullptr;
   services_.stage.onPlacesChanged = nullptr;
   services_.loop.setErrorHandler(nullptr);
 }
@@ -141,6 +136,22 @@ void Show::decideOnLog() {
   const settings::SaverSettings& settings = form_.settings();
   log_.decide(settings.record.log);
   for (const std::string& key : settings.mended) log_.note("settings: no number, default used: " + key);
+}
+
+void Show::notePicture(const std::string& path, pictures::PictureFailure failure) {
+  switch (failure) {
+    case pictures::PictureFailure::NotOpened:
+      log_.note((services_.files.exists(path) ? "picture: in use, or of no kind that can be read: "
+                                              : "picture: no such file: ") +
+                path);
+      break;
+    case pictures::PictureFailure::NotDrawn:
+      log_.note("picture: broken, changed, or too large to decode: " + path);
+      break;
+    case pictures::PictureFailure::Late:
+      log_.note("picture: not there in time: " + path);
+      break;
+  }
 }
 
 void Show::endByError(const std::exception& error) {

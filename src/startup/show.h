@@ -11,7 +11,6 @@
 #include "startup/exit_saver.h"
 #include "startup/failure_log.h"
 #include "startup/input_watch.h"
-#include "startup/noting_pictures.h"
 #include "startup/system_restore.h"
 
 namespace startup {
@@ -47,6 +46,7 @@ class Show {
   void mouseMoved(base::PixelPoint onScreen);
   std::optional<PointedControl> pointedControl(base::PixelPoint onScreen) const;
   void decideOnLog();
+  void notePicture(const std::string& path, pictures::PictureFailure failure);
   void endByError(const std::exception& error);
   void endWithoutAsking();
 
@@ -55,7 +55,6 @@ class Show {
   os::SystemFacts facts_;
   WindowMaker makeWindow_;
   FailureLog log_;
-  NotingPictures pictures_;
   saver::Form1 form_;
   SaverExit exit_;
   std::optional<InputWatch> watch_;

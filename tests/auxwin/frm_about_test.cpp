@@ -41,7 +41,7 @@ TEST_F(FrmAboutTest, TellsNameVersionAndPurpose) {
 }
 
 TEST_F(FrmAboutTest, ShowsTheIconThatItIsGiven) {
-  const auto icon = forms::MakePicture(std::make_shared<base::Bitmap>(base::PixelSize{48, 48}));
+  const auto icon = pictures::MakePicture(std::make_shared<base::Bitmap>(base::PixelSize{48, 48}));
   frmAbout withIcon(icon, shell, windows);
   EXPECT_EQ(withIcon.picIcon.picture(), icon);
 }

@@ -8,8 +8,8 @@
 #include "bench/bench_stage_win.h"
 #include "bench/bench_table.h"
 #include "bench/rows.h"
-#include "forms/picture.h"
 #include "os/dib_win.h"
+#include "pictures/picture.h"
 #include "saver/transitions/effects.h"
 #include "saver/transitions/transition_runner.h"
 #include "support/fake_clock.h"
@@ -83,8 +83,9 @@ class EffectRun {
   BenchStage stage_{kScreen};
   CountingWindow window_{stage_.window};
   saver::Stage counted_{window_, stage_.text, 15};
-  forms::SharedPicture first_ = forms::MakePicture(std::make_shared<base::Bitmap>(PhotoLike(kScreen)));
-  forms::SharedPicture second_ = forms::MakePicture(std::make_shared<base::Bitmap>(kScreen, 0xFF336699));
+  pictures::SharedPicture first_ = pictures::MakePicture(std::make_shared<base::Bitmap>(PhotoLike(kScreen)));
+  pictures::SharedPicture second_ =
+      pictures::MakePicture(std::make_shared<base::Bitmap>(kScreen, 0xFF336699));
   support::FakeClock clock_;
   support::FakeEventLoop loop_{clock_};
 };
@@ -125,7 +126,7 @@ void BenchFloating() {
   BenchStage stage(kScreen);
   stage.placePicture({100, 0, kPicture.width, kPicture.height});
   stage.picture.setVisible(true);
-  stage.picture.setPicture(forms::MakePicture(std::make_shared<base::Bitmap>(picture)));
+  stage.picture.setPicture(pictures::MakePicture(std::make_shared<base::Bitmap>(picture)));
   stage.stage.flush();
   const WholeCopy copy(picture, stage.window);
   int step = 0;

@@ -7,9 +7,9 @@
 #include "bench/bench_stage_win.h"
 #include "bench/bench_table.h"
 #include "bench/rows.h"
-#include "forms/picture.h"
 #include "os/clock_win.h"
 #include "os/event_loop_win.h"
+#include "pictures/picture.h"
 #include "saver/transitions/effects.h"
 #include "saver/transitions/transition_runner.h"
 
@@ -62,7 +62,7 @@ void BenchEffect(int number) {
   BenchStage stage(kScreen);
   stage.placePicture(base::PixelRect::ofSize(kScreen));
   stage.picture.setVisible(true);
-  stage.picture.setPicture(forms::MakePicture(std::make_shared<base::Bitmap>(PhotoLike(kScreen))));
+  stage.picture.setPicture(pictures::MakePicture(std::make_shared<base::Bitmap>(PhotoLike(kScreen))));
   stage.stage.flush();
   const auto next = std::make_shared<base::Bitmap>(kScreen, 0xFF336699);
   base::Random random;

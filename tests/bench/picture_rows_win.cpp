@@ -10,11 +10,11 @@
 #include "bench/bench_table.h"
 #include "bench/heap_count_win.h"
 #include "bench/rows.h"
-#include "forms/picture.h"
 #include "os/com_pointer_win.h"
 #include "os/files_win.h"
 #include "os/picture_decoder_win.h"
 #include "os/utf16_win.h"
+#include "pictures/picture.h"
 #include "pictures/picture_loader.h"
 #include "support/temporary_folder_win.h"
 #include "support/wic_encoder_win.h"
@@ -55,16 +55,16 @@ void DecodeAlone(const std::string& path) {
 class Way {
  public:
   void show(const std::string& path) {
-    const std::shared_ptr<const pictures::PictureFile> file = loader_.open(path);
+    const pictures::SharedPicture file = loader_.open(path);
     if (!file) throw std::runtime_error("a picture of the benchmark cannot be opened");
     const base::PixelSize size = file->size();
     const base::PixelSize shown{kScreen.height * size.width / size.height, kScreen.height};
-    base::SharedBitmap drawn = forms::MakePicture(file)->drawnAt(shown);
+    base::SharedBitmap drawn = file->drawnAt(shown);
     if (!drawn) throw std::runtime_error("a picture of the benchmark cannot be decoded");
     stage_.picture.setVisible(false);
     stage_.placePicture({(kScreen.width - shown.width) / 2, 0, shown.width, shown.height});
     stage_.picture.setVisible(true);
-    stage_.picture.setPicture(forms::MakePicture(std::move(drawn)));
+    stage_.picture.setPicture(pictures::MakePicture(std::move(drawn)));
     stage_.stage.flush();
   }
 

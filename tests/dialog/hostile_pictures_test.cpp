@@ -35,7 +35,7 @@ TEST_F(HostileChoice, APictureThatCannotBeDrawnGivesTheMessageOnceAndNoThumbnail
   int refusedOnes = 0;
   for (const auto& picture : all) {
     const auto opened = loader.open(picture.name);
-    const bool isDrawn = opened && opened->draw({20, 20});
+    const bool isDrawn = opened && opened->drawnAt({20, 20});
     machine.dialogs.files.push_back(picture.name);
     dialog.form.add.userClicked();
     machine.rest();

@@ -12,7 +12,7 @@ struct Thumbnail : testing::Test {
 
   base::SharedBitmap draw(base::PixelSize picture, base::PixelSize box) {
     pictures.add("p", picture, base::Rgb(200, 100, 50));
-    return DrawThumbnail(*forms::MakePicture(pictures.open("p")), box);
+    return DrawThumbnail(*pictures.open("p"), box);
   }
 
   // The opaque part of a bitmap.
@@ -46,7 +46,7 @@ TEST_F(Thumbnail, ASmallPictureIsNotEnlarged) {
 
 TEST_F(Thumbnail, APictureThatCannotBeDecodedHasNone) {
   pictures.addBroken("b", {40, 30});
-  EXPECT_EQ(DrawThumbnail(*forms::MakePicture(pictures.open("b")), {190, 204}), nullptr);
+  EXPECT_EQ(DrawThumbnail(*pictures.open("b"), {190, 204}), nullptr);
 }
 
 }  // namespace

@@ -52,7 +52,7 @@ TEST_F(PictureBoxTest, AnImageThatWasHandedOutDoesNotChangeWithLaterParts) {
 
 TEST_F(PictureBoxTest, APictureDrawnWholeHidesThePartsBeforeIt) {
   box.paintPart(Pixels(10, 8, kRed), {0, 0, 10, 8});
-  box.paintPicture(*MakePicture(Pixels(1, 1, kGreen)), {10, 8});
+  box.paintPicture(*pictures::MakePicture(Pixels(1, 1, kGreen)), {10, 8});
   EXPECT_EQ(box.image()->at(9, 7), kGreen);
   EXPECT_EQ(box.paintedFrom(), nullptr);
 }

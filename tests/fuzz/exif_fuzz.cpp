@@ -4,8 +4,7 @@
 
 #include "fuzz/input.h"
 #include "fuzz/require.h"
-#include "pictures/exif.h"
-#include "pictures/jpeg_segments.h"
+#include "pictures/jpeg_head.h"
 #include "pictures/picture_header.h"
 #include "support/jpeg_builder.h"
 
@@ -15,8 +14,9 @@ void CheckOrientation(std::string_view head) {
   const auto orientation = pictures::ReadExifOrientation(head);
   fuzz::Require(orientation >= base::Orientation::upright && orientation <= base::Orientation::turnedRight,
                 "an orientation is one of eight");
-  fuzz::Require(pictures::BeginsLikeJpeg(head) || orientation == base::Orientation::upright,
-                "what is no JPEG file stands upright");
+  const bool mayBeTurned = pictures::BeginsLikeJpeg(head) || pictures::BeginsLikeTiff(head);
+  fuzz::Require(mayBeTurned || orientation == base::Orientation::upright,
+                "what is neither a JPEG nor a TIFF file stands upright");
 }
 
 void CheckSegments(std::string_view head) {

@@ -7,10 +7,9 @@
 #include "fuzz/input.h"
 #include "fuzz/oracles/naive_lzw.h"
 #include "fuzz/require.h"
-#include "pictures/gif_blocks.h"
 #include "pictures/gif_first_frame.h"
 #include "pictures/lzw_decoder.h"
-#include "pictures/picture_limits.h"
+#include "pictures/picture_header.h"
 #include "support/gif_builder.h"
 
 namespace {
@@ -22,7 +21,7 @@ constexpr std::size_t kMostCompared = 1 << 16;  // pixels that are compared with
 // All sub-blocks from an offset on, joined.
 std::string SubBlocks(std::string_view file, std::size_t at) {
   std::string data;
-  while (const auto block = os::NextGifSubBlock(file, at)) {
+  while (const auto block = pictures::NextGifSubBlock(file, at)) {
     fuzz::Require(block->size() <= 255, "a sub-block is no longer than its length can say");
     data += *block;
   }

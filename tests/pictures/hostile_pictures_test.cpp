@@ -8,7 +8,6 @@
 #include <set>
 
 #include "pictures/picture_header.h"
-#include "pictures/picture_limits.h"
 #include "pictures/picture_loader.h"
 #include "support/allocation_watch.h"
 #include "support/fake_files.h"
@@ -74,16 +73,16 @@ TEST_F(HostilePictures, OurOwnDecoderDrawsWhatItShouldAndRefusesTheRest) {
   for (const auto& picture : all) {
     if (!IsGif(picture)) continue;
     const auto opened = loader.open(picture.name);
-    const auto drawn = opened ? opened->draw(kThumbnail) : std::nullopt;
+    const auto drawn = opened ? opened->drawnAt(kThumbnail) : nullptr;
     if (picture.outcome != support::Outcome::either) {
-      EXPECT_EQ(drawn.has_value(), picture.outcome == support::Outcome::drawn) << picture.name;
+      EXPECT_EQ(drawn != nullptr, picture.outcome == support::Outcome::drawn) << picture.name;
     }
     if (!drawn) continue;
     ++drawnOnes;
     EXPECT_EQ(drawn->size(), kThumbnail) << picture.name;
     EXPECT_EQ(opened->size(), picture.size.value_or(opened->size())) << picture.name;
     if (!picture.corners) continue;
-    const auto whole = opened->draw(opened->size());
+    const auto whole = opened->drawnAt(opened->size());
     ASSERT_TRUE(whole) << picture.name;
     EXPECT_EQ(whole->at(0, 0), picture.corners->topLeft) << picture.name;
     EXPECT_EQ(whole->at(opened->size().width - 1, opened->size().height - 1), picture.corners->bottomRight)
@@ -97,7 +96,7 @@ TEST_F(HostilePictures, NoClaimBeyondTheBoundComesToTheMachinesDecoder) {
   FilePictureLoader loader(heads, decoder);
   for (const auto& picture : all) {
     const auto opened = loader.open(picture.name);
-    EXPECT_FALSE(opened && !IsGif(picture) && opened->draw({1, 1})) << picture.name;
+    EXPECT_FALSE(opened && !IsGif(picture) && opened->drawnAt({1, 1})) << picture.name;
     if (!decoder.opened.contains(picture.name)) continue;
     const auto header = ReadPictureHeader(picture.bytes);
     EXPECT_LE(PixelCount(*header->size) * header->bytesPerPixel, std::int64_t{1} << 30) << picture.name;
@@ -117,7 +116,7 @@ TEST_F(HostilePictures, NoFileMakesTheProgramAskForMuchMoreThanItsPixelsNeed) {
   for (const auto& picture : all) {
     support::AllocationWatch watch;
     const auto opened = loader.open(picture.name);
-    if (opened) opened->draw(kThumbnail);
+    if (opened) opened->drawnAt(kThumbnail);
     // A band of rows of the widest picture, and what the file itself holds.
     const std::size_t bound =
         (std::size_t{65535} * 16 * 4) + 64 * picture.bytes.size() + (std::size_t{1} << 20);

@@ -68,16 +68,16 @@ TEST_F(HostilePicturesWin, EachIsDrawnAsItShouldBeOrRefused) {
   int refusedOnes = 0;
   for (const auto& picture : support::AllHostilePictures()) {
     const auto opened = loader.open(put(picture.name, picture.bytes));
-    const auto drawn = opened ? opened->draw(kThumbnail) : std::nullopt;
+    const auto drawn = opened ? opened->drawnAt(kThumbnail) : nullptr;
     (drawn ? drawnOnes : refusedOnes) += 1;
     if (picture.outcome != support::Outcome::either) {
-      EXPECT_EQ(drawn.has_value(), picture.outcome == support::Outcome::drawn) << picture.name;
+      EXPECT_EQ(drawn != nullptr, picture.outcome == support::Outcome::drawn) << picture.name;
     }
     if (!drawn) continue;
     EXPECT_EQ(drawn->size(), kThumbnail) << picture.name;
     EXPECT_EQ(opened->size(), picture.size.value_or(opened->size())) << picture.name;
     if (!picture.corners) continue;
-    const auto whole = opened->draw(opened->size());
+    const auto whole = opened->drawnAt(opened->size());
     ASSERT_TRUE(whole) << picture.name;
     EXPECT_TRUE(IsNearly(whole->at(0, 0), picture.corners->topLeft))
         << picture.name << std::hex << " " << whole->at(0, 0);
@@ -92,7 +92,7 @@ TEST_F(HostilePicturesWin, NoneOfThemTakesMoreMemoryThanTheBound) {
   const SIZE_T before = PeakMemory();
   for (const auto& picture : support::AllHostilePictures()) {
     const auto opened = loader.open(put(picture.name, picture.bytes));
-    if (opened) opened->draw({320, 200});
+    if (opened) opened->drawnAt({320, 200});
     ASSERT_LT(PeakMemory(), std::max(before, kMost)) << picture.name;
   }
 }
@@ -142,7 +142,7 @@ TEST_F(HostilePicturesWin, APathOfThreeHundredCharactersIsAsGoodAsAnyOther) {
   WriteFileAt(path, support::RedOverBlue(24, 0, false).bytes());
   const auto opened = loader.open(path);
   ASSERT_TRUE(opened);
-  EXPECT_TRUE(opened->draw(kThumbnail));
+  EXPECT_TRUE(opened->drawnAt(kThumbnail));
   EXPECT_FALSE(loader.open(std::string(40000, 'x') + ".jpg"));
 }
 
@@ -157,13 +157,13 @@ TEST_F(HostilePicturesWin, AFileThatGrowsOrShrinksBehindTheProgramsBackIsDrawnOr
   const std::string path = put("a.bmp", whole);
   const auto opened = loader.open(path);
   ASSERT_TRUE(opened);
-  ASSERT_TRUE(opened->draw(kThumbnail));
+  ASSERT_TRUE(opened->drawnAt(kThumbnail));
   WriteFileAt(path, whole.substr(0, 60));
-  EXPECT_FALSE(opened->draw(kThumbnail));
+  EXPECT_FALSE(opened->drawnAt(kThumbnail));
   WriteFileAt(path, whole);
-  EXPECT_TRUE(opened->draw(kThumbnail));
+  EXPECT_TRUE(opened->drawnAt(kThumbnail));
   DeleteFileW(os::WidePath(path).c_str());
-  EXPECT_FALSE(opened->draw(kThumbnail));
+  EXPECT_FALSE(opened->drawnAt(kThumbnail));
 }
 
 }  // namespace

@@ -15,7 +15,7 @@ std::string BitmapHead(const std::string& info) { return "BM" + std::string(12, 
 TEST(PictureHeader, ABitmapTellsItsSize) {
   const auto header = ReadPictureHeader(BitmapHead(std::string("\x28\0\0\0\x80\2\0\0\xE0\1\0\0", 12)));
   ASSERT_TRUE(header);
-  EXPECT_EQ(header->kind, PictureKind::bitmap);
+  EXPECT_EQ(header->kind, PictureKind::Bitmap);
   EXPECT_EQ(header->size, (base::PixelSize{640, 480}));
 }
 
@@ -43,7 +43,7 @@ TEST(PictureHeader, AJpegTellsItsSizeBehindOtherSegments) {
   const auto header = ReadPictureHeader(support::JpegHead(
       support::ExifSegment(6, true) + support::JpegSegmentBytes(0xC4, "tables"), {4000, 3000}));
   ASSERT_TRUE(header);
-  EXPECT_EQ(header->kind, PictureKind::jpeg);
+  EXPECT_EQ(header->kind, PictureKind::Jpeg);
   EXPECT_EQ(header->size, (base::PixelSize{4000, 3000}));
 }
 
@@ -61,7 +61,7 @@ TEST(PictureHeader, APngTellsItsSize) {
   const std::string png("\x89PNG\r\n\x1A\n\0\0\0\x0DIHDR\0\0\4\0\0\0\3\0", 24);
   const auto header = ReadPictureHeader(png);
   ASSERT_TRUE(header);
-  EXPECT_EQ(header->kind, PictureKind::png);
+  EXPECT_EQ(header->kind, PictureKind::Png);
   EXPECT_EQ(header->size, (base::PixelSize{1024, 768}));
   EXPECT_FALSE(ReadPictureHeader(png.substr(0, 23))->size);
 }
@@ -72,7 +72,7 @@ TEST(PictureHeader, AGifTellsItsSize) {
   gif.frame = {10, 10, 20, 20};
   const auto header = ReadPictureHeader(gif.file());
   ASSERT_TRUE(header);
-  EXPECT_EQ(header->kind, PictureKind::gif);
+  EXPECT_EQ(header->kind, PictureKind::Gif);
   EXPECT_EQ(header->size, (base::PixelSize{320, 200}));
 }
 

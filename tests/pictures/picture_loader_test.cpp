@@ -4,6 +4,7 @@
 
 #include <numeric>
 
+#include "base/area_average.h"
 #include "base/resample.h"
 #include "support/fake_files.h"
 #include "support/fake_picture_decoder.h"
@@ -46,26 +47,26 @@ TEST_F(PictureLoader, APictureAtItsOwnSizeIsThePicture) {
   const auto picture = loader.open("a.jpg");
   ASSERT_TRUE(picture);
   EXPECT_EQ(picture->size(), (base::PixelSize{40, 30}));
-  const auto drawn = picture->draw({40, 30});
-  EXPECT_EQ(drawn, Gradient({40, 30}));
+  const auto drawn = picture->drawnAt({40, 30});
+  EXPECT_EQ(*drawn, Gradient({40, 30}));
   EXPECT_TRUE(drawn->isOpaque());
 }
 
 TEST_F(PictureLoader, ASmallerDrawingIsTheAverageOverArea) {
   addJpeg("a.jpg", Gradient({401, 307}));
-  EXPECT_EQ(loader.open("a.jpg")->draw({100, 77}), base::Resample(Gradient({401, 307}), {100, 77}));
+  EXPECT_EQ(*loader.open("a.jpg")->drawnAt({100, 77}), base::Resample(Gradient({401, 307}), {100, 77}));
 }
 
 TEST_F(PictureLoader, ALargerDrawingIsEnlarged) {
   addJpeg("a.jpg", Gradient({4, 3}));
-  const auto drawn = loader.open("a.jpg")->draw({13, 11});
-  EXPECT_EQ(drawn, base::Resample(Gradient({4, 3}), {13, 11}));
+  const auto drawn = loader.open("a.jpg")->drawnAt({13, 11});
+  EXPECT_EQ(*drawn, base::Resample(Gradient({4, 3}), {13, 11}));
   EXPECT_TRUE(drawn->isOpaque());
 }
 
 TEST_F(PictureLoader, RowsAreReadInBandsFromTheTopDown) {
   auto& stored = addJpeg("a.jpg", Gradient({2000, 100}));
-  ASSERT_TRUE(loader.open("a.jpg")->draw({50, 30}));
+  ASSERT_TRUE(loader.open("a.jpg")->drawnAt({50, 30}));
   EXPECT_EQ(stored.reads, (std::vector<Read>{{1, 0, 32}, {1, 32, 32}, {1, 64, 32}, {1, 96, 4}}));
 }
 
@@ -74,7 +75,7 @@ TEST_F(PictureLoader, TheDecoderReducesAsFarAsThePictureStaysLargeEnough) {
     auto& stored = addJpeg("a.jpg", Gradient({800, 600}));
     stored.reductions = {1, 2, 4, 8};
     stored.reads.clear();
-    EXPECT_TRUE(loader.open("a.jpg")->draw(drawn));
+    EXPECT_TRUE(loader.open("a.jpg")->drawnAt(drawn));
     return stored.reads.front().reduction;
   };
   EXPECT_EQ(reductionFor({800, 600}), 1);
@@ -90,7 +91,7 @@ TEST_F(PictureLoader, AReductionThatFailsIsDoneWithout) {
   auto& stored = addJpeg("a.jpg", Gradient({80, 60}));
   stored.reductions = {1, 2, 4};
   stored.brokenReductions = {4};
-  EXPECT_EQ(loader.open("a.jpg")->draw({20, 15}), base::Resample(Gradient({80, 60}), {20, 15}));
+  EXPECT_EQ(*loader.open("a.jpg")->drawnAt({20, 15}), base::Resample(Gradient({80, 60}), {20, 15}));
   EXPECT_EQ(stored.reads, (std::vector<Read>{{4, 0, 15}, {1, 0, 60}}));
 }
 
@@ -99,7 +100,7 @@ TEST_F(PictureLoader, ATurnedPictureIsShrunkBeforeItIsTurned) {
   stored.reductions = {1, 2, 4};
   const auto picture = loader.open("a.jpg");
   EXPECT_EQ(picture->size(), (base::PixelSize{300, 400}));
-  const auto drawn = picture->draw({75, 100});
+  const auto drawn = picture->drawnAt({75, 100});
   ASSERT_TRUE(drawn);
   EXPECT_EQ(drawn->size(), (base::PixelSize{75, 100}));
   EXPECT_EQ(stored.reads.front().reduction, 4);
@@ -117,7 +118,7 @@ TEST_F(PictureLoader, EveryOrientationPutsTheStoredCornerInItsPlace) {
     stored.row(0)[0] = 0xFFFFFFFFU;
     addJpeg("a.jpg", stored, orientation);
     const auto picture = loader.open("a.jpg");
-    const auto drawn = picture->draw(picture->size());
+    const auto drawn = picture->drawnAt(picture->size());
     const base::PixelPoint corner = corners[orientation - 1];
     EXPECT_EQ(drawn->at(corner.x, corner.y), 0xFFFFFFFFU) << orientation;
   }
@@ -129,7 +130,7 @@ TEST_F(PictureLoader, TransparentPixelsAreMultipliedBeforeTheyAreAveraged) {
   pixels.row(0)[1] = 0x0000FF00U;  // a green that nobody can see
   auto& stored = addJpeg("a.jpg", pixels);
   stored.hasAlpha = true;
-  const auto drawn = loader.open("a.jpg")->draw({1, 1});
+  const auto drawn = loader.open("a.jpg")->drawnAt({1, 1});
   EXPECT_EQ(drawn->at(0, 0), 0x80800000U);
   EXPECT_FALSE(drawn->isOpaque());
 }
@@ -137,14 +138,14 @@ TEST_F(PictureLoader, TransparentPixelsAreMultipliedBeforeTheyAreAveraged) {
 TEST_F(PictureLoader, APictureThatCouldBeTransparentAndIsNotIsMarkedOpaque) {
   auto& stored = addJpeg("a.jpg", Gradient({5, 5}));
   stored.hasAlpha = true;
-  EXPECT_TRUE(loader.open("a.jpg")->draw({5, 5})->isOpaque());
+  EXPECT_TRUE(loader.open("a.jpg")->drawnAt({5, 5})->isOpaque());
 }
 
 TEST_F(PictureLoader, TheAlphaOfAnOpaquePictureMeansNothing) {
   base::Bitmap pixels(base::PixelSize{1, 1});
   pixels.row(0)[0] = 0x00112233U;
   addJpeg("a.jpg", pixels);
-  EXPECT_EQ(loader.open("a.jpg")->draw({1, 1})->at(0, 0), 0xFF112233U);
+  EXPECT_EQ(loader.open("a.jpg")->drawnAt({1, 1})->at(0, 0), 0xFF112233U);
 }
 
 TEST_F(PictureLoader, APictureBrokenHalfWayDrawsNothing) {
@@ -152,17 +153,17 @@ TEST_F(PictureLoader, APictureBrokenHalfWayDrawsNothing) {
   const auto picture = loader.open("a.jpg");
   ASSERT_TRUE(picture);
   EXPECT_EQ(picture->size(), (base::PixelSize{2000, 100}));
-  EXPECT_FALSE(picture->draw({50, 30}));
-  EXPECT_FALSE(picture->draw({50, 30}));
+  EXPECT_FALSE(picture->drawnAt({50, 30}));
+  EXPECT_FALSE(picture->drawnAt({50, 30}));
 }
 
 TEST_F(PictureLoader, NothingIsKeptOpenAfterADrawing) {
   addJpeg("a.jpg", Gradient({20, 20}));
   const auto picture = loader.open("a.jpg");
-  EXPECT_TRUE(picture->draw({10, 10}));
+  EXPECT_TRUE(picture->drawnAt({10, 10}));
   EXPECT_EQ(decoder.openSources, 0);
   EXPECT_EQ(decoder.opened.size(), 1U);
-  EXPECT_TRUE(picture->draw({20, 10}));
+  EXPECT_TRUE(picture->drawnAt({20, 10}));
   EXPECT_EQ(decoder.openSources, 0);
   EXPECT_EQ(decoder.opened.size(), 2U);
 }
@@ -170,11 +171,11 @@ TEST_F(PictureLoader, NothingIsKeptOpenAfterADrawing) {
 TEST_F(PictureLoader, AFileThatHasBecomeAnotherPictureDrawsNothing) {
   addJpeg("a.jpg", Gradient({20, 20}));
   const auto picture = loader.open("a.jpg");
-  EXPECT_TRUE(picture->draw({10, 10}));
+  EXPECT_TRUE(picture->drawnAt({10, 10}));
   addJpeg("a.jpg", Gradient({30, 20}));
-  EXPECT_FALSE(picture->draw({10, 10}));
+  EXPECT_FALSE(picture->drawnAt({10, 10}));
   heads.content.clear();
-  EXPECT_FALSE(picture->draw({10, 10}));
+  EXPECT_FALSE(picture->drawnAt({10, 10}));
 }
 
 TEST_F(PictureLoader, WhatIsNoPictureIsNull) {
@@ -182,9 +183,62 @@ TEST_F(PictureLoader, WhatIsNoPictureIsNull) {
   EXPECT_FALSE(loader.open("missing.jpg"));
   heads.content["empty.jpg"] = "";
   EXPECT_FALSE(loader.open("empty.jpg"));
+  EXPECT_TRUE(decoder.opened.empty());
   heads.content["text.jpg"] = "no picture at all";
   EXPECT_FALSE(loader.open("text.jpg"));
-  EXPECT_TRUE(decoder.opened.empty());
+}
+
+std::string TiffHead(int orientation) {
+  std::string tiff("MM\0\x2A\0\0\0\x08\0\1\1\x12\0\3\0\0\0\1\0", 19);
+  return tiff + static_cast<char>(orientation) + std::string(6, '\0');
+}
+
+TEST_F(PictureLoader, AFileOfAKindThatOnlyTheDecoderKnowsIsItsBusiness) {
+  heads.content["a.heic"] = "some format of a later day";
+  decoder.pictures["a.heic"].pixels = Gradient({40, 30});
+  const auto picture = loader.open("a.heic");
+  ASSERT_TRUE(picture);
+  EXPECT_EQ(*picture->drawnAt({40, 30}), Gradient({40, 30}));
+  EXPECT_EQ(decoder.opened, std::vector<std::string>{"a.heic"});
+}
+
+TEST_F(PictureLoader, AnUnknownKindIsBoundedByTheSizeThatTheDecoderFinds) {
+  heads.content["long.tif"] = TiffHead(1);
+  decoder.pictures["long.tif"].pixels = base::Bitmap({base::AreaAverage::kLongestSide + 1, 1});
+  heads.content["most.tif"] = TiffHead(1);
+  decoder.pictures["most.tif"].pixels = base::Bitmap({base::AreaAverage::kLongestSide, 1});
+  EXPECT_FALSE(loader.open("long.tif"));
+  EXPECT_TRUE(loader.open("most.tif"));
+}
+
+TEST_F(PictureLoader, ATiffFileIsTurnedUprightToo) {
+  heads.content["a.tif"] = TiffHead(6);
+  decoder.pictures["a.tif"].pixels = Gradient({40, 30});
+  const auto picture = loader.open("a.tif");
+  ASSERT_TRUE(picture);
+  EXPECT_EQ(picture->size(), (base::PixelSize{30, 40}));
+}
+
+TEST_F(PictureLoader, TellsOfAFileThatItCannotOpen) {
+  std::vector<std::string> told;
+  loader.onFailure = [&](const std::string& path, PictureFailure failure) {
+    told.push_back(path + (failure == PictureFailure::NotOpened ? ": not opened" : ": not drawn"));
+  };
+  loader.open("missing.jpg");
+  EXPECT_EQ(told, std::vector<std::string>{"missing.jpg: not opened"});
+}
+
+TEST_F(PictureLoader, TellsOfAPictureThatItCannotDraw) {
+  addJpeg("a.jpg", Gradient({4, 3})).brokenFromRow = 1;
+  std::vector<std::string> told;
+  loader.onFailure = [&](const std::string& path, PictureFailure failure) {
+    told.push_back(path + (failure == PictureFailure::NotOpened ? ": not opened" : ": not drawn"));
+  };
+  const auto picture = loader.open("a.jpg");
+  ASSERT_TRUE(picture);
+  EXPECT_TRUE(told.empty());
+  EXPECT_FALSE(picture->drawnAt({4, 3}));
+  EXPECT_EQ(told, std::vector<std::string>{"a.jpg: not drawn"});
 }
 
 TEST_F(PictureLoader, APictureThatTheDecoderRefusesIsNull) {
@@ -213,14 +267,14 @@ TEST_F(PictureLoader, HugeClaimsAreRefusedBeforeTheDecoderSeesThem) {
 TEST_F(PictureLoader, ADrawingOfMoreThanTheBoundIsRefused) {
   auto& stored = addJpeg("a.jpg", Gradient({4, 3}));
   const auto picture = loader.open("a.jpg");
-  EXPECT_FALSE(picture->draw({1 << 14, (1 << 13) + 1}));
-  EXPECT_FALSE(picture->draw({2000000000, 2000000000}));
+  EXPECT_FALSE(picture->drawnAt({1 << 14, (1 << 13) + 1}));
+  EXPECT_FALSE(picture->drawnAt({2000000000, 2000000000}));
   EXPECT_TRUE(stored.reads.empty());
 }
 
 TEST_F(PictureLoader, ADrawingWithoutAreaIsEmpty) {
   addJpeg("a.jpg", Gradient({4, 3}));
-  const auto drawn = loader.open("a.jpg")->draw({0, 7});
+  const auto drawn = loader.open("a.jpg")->drawnAt({0, 7});
   ASSERT_TRUE(drawn);
   EXPECT_TRUE(drawn->isEmpty());
 }
@@ -255,7 +309,7 @@ TEST_F(PictureLoader, AGifIsComposedOnItsScreen) {
   heads.content["a.gif"] = SmallGif().file();
   const auto picture = loader.open("a.gif");
   for (int round = 0; round < 2; ++round) {
-    const auto drawn = picture->draw({3, 2});
+    const auto drawn = picture->drawnAt({3, 2});
     ASSERT_TRUE(drawn);
     EXPECT_EQ(drawn->at(0, 0), 0xFFFF0000U);
     EXPECT_EQ(drawn->at(1, 0), 0xFF00FF00U);
@@ -271,7 +325,7 @@ TEST_F(PictureLoader, AGifLargerThanItsHeadIsReadAsFarAsItsFrameMayNeed) {
   gif.indices.resize(700 * 600);
   std::iota(gif.indices.begin(), gif.indices.end(), std::uint8_t{0});
   heads.content["a.gif"] = gif.file() + std::string(5 << 20, 'x');  // further frames
-  const auto drawn = loader.open("a.gif")->draw({700, 600});
+  const auto drawn = loader.open("a.gif")->drawnAt({700, 600});
   ASSERT_TRUE(drawn);
   EXPECT_TRUE(drawn->isOpaque());
   const base::Pixel last = (700 * 600 - 1) % 256;

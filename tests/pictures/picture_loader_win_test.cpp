@@ -77,8 +77,8 @@ TEST_F(PictureLoaderWin, BitmapsStandUprightWhicheverRowComesFirst) {
       const auto opened = loader.open(put(name, support::TrueColorBmp(picture, order)));
       ASSERT_TRUE(opened) << name;
       EXPECT_EQ(opened->size(), picture.size());
-      const auto drawn = opened->draw(picture.size());
-      EXPECT_EQ(drawn, picture) << name;
+      const auto drawn = opened->drawnAt(picture.size());
+      EXPECT_EQ(*drawn, picture) << name;
       EXPECT_TRUE(drawn->isOpaque());
     }
   }
@@ -88,7 +88,7 @@ TEST_F(PictureLoaderWin, APalettedBitmapShowsItsColours) {
   const auto opened =
       loader.open(put("a.bmp", support::PalettedBmp({3, 2}, {kRed, kGreen, kBlue}, {0, 1, 2, 2, 0, 1})));
   ASSERT_TRUE(opened);
-  const auto drawn = opened->draw({3, 2});
+  const auto drawn = opened->drawnAt({3, 2});
   ASSERT_TRUE(drawn);
   const base::Pixel expected[2][3] = {{kRed, kGreen, kBlue}, {kBlue, kRed, kGreen}};
   for (int y = 0; y < 2; ++y) {
@@ -103,7 +103,7 @@ TEST_F(PictureLoaderWin, ALargeBitmapIsReadInBandsAndAveraged) {
     for (int x = 0; x < 1201; ++x) picture.row(y)[x] = (x + y) % 2 == 0 ? kWhite : kBlack;
   }
   const auto opened = loader.open(put("a.bmp", support::TrueColorBmp(picture, support::RowOrder::bottomUp)));
-  const auto drawn = opened->draw({300, 225});
+  const auto drawn = opened->drawnAt({300, 225});
   ASSERT_TRUE(drawn);
   for (int y = 0; y < 225; ++y) {
     for (int x = 0; x < 300; ++x) {
@@ -131,7 +131,7 @@ TEST_F(PictureLoaderWin, AJpegComesUprightFromAllEightOrientations) {
       const base::PixelSize upright =
           orientation >= 5 ? base::PixelSize{stored.height, stored.width} : stored;
       ASSERT_EQ(opened->size(), upright) << orientation;
-      const auto drawn = opened->draw(upright);
+      const auto drawn = opened->drawnAt(upright);
       ASSERT_TRUE(drawn);
       for (int i = 0; i < 4; ++i) {
         const int x = upright.width * (i % 2 * 2 + 1) / 4;
@@ -149,7 +149,7 @@ TEST_F(PictureLoaderWin, AJpegIsKnownByAllItsNamesAndDrawnSmaller) {
   for (const char* name : {"a.jpg", "a.jpeg", "a.jif", "A.JPG"}) {
     const auto opened = loader.open(put(name, jpeg));
     ASSERT_TRUE(opened) << name;
-    const auto drawn = opened->draw({64, 48});
+    const auto drawn = opened->drawnAt({64, 48});
     ASSERT_TRUE(drawn);
     EXPECT_TRUE(IsNearly(drawn->at(10, 10), kRed));
     EXPECT_TRUE(IsNearly(drawn->at(60, 40), kWhite));
@@ -164,7 +164,7 @@ TEST_F(PictureLoaderWin, APngKeepsItsTransparentParts) {
   ASSERT_FALSE(png.empty());
   const auto opened = loader.open(put("a.png", png));
   ASSERT_TRUE(opened);
-  const auto drawn = opened->draw({4, 2});
+  const auto drawn = opened->drawnAt({4, 2});
   ASSERT_TRUE(drawn);
   EXPECT_EQ(drawn->at(0, 0), kBlue);
   EXPECT_EQ(drawn->at(1, 0), 0x80800000U);
@@ -175,8 +175,8 @@ TEST_F(PictureLoaderWin, APngKeepsItsTransparentParts) {
 TEST_F(PictureLoaderWin, APngWithoutTransparentPartsIsOpaque) {
   const auto opened = loader.open(put("a.png", support::Encode(FourFields({9, 7}), support::EncodedAs::png)));
   ASSERT_TRUE(opened);
-  const auto drawn = opened->draw({9, 7});
-  EXPECT_EQ(drawn, FourFields({9, 7}));
+  const auto drawn = opened->drawnAt({9, 7});
+  EXPECT_EQ(*drawn, FourFields({9, 7}));
   EXPECT_TRUE(drawn->isOpaque());
 }
 
@@ -189,7 +189,7 @@ TEST_F(PictureLoaderWin, AGifIsComposedByTheProgramItself) {
   const auto opened = loader.open(put("a.gif", gif.file()));
   ASSERT_TRUE(opened);
   EXPECT_EQ(opened->size(), (base::PixelSize{4, 3}));
-  const auto drawn = opened->draw({4, 3});
+  const auto drawn = opened->drawnAt({4, 3});
   EXPECT_EQ(drawn->at(1, 1), kRed);
   EXPECT_EQ(drawn->at(2, 1), kBlue);
   EXPECT_EQ(drawn->at(0, 0), 0U);
@@ -200,7 +200,7 @@ TEST_F(PictureLoaderWin, PathsInAnyScriptAreOpened) {
   for (const char* name : {"горы на закате.bmp", "日本の山.bmp", "جبل.bmp", "été 🏔.bmp"}) {
     const auto opened = loader.open(put(name, bmp));
     ASSERT_TRUE(opened) << name;
-    EXPECT_EQ(opened->draw({4, 4}), FourFields({4, 4})) << name;
+    EXPECT_EQ(*opened->drawnAt({4, 4}), FourFields({4, 4})) << name;
   }
 }
 
@@ -216,7 +216,22 @@ TEST_F(PictureLoaderWin, PathsOverTwoHundredAndSixtyCharactersAreOpened) {
   ASSERT_GT(path.size(), 360U);
   const auto opened = loader.open(path);
   ASSERT_TRUE(opened);
-  EXPECT_TRUE(opened->draw({16, 16}));
+  EXPECT_TRUE(opened->drawnAt({16, 16}));
+}
+
+TEST_F(PictureLoaderWin, AFormatThatOnlyTheSystemKnowsIsShown) {
+  const base::Bitmap picture = FourFields({64, 48});
+  const std::string bytes = support::Encode(picture, support::EncodedAs::tiff);
+  ASSERT_FALSE(bytes.empty());
+  const auto opened = loader.open(put("a.tif", bytes));
+  ASSERT_TRUE(opened);
+  const auto drawn = opened->drawnAt({64, 48});
+  ASSERT_TRUE(drawn);
+  EXPECT_EQ(*drawn, picture);
+  for (std::size_t length = 0; length < bytes.size(); length += 7) {
+    const auto cut = loader.open(put("cut.tif", bytes.substr(0, length)));
+    if (cut) cut->drawnAt({20, 15});
+  }
 }
 
 TEST_F(PictureLoaderWin, WhatIsNoPictureFileIsNull) {
@@ -255,7 +270,7 @@ TEST_F(PictureLoaderWin, NothingIsHeldAfterADrawing) {
   const std::string path =
       put("a.bmp", support::TrueColorBmp(FourFields({4, 4}), support::RowOrder::bottomUp));
   const auto opened = loader.open(path);
-  ASSERT_TRUE(opened->draw({4, 4}));
+  ASSERT_TRUE(opened->drawnAt({4, 4}));
   const os::FileHandle alone(CreateFileW(os::WidePath(path).c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
                                          OPEN_EXISTING, 0, nullptr));
   EXPECT_TRUE(alone.isOpen());
@@ -270,7 +285,7 @@ TEST_F(PictureLoaderWin, FilesCutShortAreNullOrDrawWhatTheDecoderMakesOfThem) {
       const auto opened = loader.open(put("a.bin", whole.substr(0, length)));
       if (!opened) continue;
       EXPECT_EQ(opened->size(), (base::PixelSize{40, 30}));
-      const auto drawn = opened->draw({20, 15});
+      const auto drawn = opened->drawnAt({20, 15});
       EXPECT_TRUE(!drawn || drawn->size() == (base::PixelSize{20, 15}));
     }
   }
@@ -280,7 +295,7 @@ TEST_F(PictureLoaderWin, ABrokenPngDrawsNothing) {
   std::string png = support::Encode(FourFields({400, 300}), support::EncodedAs::png);
   png.resize(png.size() / 2);
   const auto opened = loader.open(put("a.png", png));
-  EXPECT_FALSE(opened && opened->draw({40, 30}));
+  EXPECT_FALSE(opened && opened->drawnAt({40, 30}));
 }
 
 }  // namespace

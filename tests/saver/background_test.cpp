@@ -25,7 +25,7 @@ Bitmap Numbered(base::PixelSize size) {
 }
 
 Bitmap Composed(base::PixelSize image, ImageLayout layout, base::PixelSize screen, int twipsPerPixel = 15) {
-  const auto picture = forms::MakePicture(std::make_shared<Bitmap>(Numbered(image)));
+  const auto picture = pictures::MakePicture(std::make_shared<Bitmap>(Numbered(image)));
   return ComposeImage(*picture, layout, screen, twipsPerPixel, kGround).value();
 }
 
@@ -117,7 +117,7 @@ TEST(CenteredImage, LargerThanTheScreenShowsItsMiddle) {
 TEST(StretchedImage, CoversTheWholeScreen) {
   support::FakePictures files;
   files.add("sky.bmp", {3, 2}, Rgb(1, 2, 3));
-  const auto picture = forms::MakePicture(files.open("sky.bmp"));
+  const auto picture = files.open("sky.bmp");
   const auto composed = ComposeImage(*picture, ImageLayout::Stretched, {50, 40}, 15, kGround);
   EXPECT_EQ(composed, Bitmap({50, 40}, OpaquePixel(Rgb(1, 2, 3))));
   EXPECT_EQ(files.drawnSizes, (std::vector<base::PixelSize>{{50, 40}}));
@@ -141,14 +141,14 @@ TEST(TiledImage, LargerThanTheScreenIsOneTileCutAtTheEdges) {
 TEST(CustomImage, ThatCannotBeDecodedComposesNothing) {
   support::FakePictures files;
   files.addBroken("bad.jpg", {30, 20});
-  const auto picture = forms::MakePicture(files.open("bad.jpg"));
+  const auto picture = files.open("bad.jpg");
   for (const ImageLayout layout : {ImageLayout::Centered, ImageLayout::Stretched, ImageLayout::Tiled}) {
     EXPECT_EQ(ComposeImage(*picture, layout, {50, 40}, 15, kGround), std::nullopt);
   }
 }
 
 TEST(CustomImage, ShowsTheBackgroundThroughItsTransparentParts) {
-  const auto clear = forms::MakePicture(std::make_shared<Bitmap>(base::PixelSize{4, 4}));
+  const auto clear = pictures::MakePicture(std::make_shared<Bitmap>(base::PixelSize{4, 4}));
   EXPECT_EQ(ComposeImage(*clear, ImageLayout::Tiled, {10, 8}, 15, kGround), Bitmap({10, 8}, kGround));
 }
 

@@ -56,7 +56,7 @@ TEST(PictureSize, TheOverflowOfTheProductIsAnErrorOfTheScalingItself) {
   show.set("image/picturePercent", "99");
   show.addPicture({8000, 6000}, kRed);
   show.start();
-  show.form->IntialPicture.setPicture(forms::MakePicture(show.pictures.open("C:\\pictures\\0.jpg")));
+  show.form->IntialPicture.setPicture(show.pictures.open("C:\\pictures\\0.jpg"));
   EXPECT_THROW(show.form->ScalePicture(), base::Overflow);
 }
 

@@ -18,8 +18,8 @@ base::SharedBitmap PlainPixels(base::PixelSize size, base::Pixel pixel) {
   return std::make_shared<base::Bitmap>(size, pixel);
 }
 
-forms::SharedPicture Plain(int width, int height, base::Pixel pixel) {
-  return forms::MakePicture(std::make_shared<base::Bitmap>(base::PixelSize{width, height}, pixel));
+pictures::SharedPicture Plain(int width, int height, base::Pixel pixel) {
+  return pictures::MakePicture(std::make_shared<base::Bitmap>(base::PixelSize{width, height}, pixel));
 }
 
 // A form of the show's kind on a small screen, at one pixel to 15 twips.
@@ -126,7 +126,7 @@ TEST_F(StageTest, APictureAssignedAtTheEndOfItsTransitionPresentsOnlyWhatIsNotTh
   picture.paintPart(next, {0, 0, 6, 8});
   picture.paintPart(next, {6, 0, 3, 8});
   window.presented.clear();
-  picture.setPicture(forms::MakePicture(next));
+  picture.setPicture(pictures::MakePicture(next));
   stage.flush();
   EXPECT_EQ(window.presented, (std::vector<base::PixelRect>{{9, 0, 1, 8}}));
   EXPECT_EQ(screenAt(9, 7), kGreen);
@@ -191,7 +191,7 @@ TEST_F(StageTest, TheScreenShowsAFreshCompositionAfterAnySequenceOfChanges) {
                              pixels[static_cast<std::size_t>(below(4))]);
         break;
       case 1:
-        picture.setPicture(forms::MakePicture(source));
+        picture.setPicture(pictures::MakePicture(source));
         break;
       case 2:
         placePicture(below(44) - 4, below(34) - 4);
@@ -212,7 +212,8 @@ TEST_F(StageTest, TheScreenShowsAFreshCompositionAfterAnySequenceOfChanges) {
         picture.cls();
         break;
       case 8:
-        if (below(8) == 0) picture.paintPicture(*forms::MakePicture(source), {1 + below(14), 1 + below(12)});
+        if (below(8) == 0)
+          picture.paintPicture(*pictures::MakePicture(source), {1 + below(14), 1 + below(12)});
         break;
       default:
         picture.paintPart(source, {below(12) - 1, below(10) - 1, below(14), below(12)});
@@ -306,7 +307,7 @@ TEST_F(StageTest, TransparentPartsOfAPictureShowTheBackground) {
   background.setPicture(Plain(40, 30, kBlue));
   auto pixels = std::make_shared<base::Bitmap>(base::PixelSize{4, 4});
   pixels->row(1)[1] = 0x80400000U;  // half-transparent dark red
-  picture.setPicture(forms::MakePicture(pixels));
+  picture.setPicture(pictures::MakePicture(pixels));
   picture.setVisible(true);
   picture.setPicture(picture.picture());
   stage.flush();

@@ -66,7 +66,7 @@ TEST(ShippedPictures, ThePreviewIsOpaqueAndOfItsSize) {
 
 TEST(ShippedPictures, TheIconHasEverySizeThatTheSystemShows) {
   const std::string file = ReadAsset("lumora.ico");
-  const pictures::ByteReader bytes(file, pictures::ByteOrder::littleEndian);
+  const pictures::ByteReader bytes(file, pictures::ByteOrder::LittleEndian);
   std::vector<int> sides;
   for (std::size_t i = 0; i < bytes.u16(4).value_or(0); ++i) {
     const std::size_t entry = 6 + 16 * i;

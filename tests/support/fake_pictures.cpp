@@ -1,6 +1,7 @@
 #include "support/fake_pictures.h"
 
 #include <functional>
+#include <optional>
 #include <utility>
 
 #include "base/resample.h"
@@ -9,49 +10,56 @@ namespace support {
 
 namespace {
 
-class FakePictureFile : public pictures::PictureFile {
+class FakePicture : public pictures::Picture {
  public:
   using Draw = std::function<std::optional<base::Bitmap>(base::PixelSize)>;
 
-  FakePictureFile(FakePictures& log, base::PixelSize size, Draw draw)
-      : log_(log), size_(size), draw_(std::move(draw)) {}
+  FakePicture(FakePictures& log, std::string path, base::PixelSize size, Draw draw)
+      : log_(log), path_(std::move(path)), size_(size), draw_(std::move(draw)) {}
 
   base::PixelSize size() const override { return size_; }
 
-  std::optional<base::Bitmap> draw(base::PixelSize drawn) const override {
+  base::SharedBitmap drawnAt(base::PixelSize drawn) const override {
     log_.drawnSizes.push_back(drawn);
-    return draw_(drawn);
+    if (std::optional<base::Bitmap> pixels = draw_(drawn))
+      return std::make_shared<base::Bitmap>(std::move(*pixels));
+    if (log_.onFailure) log_.onFailure(path_, pictures::PictureFailure::NotDrawn);
+    return nullptr;
   }
 
  private:
   FakePictures& log_;
+  std::string path_;
   base::PixelSize size_;
   Draw draw_;
 };
 
 }  // namespace
 
-std::shared_ptr<const pictures::PictureFile> FakePictures::open(const std::string& path) {
+pictures::SharedPicture FakePictures::open(const std::string& path) {
   opened.push_back(path);
   const auto found = files_.find(path);
   if (found != files_.end()) return found->second;
-  return others ? others->open(path) : nullptr;
+  if (others) return others->open(path);
+  if (onFailure) onFailure(path, pictures::PictureFailure::NotOpened);
+  return nullptr;
 }
 
 void FakePictures::add(const std::string& path, base::PixelSize size, base::PackedColor color) {
-  files_[path] = std::make_shared<FakePictureFile>(
-      *this, size, [color](base::PixelSize drawn) { return base::Bitmap(drawn, base::OpaquePixel(color)); });
+  files_[path] = std::make_shared<FakePicture>(*this, path, size, [color](base::PixelSize drawn) {
+    return base::Bitmap(drawn, base::OpaquePixel(color));
+  });
 }
 
 void FakePictures::addBroken(const std::string& path, base::PixelSize size) {
-  files_[path] = std::make_shared<FakePictureFile>(
-      *this, size, [](base::PixelSize) -> std::optional<base::Bitmap> { return std::nullopt; });
+  files_[path] = std::make_shared<FakePicture>(
+      *this, path, size, [](base::PixelSize) -> std::optional<base::Bitmap> { return std::nullopt; });
 }
 
 void FakePictures::add(const std::string& path, base::Bitmap pixels) {
   const base::PixelSize size = pixels.size();
   files_[path] =
-      std::make_shared<FakePictureFile>(*this, size, [pixels = std::move(pixels)](base::PixelSize drawn) {
+      std::make_shared<FakePicture>(*this, path, size, [pixels = std::move(pixels)](base::PixelSize drawn) {
         return drawn == pixels.size() ? pixels : base::Resample(pixels, drawn);
       });
 }

@@ -5,13 +5,13 @@
 #include <string>
 #include <vector>
 
-#include "pictures/pictures.h"
+#include "pictures/picture.h"
 
 namespace support {
 
 class FakePictures : public pictures::PictureLoader {
  public:
-  std::shared_ptr<const pictures::PictureFile> open(const std::string& path) override;
+  pictures::SharedPicture open(const std::string& path) override;
 
   void add(const std::string& path, base::PixelSize size, base::PackedColor color);
 
@@ -28,7 +28,7 @@ class FakePictures : public pictures::PictureLoader {
   std::vector<base::PixelSize> drawnSizes;  // sizes in the order of drawing
 
  private:
-  std::map<std::string, std::shared_ptr<const pictures::PictureFile>> files_;
+  std::map<std::string, pictures::SharedPicture> files_;
 };
 
 }  // namespace support

@@ -39,6 +39,9 @@ std::string Packed(const base::Bitmap& pixels, bool hasAlpha) {
 
 std::string Encode(const base::Bitmap& pixels, EncodedAs kind) {
   const bool isPng = kind == EncodedAs::png;
+  const GUID& container = isPng                     ? GUID_ContainerFormatPng
+                          : kind == EncodedAs::tiff ? GUID_ContainerFormatTiff
+                                                    : GUID_ContainerFormatJpeg;
   const UINT width = static_cast<UINT>(pixels.size().width);
   const UINT height = static_cast<UINT>(pixels.size().height);
   WICPixelFormatGUID format = isPng ? GUID_WICPixelFormat32bppBGRA : GUID_WICPixelFormat24bppBGR;
@@ -51,8 +54,7 @@ std::string Encode(const base::Bitmap& pixels, EncodedAs kind) {
       SUCCEEDED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
                                  IID_IWICImagingFactory, factory.putVoid())) &&
       SUCCEEDED(CreateStreamOnHGlobal(nullptr, TRUE, stream.put())) &&
-      SUCCEEDED(factory->CreateEncoder(isPng ? GUID_ContainerFormatPng : GUID_ContainerFormatJpeg, nullptr,
-                                       encoder.put())) &&
+      SUCCEEDED(factory->CreateEncoder(container, nullptr, encoder.put())) &&
       SUCCEEDED(encoder->Initialize(stream.get(), WICBitmapEncoderNoCache)) &&
       SUCCEEDED(encoder->CreateNewFrame(frame.put(), nullptr)) && SUCCEEDED(frame->Initialize(nullptr)) &&
       SUCCEEDED(frame->SetSize(width, height)) && SUCCEEDED(frame->SetPixelFormat(&format)) &&

@@ -7,7 +7,7 @@
 
 namespace support {
 
-enum class EncodedAs { png, jpeg };
+enum class EncodedAs { png, jpeg, tiff };
 
 // The bytes of a file; pixels straight, alpha kept in a PNG file. Empty when the machine cannot write one.
 std::string Encode(const base::Bitmap& pixels, EncodedAs format);

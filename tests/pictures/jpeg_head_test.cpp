@@ -1,4 +1,4 @@
-#include "pictures/exif.h"
+#include "pictures/jpeg_head.h"
 
 #include <gtest/gtest.h>
 
@@ -58,6 +58,36 @@ TEST(Exif, TheOrientationOfTheThumbnailIsNotThePictures) {
   std::string tiff("II\x2A\0\x08\0\0\0\0\0\x0E\0\0\0", 14);
   tiff += std::string("\1\0\x12\1\3\0\1\0\0\0\6\0\0\0\0\0\0\0", 18);
   EXPECT_EQ(OrientationOf(JpegHead(JpegSegmentBytes(0xE1, std::string("Exif\0\0", 6) + tiff), {64, 48})), 1);
+}
+
+// An Exif block with one entry for the orientation, of a type and with four value bytes of one's own choice.
+std::string ExifWithEntry(char type, const std::string& value) {
+  const std::string tiff = std::string("II\x2A\0\x08\0\0\0\1\0\x12\1", 12) + type +
+                           std::string("\0\1\0\0\0", 5) + value + std::string(4, '\0');
+  return JpegSegmentBytes(0xE1, std::string("Exif\0\0", 6) + tiff);
+}
+
+TEST(Exif, TheOrientationMayBeAByteAShortOrALong) {
+  EXPECT_EQ(OrientationOf(JpegHead(ExifWithEntry(1, std::string("\6\xFF\xFF\xFF", 4)), {64, 48})), 6);
+  EXPECT_EQ(OrientationOf(JpegHead(ExifWithEntry(3, std::string("\6\0\xFF\xFF", 4)), {64, 48})), 6);
+  EXPECT_EQ(OrientationOf(JpegHead(ExifWithEntry(4, std::string("\6\0\0\0", 4)), {64, 48})), 6);
+  EXPECT_EQ(OrientationOf(JpegHead(ExifWithEntry(4, std::string("\6\0\1\0", 4)), {64, 48})), 1);
+  EXPECT_EQ(OrientationOf(JpegHead(ExifWithEntry(2, std::string("\6\0\0\0", 4)), {64, 48})), 1);
+}
+
+TEST(Exif, ABlockThatSaysNothingOfUseDoesNotHideALaterOne) {
+  const std::string good = ExifSegment(6, true);
+  const std::string name("Exif\0\0", 6);
+  for (const std::string& first : {JpegSegmentBytes(0xE1, name), JpegSegmentBytes(0xE1, name + "garbage"),
+                                   ExifWithEntry(3, std::string(4, '\0')), ExifWithEntry(7, "\6\0\0\0")}) {
+    EXPECT_EQ(OrientationOf(JpegHead(first + good, {64, 48})), 6);
+  }
+  EXPECT_EQ(OrientationOf(JpegHead(ExifSegment(8, false) + good, {64, 48})), 8);  // the first good one counts
+}
+
+TEST(Exif, ATiffFilesOwnDirectoryIsRead) {
+  const std::string exif = ExifSegment(5, true);
+  EXPECT_EQ(OrientationOf(exif.substr(exif.find("MM"))), 5);
 }
 
 TEST(Exif, CutShortAnywhereItIsReadOrUpright) {

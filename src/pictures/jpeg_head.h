@@ -1,10 +1,12 @@
-// Walks the marker segments at the head of a JPEG file (ITU-T T.81, annex B).
+// What stands before the pixels of a JPEG file: its marker segments (ITU-T T.81, annex B), and in one of them
+// the orientation that the camera noted (Exif 2.3, IFD0 tag 0x0112).
 #pragma once
 
 #include <cstdint>
 #include <optional>
 #include <string_view>
 
+#include "base/orientation.h"
 #include "pictures/byte_reader.h"
 
 namespace pictures {
@@ -20,7 +22,7 @@ struct JpegSegment {
 class JpegSegments {
  public:
   // The bytes of the file's beginning, as many as have been read.
-  explicit JpegSegments(std::string_view head) : bytes_(head, ByteOrder::bigEndian) {}
+  explicit JpegSegments(std::string_view head) : bytes_(head, ByteOrder::BigEndian) {}
 
   // The next segment, up to the head of the first scan; nothing behind it, at the end of the bytes, or at
   // something that is no marker.
@@ -33,5 +35,12 @@ class JpegSegments {
 
 // True when the bytes begin as a JPEG file does.
 bool BeginsLikeJpeg(std::string_view head);
+
+// True when the bytes begin as a TIFF file does.
+bool BeginsLikeTiff(std::string_view head);
+
+// From the first bytes of a JPEG or a TIFF file; 256 KiB hold every Exif block, which is at most 64 KiB and
+// stands near the beginning. Upright when there is none, or none that can be understood.
+base::Orientation ReadExifOrientation(std::string_view head);
 
 }  // namespace pictures
