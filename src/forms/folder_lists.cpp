@@ -36,9 +36,7 @@ void DriveList::userSelected(int index) {
 }
 
 FolderList::FolderList(Form& form, std::string name, os::Files& disk)
-    : Control(form, std::move(name)),
-      disk_(disk),
-      path_(WithoutTrailingSlash(disk.currentFolder())) {
+    : Control(form, std::move(name)), disk_(disk), path_(WithoutTrailingSlash(disk.currentFolder())) {
   list();
 }
 
@@ -70,9 +68,7 @@ void FolderList::userOpened(int index) {
 }
 
 FileList::FileList(Form& form, std::string name, os::Files& disk)
-    : Control(form, std::move(name)),
-      disk_(disk),
-      path_(WithoutTrailingSlash(disk.currentFolder())) {
+    : Control(form, std::move(name)), disk_(disk), path_(WithoutTrailingSlash(disk.currentFolder())) {
   list();
 }
 
