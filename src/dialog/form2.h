@@ -2,13 +2,12 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "base/font.h"
-#include "dialog/dialog_services.h"
 #include "forms/check_box.h"
 #include "forms/combo_box.h"
 #include "forms/command_button.h"
+#include "forms/dialogs.h"
 #include "forms/form.h"
 #include "forms/frame.h"
 #include "forms/image.h"
@@ -21,10 +20,23 @@
 #include "forms/status_bar.h"
 #include "forms/tab_control.h"
 #include "forms/text_box.h"
+#include "forms/window_system.h"
+#include "os/ansi_code_page.h"
+#include "os/files.h"
+#include "pictures/pictures.h"
 #include "settings/ini_document.h"
 #include "settings/settings_record.h"
 
 namespace dialog {
+
+// What the settings dialog needs of the machine.
+struct DialogServices {
+  os::Files& files;
+  const os::AnsiCodePage& ansi;
+  pictures::PictureLoader& pictures;
+  forms::Dialogs& dialogs;
+  forms::WindowSystem& windows;
+};
 
 // What the font dialog starts with.
 struct FontDialogState {
@@ -185,9 +197,6 @@ class Form2 : public forms::Form {
   FontDialogState dlgDialog;
   ColorDialogState dlgDialog2;
 
-  // A control by its name; null when there is none.
-  forms::Control* find(std::string_view name) const;
-
   // False after a loading that ended at a failure.
   bool loadedWell() const { return loadedWell_; }
 
@@ -219,21 +228,16 @@ class Form2 : public forms::Form {
   void backgroundCustomImage_Click();
   void backgroundColorGradient_Click();
   void backColorClick_Click();
-  void redSlider_Change();
-  void greenSlider_Change();
-  void blueSlider_Change();
   void aChange_Click();
   void nChange_Click();
   void Text2_Change();
   void Text2_LostFocus();
   void changeVScroll1_Change();
-  void Random_select_Click();
   void pCenter_Click();
   void pRandom_Click();
   void scrollOption_Click();
   void middleOption_Click();
   void font_Click();
-  void MouseSensitiveSlider_Change();
   void defaultMouseSensitivity_Click();
   void PercentSlider_Change();
   void noneOption_Click();

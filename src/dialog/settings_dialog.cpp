@@ -5,7 +5,7 @@
 #include "auxwin/multi_files.h"
 #include "auxwin/open_with_shell.h"
 #include "dialog/save_settings.h"
-#include "settings/settings_path.h"
+#include "settings/settings_file.h"
 
 namespace dialog {
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <utility>
 
-#include "settings/settings_path.h"
+#include "settings/settings_file.h"
 
 namespace startup {
 

@@ -1,4 +1,4 @@
-// A picture in miniature.
+// The small pictures that the dialog draws itself.
 #pragma once
 
 #include "base/bitmap.h"
@@ -10,5 +10,10 @@ namespace dialog {
 // it. It is shrunk as far as needed and never enlarged; it is decoded at the size at which it is shown. Null
 // when it cannot be decoded.
 base::SharedBitmap DrawThumbnail(const forms::Picture& picture, base::PixelSize box);
+
+// The colour gradient as the show draws it: from a colour at the top down to black. The height is divided
+// into 256 bands. Band i is the colour with i taken from each component, not below 0. Components outside 0 to
+// 255 are clamped.
+base::Bitmap DrawGradient(base::PixelSize size, int red, int green, int blue);
 
 }  // namespace dialog

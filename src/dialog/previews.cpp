@@ -1,8 +1,21 @@
-#include "dialog/gradient.h"
+#include "dialog/previews.h"
 
 #include <algorithm>
+#include <memory>
+
+#include "forms/image.h"
 
 namespace dialog {
+
+base::SharedBitmap DrawThumbnail(const forms::Picture& picture, base::PixelSize box) {
+  const base::PixelSize size = forms::FitInside(picture.size(), box);
+  const base::SharedBitmap drawn = picture.drawnAt(size);
+  if (!drawn) return nullptr;
+  auto thumbnail = std::make_shared<base::Bitmap>(box);
+  const base::PixelPoint corner{(box.width - size.width) / 2, (box.height - size.height) / 2};
+  base::CopyRect(thumbnail->view(), corner, *drawn, base::PixelRect::ofSize(size));
+  return thumbnail;
+}
 
 base::Bitmap DrawGradient(base::PixelSize size, int red, int green, int blue) {
   base::Bitmap drawn(size);
