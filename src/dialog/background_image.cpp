@@ -1,28 +1,22 @@
 #include "dialog/background_image.h"
 
-#include "dialog/open_picture_file.h"
+#include "dialog/messages.h"
 #include "pictures/picture.h"
 
 namespace dialog {
 
-BackgroundImage::BackgroundImage(Form2& form)
-    : form_(form), services_(form.services()), storablePaths_(services_) {
+BackgroundImage::BackgroundImage(Form2& form) : form_(form), services_(form.services()), paths_(services_) {
   form_.addBackImg.onClick = [this] { addBackImg_Click(); };
   form_.removeBackImg.onClick = [this] { removeBackImg_Click(); };
 }
 
 void BackgroundImage::addBackImg_Click() {
   if (!form_.record.backgroundImage.empty()) {
-    services_.dialogs.messageBox("You can only display 1 background image.", forms::kExclamation);
+    services_.dialogs.messageBox(kOneBackgroundOnly, forms::kExclamation);
     return;
   }
-  const std::optional<std::string> chosen = services_.dialogs.openFile(OpenPictureFile());
-  if (!chosen) return;
-  const std::optional<std::string> path = storablePaths_.storable(*chosen);
-  if (!path) {
-    storablePaths_.tellLeftOut(1);
-    return;
-  }
+  const std::optional<std::string> path = paths_.ask();
+  if (!path) return;
   form_.record.backgroundImage = *path;
   form_.backgroundImageFile.setText(*path);
   // A picture that cannot be loaded is reported when the dialog is opened again.
@@ -32,7 +26,7 @@ void BackgroundImage::addBackImg_Click() {
 
 void BackgroundImage::removeBackImg_Click() {
   if (form_.backgroundImageFile.text().empty()) {
-    services_.dialogs.messageBox("Nothing to remove.", forms::kExclamation);
+    services_.dialogs.messageBox(kNoBackgroundToRemove, forms::kExclamation);
     return;
   }
   form_.backgroundImageFile.setText({});

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "dialog/form2.h"
-#include "dialog/storable_paths.h"
+#include "dialog/picture_paths.h"
 
 namespace dialog {
 
@@ -17,7 +17,7 @@ class BackgroundImage {
  private:
   Form2& form_;
   DialogServices services_;
-  StorablePaths storablePaths_;
+  PicturePaths paths_;
 };
 
 }  // namespace dialog

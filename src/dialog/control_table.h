@@ -4,7 +4,13 @@
 #include <span>
 #include <string_view>
 
+#include "forms/control.h"
+#include "forms/lists.h"
+#include "forms/ranges.h"
+
 namespace dialog {
+
+class Form2;
 
 // Pixels at 96 dots per inch, relative to the container. The dialog converts them to twips.
 struct Place {
@@ -18,17 +24,21 @@ constexpr int kTwipsPerTablePixel = 15;
 constexpr int kClientWidth = 644;
 constexpr int kClientHeight = 530;
 
+// As a row's hint: the pointer over the control takes the last hint away.
+inline constexpr char kClearsHint[] = "";
+
 struct ControlRow {
-  std::string_view name;
-  std::string_view container;  // empty = the form itself
+  forms::Control& (*control)(Form2& form);
+  forms::Control* (*container)(Form2& form);  // gives null for the form itself
   Place place;
-  std::string_view caption;  // of a text box: its initial text
+  std::string_view caption;
   std::string_view toolTip;
   std::string_view accessibleName;  // for a control that shows no text of its own
+  const char* hint = nullptr;       // what the status bar says of it; null leaves the last hint standing
 };
 
 struct RangeRow {
-  std::string_view name;
+  forms::RangeControl& (*control)(Form2& form);
   int min = 0;
   int max = 0;
   int largeChange = 1;
@@ -37,7 +47,7 @@ struct RangeRow {
 
 // A combo box with the numbers from first to last, in two digits at least.
 struct ComboRow {
-  std::string_view name;
+  forms::ComboBox Form2::*control;
   int first = 0;
   int last = 0;
   std::string_view initialText;

@@ -6,8 +6,7 @@
 
 #include "base/number_text.h"
 #include "dialog/control_table.h"
-#include "dialog/hint_table.h"
-#include "settings/keys.h"
+#include "dialog/option_table.h"
 
 namespace dialog {
 
@@ -37,18 +36,6 @@ void SetText(forms::Control& control, std::string_view text) {
   }
 }
 
-// The value that a control has before anything is read: the key's default.
-std::string DesignText(std::string settings::SettingsRecord::*field) {
-  for (const settings::Key& key : settings::WrittenKeys()) {
-    if (key.field == field) return key.fallback;
-  }
-  return {};
-}
-
-int DesignNumber(std::string settings::SettingsRecord::*field) {
-  return base::StrictInt32(DesignText(field));
-}
-
 }  // namespace
 
 Form2::Form2(const DialogServices& services, std::string programFolder)
@@ -69,17 +56,10 @@ Form2::Form2(const DialogServices& services, std::string programFolder)
   onLoad = [this] { Form_Load(); };
 }
 
-forms::Control* Form2::find(std::string_view name) const {
-  for (forms::Control* control : controls()) {
-    if (control->name() == name) return control;
-  }
-  return nullptr;
-}
-
 void Form2::layOut() {
   for (const ControlRow& row : ControlTable()) {
-    forms::Control& control = *find(row.name);
-    if (!row.container.empty()) control.setContainer(find(row.container));
+    forms::Control& control = row.control(*this);
+    control.setContainer(row.container(*this));
     control.move(Twips(row.place.left), Twips(row.place.top), Twips(row.place.width),
                  Twips(row.place.height));
     SetText(control, row.caption);
@@ -87,15 +67,11 @@ void Form2::layOut() {
     control.setAccessibleName(std::string(row.accessibleName));
   }
   for (const RangeRow& row : RangeTable()) {
-    auto& control = static_cast<forms::RangeControl&>(*find(row.name));
+    forms::RangeControl& control = row.control(*this);
     control.setRange(row.min, row.max, 1, row.largeChange);
     if (auto* slider = dynamic_cast<forms::Slider*>(&control)) slider->setTickFrequency(row.tickFrequency);
   }
-  for (const ComboRow& row : ComboTable()) {
-    auto& combo = static_cast<forms::ComboBox&>(*find(row.name));
-    combo.setItems(Numbers(row.first, row.last));
-    combo.setText(std::string(row.initialText));
-  }
+  for (const ComboRow& row : ComboTable()) (this->*row.control).setItems(Numbers(row.first, row.last));
   for (int i = 0; i < SSTab1.tabCount(); ++i) {
     // Two rows of tabs; the host measures their real height.
     SSTab1.page(i).move(Twips(4), Twips(46), SSTab1.width() - Twips(8), SSTab1.height() - Twips(50));
@@ -120,55 +96,35 @@ void Form2::layOut() {
   photo_caption.setVisible(false);
 }
 
+// Every control starts with its setting's fallback. Nobody listens yet, so that the record stays empty.
 void Form2::setDesignValues() {
-  using R = settings::SettingsRecord;
-  Random_select.setDesignValue(DesignNumber(&R::randomPick));
-  dlgDialog2.color = DesignNumber(&R::newBackColor);
-  Picture1.setBackColor(dlgDialog2.color);
-  backgroundColorGradient.setDesignValue(true);
-  showBackground(Background::Gradient);
-  aChange.setDesignValue(true);
-  EnableChangeControls(true);
-  Text2.setDesignText(DesignText(&R::timeInterval));
-  changeVScroll1.setDesignValue(DesignNumber(&R::timeInterval));
-  pCenter.setDesignValue(true);
-  EnableFloatControls(false);
-  floatSlider.setDesignValue(DesignNumber(&R::picSpeed));
-  FullScreenOption.setDesignValue(true);
-  redPicture.setBackColor(base::Rgb(redSlider.value(), 0, 0));
-  greenPicture.setBackColor(base::Rgb(0, greenSlider.value(), 0));
-  bluePicture.setBackColor(base::Rgb(0, 0, blueSlider.value()));
-  middleOption.setDesignValue(true);
-  scrollSlider.setEnabled(false);
-  scrollSlider.setDesignValue(DesignNumber(&R::scrollSpeed));
-  MouseSensitiveSlider.setDesignValue(DesignNumber(&R::mouseSensitivity));
-  PercentSlider.setDesignValue(DesignNumber(&R::picturePercent));
-  percentLabel.setCaption(DesignText(&R::picturePercent) + "%");
-  for (forms::CheckBox* box : {&Standard, &LWipe, &RWipe, &RLWipe, &UDWipe, &CenterWipe, &HorizontalBlinds,
-                               &VerticalBlinds, &Fade}) {
-    box->setDesignValue(1);
+  for (const OptionRow& row : OptionTable()) row.show(*this, settings::KeyOf(row.field).fallback);
+  for (forms::Slider* slider : {&redSlider, &greenSlider, &blueSlider}) slider->setValue(0);
+  for (forms::PictureBox* swatch : {&redPicture, &greenPicture, &bluePicture}) {
+    swatch->setBackColor(base::kBlack);
   }
-  noneOption.setDesignValue(true);
+  for (const ComboRow& row : ComboTable()) (this->*row.control).setText(std::string(row.initialText));
+  showBackground(Background::Gradient);
+  EnableChangeControls(true);
+  EnableFloatControls(false);
+  scrollSlider.setEnabled(false);
   EnableCountdownCombos(false);
   ShowCountdownCombosInactive();
-  dlgDialog.font = {DesignText(&R::newFontName), base::StrictSingle(DesignText(&R::newFontSize))};
-  dlgDialog.color = DesignNumber(&R::newFontForeColor);
-  Picture2.setBackColor(dlgDialog.color);
-  for (forms::TextBox* box : {&ImagePosition, &Text3, &backgroundImageFile})
+  for (forms::TextBox* box : {&ImagePosition, &Text3, &backgroundImageFile}) {
     box->setBackColor(base::kThreeDLight);
-  for (forms::TextBox* box : {&p_caption}) box->setBackColor(base::kWindowBackground);
+  }
+  p_caption.setBackColor(base::kWindowBackground);
   Text3.setDesignText("Total: 0");
 }
 
 void Form2::connectHints() {
-  const auto show = [this](forms::Control& control, std::string hint) {
-    control.onMouseMove = [this, hint = std::move(hint)](const forms::MouseEvent&) {
-      SS_StatusBar.setPanelText(1, hint);
-    };
+  const auto say = [this](const char* hint) {
+    return [this, hint](const forms::MouseEvent&) { SS_StatusBar.setPanelText(1, hint); };
   };
-  for (const HintRow& row : HintTable()) show(*find(row.control), std::string(row.hint));
-  for (const std::string_view name : HintClearingControls()) show(*find(name), {});
-  onMouseMove = [this](const forms::MouseEvent&) { SS_StatusBar.setPanelText(1, {}); };
+  for (const ControlRow& row : ControlTable()) {
+    if (row.hint) row.control(*this).onMouseMove = say(row.hint);
+  }
+  onMouseMove = say(kClearsHint);
 }
 
 }  // namespace dialog

@@ -2,21 +2,33 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "base/font.h"
-#include "dialog/dialog_services.h"
 #include "forms/buttons.h"
 #include "forms/containers.h"
+#include "forms/dialogs.h"
 #include "forms/form.h"
 #include "forms/lists.h"
 #include "forms/picture_boxes.h"
 #include "forms/ranges.h"
 #include "forms/texts.h"
+#include "forms/window_system.h"
+#include "os/ansi_code_page.h"
+#include "os/files.h"
+#include "pictures/picture.h"
 #include "settings/ini_document.h"
 #include "settings/settings_record.h"
 
 namespace dialog {
+
+// What the settings dialog needs of the machine.
+struct DialogServices {
+  os::Files& files;
+  const os::AnsiCodePage& ansi;
+  pictures::PictureLoader& pictures;
+  forms::Dialogs& dialogs;
+  forms::WindowSystem& windows;
+};
 
 // What the font dialog starts with.
 struct FontDialogState {
@@ -177,9 +189,6 @@ class Form2 : public forms::Form {
   FontDialogState dlgDialog;
   ColorDialogState dlgDialog2;
 
-  // A control by its name; null when there is none.
-  forms::Control* find(std::string_view name) const;
-
   // False after a loading that ended at a failure.
   bool loadedWell() const { return loadedWell_; }
 
@@ -211,21 +220,16 @@ class Form2 : public forms::Form {
   void backgroundCustomImage_Click();
   void backgroundColorGradient_Click();
   void backColorClick_Click();
-  void redSlider_Change();
-  void greenSlider_Change();
-  void blueSlider_Change();
   void aChange_Click();
   void nChange_Click();
   void Text2_Change();
   void Text2_LostFocus();
   void changeVScroll1_Change();
-  void Random_select_Click();
   void pCenter_Click();
   void pRandom_Click();
   void scrollOption_Click();
   void middleOption_Click();
   void font_Click();
-  void MouseSensitiveSlider_Change();
   void defaultMouseSensitivity_Click();
   void PercentSlider_Change();
   void noneOption_Click();

@@ -7,16 +7,17 @@
 #include "base/errors.h"
 #include "base/number_text.h"
 #include "dialog/form2.h"
-#include "dialog/load_table.h"
 #include "dialog/messages.h"
+#include "dialog/option_table.h"
 #include "pictures/picture.h"
-#include "settings/keys.h"
-#include "settings/open_settings.h"
-#include "settings/read_ini_value.h"
+#include "settings/settings_file.h"
+#include "settings/settings_record.h"
 
 namespace dialog {
 
 namespace {
+
+using R = settings::SettingsRecord;
 
 std::vector<std::string> NumberedValues(const settings::IniDocument& document, std::string_view section,
                                         int count) {
@@ -56,23 +57,22 @@ void Form2::loadSettings(settings::SettingsRecord& read) {
   const settings::IniDocument document =
       settings::OpenSettings(services_.files, services_.ansi, programFolder_);
   loadedFile_ = document.serialise();
-  for (const settings::Key& key : settings::ExtraKeys()) {
-    read.*key.field = settings::ReadIniValue(document, key.section, key.name);
+  for (const settings::Key& key : settings::kExtraKeys) {
+    read.*key.field = settings::ReadIniValue(document, key);
   }
   loadPictureList(document, read);
-  for (const LoadRow& row : LoadTable()) {
-    const std::string text = settings::ReadIniValue(document, row.section, row.key);
+  for (const OptionRow& row : OptionTable()) {
+    const std::string text = settings::ReadIniValue(document, settings::KeyOf(row.field));
     read.*row.field = text;
     record.*row.field = text;
-    row.apply(*this, text);
+    row.show(*this, text);
   }
   LoadBackgroundImagePreview(document);
   read.backgroundImage = record.backgroundImage;
 }
 
 void Form2::loadPictureList(const settings::IniDocument& document, settings::SettingsRecord& read) {
-  const settings::Key& key = settings::TotalKey();
-  read.total = settings::ReadIniValue(document, key.section, key.name);
+  read.total = settings::ReadIniValue(document, settings::kTotalKey);
   List1.clear();
   const int total = base::StrictInt32(read.total);
   if (total > std::numeric_limits<std::int16_t>::max()) throw base::Overflow();
@@ -82,7 +82,7 @@ void Form2::loadPictureList(const settings::IniDocument& document, settings::Set
 }
 
 void Form2::LoadBackgroundImagePreview(const settings::IniDocument& document) {
-  record.backgroundImage = settings::ReadIniValue(document, "background", "backgroundImage");
+  record.backgroundImage = settings::ReadIniValue(document, settings::KeyOf(&R::backgroundImage));
   if (record.backgroundImage.empty()) return;
   backgroundImageFile.setText(record.backgroundImage);
   // Decoded once, at the size at which it is shown: a large photo stays cheap and a broken one is found now.

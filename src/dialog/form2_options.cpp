@@ -1,15 +1,13 @@
 // The option pages' handlers: each writes its setting into the record and shows what follows from it.
 #include "base/gradient.h"
 #include "base/number_text.h"
-#include "base/rounding.h"
 #include "dialog/form2.h"
+#include "dialog/option_table.h"
 #include "pictures/picture.h"
 
 namespace dialog {
 
 namespace {
-
-using R = settings::SettingsRecord;
 
 constexpr int kDefaultSensitivity = 23;
 constexpr int kSmallestFont = 10;
@@ -20,80 +18,8 @@ std::string FlagText(bool flag) { return flag ? "True" : "False"; }
 }  // namespace
 
 void Form2::connectOptions() {
-  struct CheckRow {
-    forms::CheckBox& box;
-    std::string R::*field;
-  };
-  for (const CheckRow& row : {CheckRow{Standard, &R::bStandard},
-                              {LWipe, &R::bLeftWipe},
-                              {RWipe, &R::bRightWipe},
-                              {RLWipe, &R::bRightandLeftWipe},
-                              {UDWipe, &R::bUpAndDown},
-                              {CenterWipe, &R::bCenter},
-                              {HorizontalBlinds, &R::bHorizontalBlinds},
-                              {VerticalBlinds, &R::bVerticalBlinds},
-                              {Fade, &R::bFade}}) {
-    row.box.onClick = [this, &box = row.box, field = row.field] {
-      record.*field = box.value() == 1 ? "1" : "0";
-    };
-  }
-
-  struct ChoiceRow {
-    forms::OptionButton& option;
-    std::string R::*field;
-    const char* text;
-  };
-  for (const ChoiceRow& row : {ChoiceRow{CenterOption, &R::backgroundDisplay, "0"},
-                               {FullScreenOption, &R::backgroundDisplay, "1"},
-                               {TileOption, &R::backgroundDisplay, "2"}}) {
-    row.option.onClick = [this, field = row.field, text = row.text] { record.*field = text; };
-  }
-
-  struct SliderRow {
-    forms::Slider& slider;
-    std::string R::*field;
-  };
-  for (const SliderRow& row : {SliderRow{floatSlider, &R::picSpeed}, {scrollSlider, &R::scrollSpeed}}) {
-    row.slider.onChange = [this, &slider = row.slider, field = row.field] {
-      record.*field = base::NumberText(std::int32_t{slider.value()});
-    };
-  }
-
-  struct ComboTextRow {
-    forms::ComboBox& combo;
-    std::string R::*field;
-  };
-  for (const ComboTextRow& row : {ComboTextRow{monthCombo, &R::countdownMonth},
-                                  {dayCombo, &R::countdownDay},
-                                  {yearCombo, &R::countdownYear}}) {
-    row.combo.onClick = [this, &combo = row.combo, field = row.field] { record.*field = combo.text(); };
-  }
-
-  backgroundColor.onClick = [this] { backgroundColor_Click(); };
-  backgroundDesktop.onClick = [this] { backgroundDesktop_Click(); };
-  backgroundCustomImage.onClick = [this] { backgroundCustomImage_Click(); };
-  backgroundColorGradient.onClick = [this] { backgroundColorGradient_Click(); };
-  backColorClick.onClick = [this] { backColorClick_Click(); };
-  redSlider.onChange = [this] { redSlider_Change(); };
-  greenSlider.onChange = [this] { greenSlider_Change(); };
-  blueSlider.onChange = [this] { blueSlider_Change(); };
-  aChange.onClick = [this] { aChange_Click(); };
-  nChange.onClick = [this] { nChange_Click(); };
-  Text2.onChange = [this] { Text2_Change(); };
-  Text2.onLostFocus = [this] { Text2_LostFocus(); };
-  changeVScroll1.onChange = [this] { changeVScroll1_Change(); };
-  Random_select.onClick = [this] { Random_select_Click(); };
-  pCenter.onClick = [this] { pCenter_Click(); };
-  pRandom.onClick = [this] { pRandom_Click(); };
-  scrollOption.onClick = [this] { scrollOption_Click(); };
-  middleOption.onClick = [this] { middleOption_Click(); };
-  font.onClick = [this] { font_Click(); };
-  MouseSensitiveSlider.onChange = [this] { MouseSensitiveSlider_Change(); };
+  for (const OptionRow& row : OptionTable()) row.connect(*this);
   defaultMouseSensitivity.onClick = [this] { defaultMouseSensitivity_Click(); };
-  PercentSlider.onChange = [this] { PercentSlider_Change(); };
-  noneOption.onClick = [this] { noneOption_Click(); };
-  timeOption.onClick = [this] { timeOption_Click(); };
-  yearOption.onClick = [this] { yearOption_Click(); };
   Cancel.onClick = [this] { Cancel_Click(); };
   Exit.onClick = [this] { Exit_Click(); };
 }
@@ -125,24 +51,6 @@ void Form2::backColorClick_Click() {
   dlgDialog2.color = *chosen;
   record.newBackColor = base::NumberText(*chosen);
   Picture1.setBackColor(*chosen);
-}
-
-void Form2::redSlider_Change() {
-  redPicture.setBackColor(base::Rgb(redSlider.value(), 0, 0));
-  record.redBackground = base::NumberText(std::int32_t{redSlider.value()});
-  UpdateGradientPreview();
-}
-
-void Form2::greenSlider_Change() {
-  greenPicture.setBackColor(base::Rgb(0, greenSlider.value(), 0));
-  record.greenBackground = base::NumberText(std::int32_t{greenSlider.value()});
-  UpdateGradientPreview();
-}
-
-void Form2::blueSlider_Change() {
-  bluePicture.setBackColor(base::Rgb(0, 0, blueSlider.value()));
-  record.blueBackground = base::NumberText(std::int32_t{blueSlider.value()});
-  UpdateGradientPreview();
 }
 
 void Form2::UpdateGradientPreview() {
@@ -182,10 +90,6 @@ void Form2::changeVScroll1_Change() {
   Text2.setText(record.timeInterval);
 }
 
-void Form2::Random_select_Click() {
-  record.randomPick = base::NumberText(std::int32_t{Random_select.value()});
-}
-
 void Form2::pCenter_Click() {
   record.picRandom = "cent";
   EnableFloatControls(false);
@@ -220,10 +124,6 @@ void Form2::font_Click() {
   record.newFontFontStrikethru = FlagText(chosen->font.strikethrough);
   record.newFontForeColor = base::NumberText(chosen->color);
   Picture2.setBackColor(chosen->color);
-}
-
-void Form2::MouseSensitiveSlider_Change() {
-  record.mouseSensitivity = base::NumberText(std::int32_t{MouseSensitiveSlider.value()});
 }
 
 void Form2::defaultMouseSensitivity_Click() {

@@ -1,12 +1,31 @@
-// What the settings dialog's message boxes say.
+// What the settings dialog says in message boxes and in the second panel of its status bar.
 #pragma once
 
 namespace dialog {
 
+// Loading.
 inline constexpr char kCouldNotLoad[] =
     "Could not load screen saver properly. Please check all background and regular loaded images. If problem "
     "persists, please reinstall screen saver.";
 inline constexpr char kCouldNotLoadBackground[] =
     "Could not load Background Image correctly. Please reload a new image.";
+
+// The picture list. Moving without a selection has the text of removing.
+inline constexpr char kNothingSelected[] = "Nothing was selected to remove.";
+inline constexpr char kRemoveAllQuestion[] = "Do you really want to remove all loaded images?";
+inline constexpr char kImageFirst[] = "An image must be loaded first.";
+
+// The background picture.
+inline constexpr char kOneBackgroundOnly[] = "You can only display 1 background image.";
+inline constexpr char kNoBackgroundToRemove[] = "Nothing to remove.";
+
+// Saving.
+inline constexpr char kNoImages[] =
+    "There are no images loaded in the Screen Saver. Load at least one image file to be displayed.";
+inline constexpr char kNoBackgroundImage[] =
+    "You must enter a background image for the 'Custom background Image' feature or make another background "
+    "selection.";
+inline constexpr char kInvalidDate[] = "Countdown date is invalid. Please choose a different date.";
+inline constexpr char kFolderReadOnly[] = "Settings cannot be saved in this folder.";
 
 }  // namespace dialog

@@ -6,17 +6,38 @@
 
 #include "auxwin/image_view.h"
 #include "base/number_text.h"
-#include "dialog/open_picture_file.h"
+#include "dialog/messages.h"
 #include "dialog/thumbnail.h"
-#include "settings/read_ini_value.h"
+#include "settings/settings_file.h"
 
 namespace dialog {
 
+SelectionRest::SelectionRest(os::EventLoop& loop, std::function<void()> onRest)
+    : timer_(loop, kRestMs), onRest_(std::move(onRest)) {
+  timer_.onTimer = [this] {
+    const bool waited = waiting_;
+    settle();
+    if (waited) onRest_();
+  };
+}
+
+bool SelectionRest::moved() {
+  const bool rested = !timer_.enabled();
+  if (!rested) {
+    waiting_ = true;
+    timer_.setEnabled(false);
+  }
+  timer_.setEnabled(true);
+  return rested;
+}
+
+void SelectionRest::settle() {
+  timer_.setEnabled(false);
+  waiting_ = false;
+}
+
 PictureList::PictureList(Form2& form, os::EventLoop& loop)
-    : form_(form),
-      services_(form.services()),
-      storablePaths_(services_),
-      rest_(loop, [this] { selectionRested(); }) {
+    : form_(form), services_(form.services()), paths_(services_), rest_(loop, [this] { selectionRested(); }) {
   form_.p_caption.maxLength = static_cast<int>(settings::kLongestValue);
   form_.List1.onClick = [this] { List1_Click(); };
   form_.List1.onFilesDropped = [this](const std::vector<std::string>& paths) { userDropped(paths); };
@@ -34,8 +55,8 @@ auxwin::PictureTarget PictureList::target() {
           form_.photo_caption,
           form_.Text3,
           advice_,
-          [this](const std::string& path) { return storablePaths_.storable(path); },
-          [this](int count) { storablePaths_.tellLeftOut(count); }};
+          [this](const std::string& path) { return paths_.storable(path); },
+          [this](int count) { paths_.tellLeftOut(count); }};
 }
 
 void PictureList::List1_Click() {
@@ -96,13 +117,7 @@ void PictureList::append(std::vector<std::string> paths) {
 }
 
 void PictureList::add_Click() {
-  const std::optional<std::string> chosen = services_.dialogs.openFile(OpenPictureFile());
-  if (!chosen) return;
-  if (const std::optional<std::string> path = storablePaths_.storable(*chosen)) {
-    append({*path});
-  } else {
-    storablePaths_.tellLeftOut(1);
-  }
+  if (const std::optional<std::string> path = paths_.ask()) append({*path});
 }
 
 void PictureList::userDropped(const std::vector<std::string>& paths) {
@@ -110,19 +125,19 @@ void PictureList::userDropped(const std::vector<std::string>& paths) {
   int leftOut = 0;
   for (const std::string& dropped : paths) {
     if (!services_.files.exists(dropped)) continue;
-    if (std::optional<std::string> path = storablePaths_.storable(dropped)) {
+    if (std::optional<std::string> path = paths_.storable(dropped)) {
       added.push_back(std::move(*path));
     } else {
       ++leftOut;
     }
   }
   if (!added.empty()) append(std::move(added));
-  storablePaths_.tellLeftOut(leftOut);
+  paths_.tellLeftOut(leftOut);
 }
 
 bool PictureList::refusedWithoutSelection() {
   if (!form_.List1.text().empty()) return false;
-  services_.dialogs.messageBox("Nothing was selected to remove.", forms::kExclamation);
+  services_.dialogs.messageBox(kNothingSelected, forms::kExclamation);
   return true;
 }
 
@@ -143,8 +158,8 @@ void PictureList::remove_Click() {
 }
 
 void PictureList::RemoveAll_Click() {
-  const forms::Answer answer = services_.dialogs.messageBox("Do you really want to remove all loaded images?",
-                                                            forms::kYesNo | forms::kQuestion);
+  const forms::Answer answer =
+      services_.dialogs.messageBox(kRemoveAllQuestion, forms::kYesNo | forms::kQuestion);
   if (answer != forms::Answer::Yes) return;
   rest_.settle();
   form_.List1.clear();
@@ -180,7 +195,7 @@ void PictureList::p_caption_Change() {
   if (index >= 0) {
     form_.photo_caption.setItem(index, text);
   } else if (!text.empty() && form_.List1.listCount() == 0) {
-    services_.dialogs.messageBox("An image must be loaded first.", forms::kExclamation);
+    services_.dialogs.messageBox(kImageFirst, forms::kExclamation);
     form_.p_caption.setText({});
   }
 }

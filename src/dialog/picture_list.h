@@ -1,16 +1,41 @@
 // The pictures and captions of the settings dialog.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "auxwin/picture_target.h"
 #include "dialog/form2.h"
-#include "dialog/selection_rest.h"
-#include "dialog/storable_paths.h"
+#include "dialog/picture_paths.h"
+#include "forms/timer.h"
 #include "os/event_loop.h"
 
 namespace dialog {
+
+// Whether a list's selection rests or is running over rows. While an arrow key is held down the selection
+// moves many times a second, faster than large photos can be decoded. What is shown of the selected row waits
+// until the selection rests; the rows that it passed are skipped. A selection that comes out of rest is shown
+// without delay.
+class SelectionRest {
+ public:
+  // A held key repeats every 30 to 50 milliseconds; hardly anybody presses keys much faster than this.
+  static constexpr int kRestMs = 120;
+
+  SelectionRest(os::EventLoop& loop, std::function<void()> onRest);
+
+  // The selection has moved. True when it had been resting: what it stands on is shown now. Otherwise onRest
+  // is called once it has not moved for the time above.
+  bool moved();
+
+  // The selection rests: what waited for that is forgotten, and the next move is shown without delay.
+  void settle();
+
+ private:
+  forms::Timer timer_;
+  std::function<void()> onRest_;
+  bool waiting_ = false;
+};
 
 // The handlers of the first tab, which it sets on the controls of a form that must outlive it. Entry i of
 // photo_caption is always the caption of entry i of List1.
@@ -49,7 +74,7 @@ class PictureList {
 
   Form2& form_;
   DialogServices services_;
-  StorablePaths storablePaths_;
+  PicturePaths paths_;
   SelectionRest rest_;
   auxwin::ManyImagesAdvice advice_;
   std::string previewed_;  // the path whose thumbnail photo1 shows

@@ -6,9 +6,9 @@
 #include "base/calendar.h"
 #include "base/errors.h"
 #include "base/number_text.h"
+#include "dialog/messages.h"
 #include "settings/ini_document.h"
-#include "settings/settings_path.h"
-#include "settings/write_settings.h"
+#include "settings/settings_file.h"
 
 namespace dialog {
 
@@ -32,13 +32,12 @@ bool IsDateUsable(const settings::SettingsRecord& record) {
 // What speaks against saving; null when nothing does.
 const char* FaultOf(const Form2& form) {
   if (form.List1.item(0).empty()) {
-    return "There are no images loaded in the Screen Saver. Load at least one image file to be displayed.";
+    return kNoImages;
   }
   if (form.record.backEffect == "2" && form.record.backgroundImage.empty()) {
-    return "You must enter a background image for the 'Custom background Image' feature or make another "
-           "background selection.";
+    return kNoBackgroundImage;
   }
-  if (!IsDateUsable(form.record)) return "Countdown date is invalid. Please choose a different date.";
+  if (!IsDateUsable(form.record)) return kInvalidDate;
   return nullptr;
 }
 
@@ -79,7 +78,7 @@ bool SaveSettings(Form2& form) {
 
 void ShowWhetherSettingsCanBeSaved(Form2& form) {
   const bool writable = form.services().files.canWriteIn(form.programFolder());
-  form.SS_StatusBar.setPanelText(kFolderPanel, writable ? "" : "Settings cannot be saved in this folder.");
+  form.SS_StatusBar.setPanelText(kFolderPanel, writable ? "" : kFolderReadOnly);
 }
 
 }  // namespace dialog

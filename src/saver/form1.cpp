@@ -7,8 +7,7 @@
 #include "base/errors.h"
 #include "base/number_text.h"
 #include "base/rounding.h"
-#include "settings/open_settings.h"
-#include "settings/read_ini_value.h"
+#include "settings/settings_file.h"
 
 namespace saver {
 

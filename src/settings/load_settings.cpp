@@ -8,16 +8,13 @@
 #include "base/errors.h"
 #include "base/number_text.h"
 #include "base/rounding.h"
-#include "settings/keys.h"
-#include "settings/open_settings.h"
-#include "settings/read_ini_value.h"
+#include "settings/settings_file.h"
 
 namespace settings {
 
 namespace {
 
 using R = SettingsRecord;
-using Field = std::string R::*;
 
 // The keys in the order of reading. The strict conversions that follow some of them may end the reading, and
 // then what stands behind is not touched.
@@ -32,13 +29,6 @@ constexpr Field kUpToTimeDisplay[] = {
     &R::scrollSpeed, &R::bStandard,      &R::bLeftWipe,         &R::bRightWipe,      &R::bRightandLeftWipe,
     &R::bUpAndDown,  &R::bCenter,        &R::bHorizontalBlinds, &R::bVerticalBlinds, &R::bFade,
     &R::timeDisplay, &R::countdownMonth, &R::countdownDay,      &R::countdownYear};
-
-const Key& KeyOf(Field field) {
-  for (const Key& key : WrittenKeys()) {
-    if (key.field == field) return key;
-  }
-  return TotalKey();
-}
 
 // [total] as a number. More pictures than a 16-bit index can count are refused before room is made for them.
 double CheckedTotal(std::string_view text) {
@@ -62,11 +52,11 @@ class Loader {
     readPictureScale();
     for (const Field field : kUpToTimeDisplay) read(KeyOf(field));
     setCountdownTarget();
-    for (const Key& key : ExtraKeys()) read(key);
+    for (const Key& key : kExtraKeys) read(key);
   }
 
  private:
-  void read(const Key& key) { record_.*key.field = ReadIniValue(document_, key.section, key.name); }
+  void read(const Key& key) { record_.*key.field = ReadIniValue(document_, key); }
 
   void mend(const Key& key) {
     if (conversion_ == Conversion::Strict) throw;
@@ -90,7 +80,7 @@ class Loader {
     try {
       return CheckedTotal(record_.total);
     } catch (const base::TypeMismatch&) {
-      mend(TotalKey());
+      mend(kTotalKey);
     }
     return CheckedTotal(record_.total);
   }
@@ -98,7 +88,7 @@ class Loader {
   // Pictures are counted by the whole part of the total, and room is made by the rounded total, which is
   // never less; so the last entry stays empty.
   void readPictures() {
-    read(TotalKey());
+    read(kTotalKey);
     const double wanted = std::max(total(), 0.0);
     const auto entries = static_cast<std::size_t>(base::ToInt32(wanted)) + 1;
     const auto count = static_cast<std::int16_t>(base::Int(wanted));
@@ -144,11 +134,6 @@ class Loader {
 
 void LoadSettings(SaverSettings& into, const IniDocument& document, Conversion conversion) {
   Loader(into, document, conversion).load();
-}
-
-void LoadSettings(SaverSettings& into, os::Files& files, const os::AnsiCodePage& ansi,
-                  const std::string& programFolder, Conversion conversion) {
-  LoadSettings(into, OpenSettings(files, ansi, programFolder), conversion);
 }
 
 }  // namespace settings

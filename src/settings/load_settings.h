@@ -5,8 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "os/ansi_code_page.h"
-#include "os/files.h"
 #include "settings/ini_document.h"
 #include "settings/settings_record.h"
 
@@ -35,13 +33,8 @@ enum class Conversion {
            // hold), with the fields read so far set and the rest untouched
 };
 
-// Reads `zbfaone.ini` in `programFolder` into `into`, seeding the sample pictures first when the file carries
-// the first-run marker. A missing file, section or key reads as empty text. Throws base::Overflow for more
-// than 32767 pictures in either mode.
-void LoadSettings(SaverSettings& into, os::Files& files, const os::AnsiCodePage& ansi,
-                  const std::string& programFolder, Conversion conversion = Conversion::Mend);
-
-// The same from a document that has been opened already.
+// Reads an opened settings file into `into`. A missing section or key reads as empty text. Throws
+// base::Overflow for more than 32767 pictures in either mode.
 void LoadSettings(SaverSettings& into, const IniDocument& document, Conversion conversion = Conversion::Mend);
 
 }  // namespace settings

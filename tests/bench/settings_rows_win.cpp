@@ -10,9 +10,7 @@
 #include "os/files_win.h"
 #include "os/utf16_win.h"
 #include "settings/load_settings.h"
-#include "settings/open_settings.h"
-#include "settings/settings_path.h"
-#include "settings/write_settings.h"
+#include "settings/settings_file.h"
 #include "support/temporary_folder_win.h"
 
 namespace bench {
@@ -43,7 +41,7 @@ class Folder {
 
   void load() {
     settings::SaverSettings loaded;
-    settings::LoadSettings(loaded, files_, ansi_, path());
+    settings::LoadSettings(loaded, settings::OpenSettings(files_, ansi_, path()));
   }
 
   void save() {

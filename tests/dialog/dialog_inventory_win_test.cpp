@@ -28,7 +28,7 @@ struct DialogInventory : testing::Test {
     const std::map<HWND, std::string> tips = dialog.toolTips();
     for (const Row& row : rows) {
       SCOPED_TRACE(row.name);
-      const forms::Control* control = dialog.form().find(row.name);
+      const forms::Control* control = support::ControlNamed(dialog.form(), row.name);
       ASSERT_TRUE(control);
       const HWND window = dialog.windowOf(*control);
       ASSERT_TRUE(window);

@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "dialog/hint_table.h"
+#include "dialog/control_table.h"
 #include "support/dialog_machine.h"
 
 namespace dialog {
@@ -40,16 +40,18 @@ struct Form2Hints : testing::Test {
 };
 
 TEST_F(Form2Hints, EveryRowShowsItsHintOverItsControl) {
-  EXPECT_EQ(HintTable().size(), 39U);
-  for (const HintRow& row : HintTable()) {
-    SCOPED_TRACE(row.control);
-    forms::Control* control = form.find(row.control);
-    ASSERT_TRUE(control);
+  int hints = 0;
+  for (const ControlRow& row : ControlTable()) {
+    if (!row.hint || row.hint == std::string_view(kClearsHint)) continue;
+    ++hints;
+    forms::Control& control = row.control(form);
+    SCOPED_TRACE(control.name());
     // What the choices disable is tried enabled.
-    for (forms::Control* on = control; on; on = on->container()) on->setEnabled(true);
+    for (forms::Control* on = &control; on; on = on->container()) on->setEnabled(true);
     form.SS_StatusBar.setPanelText(1, "before");
-    EXPECT_EQ(over(*control), row.hint);
+    EXPECT_EQ(over(control), row.hint);
   }
+  EXPECT_EQ(hints, 39);
 }
 
 TEST_F(Form2Hints, SomeHintsWordForWord) {
@@ -78,8 +80,9 @@ TEST_F(Form2Hints, TheBareFormTheTabsAndFourFramesClear) {
 
 TEST_F(Form2Hints, EveryOtherControlLeavesTheHintStanding) {
   std::set<std::string_view> known = {"photo", "photo_caption"};
-  for (const HintRow& row : HintTable()) known.insert(row.control);
-  for (const std::string_view name : HintClearingControls()) known.insert(name);
+  for (const ControlRow& row : ControlTable()) {
+    if (row.hint) known.insert(row.control(form).name());
+  }
   int others = 0;
   for (forms::Control* control : form.controls()) {
     if (known.contains(control->name()) || control->kind() == forms::ControlKind::TabPage) continue;

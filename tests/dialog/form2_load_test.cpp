@@ -3,9 +3,8 @@
 #include <functional>
 
 #include "base/color.h"
-#include "dialog/load_table.h"
 #include "dialog/messages.h"
-#include "settings/keys.h"
+#include "dialog/option_table.h"
 #include "support/dialog_machine.h"
 
 namespace dialog {
@@ -175,7 +174,7 @@ TEST_F(Form2Load, EveryKeyFillsItsControlAndItsField) {
   for (const Case& each : cases) {
     SCOPED_TRACE(each.key + "=" + each.text);
     support::DialogMachine other;
-    const settings::Key& key = *settings::FindKey(each.key);
+    const settings::Key& key = support::KeyNamed(each.key);
     other.set(key.section, each.key, each.text);
     Form2& form = other.open();
     EXPECT_TRUE(other.dialogs.messages.empty());
@@ -205,7 +204,7 @@ TEST_F(Form2Load, ANumberOutOfRangeIsClampedInTheControlAlone) {
   for (const Case& each : cases) {
     SCOPED_TRACE(each.key + "=" + each.text);
     support::DialogMachine other;
-    const settings::Key& key = *settings::FindKey(each.key);
+    const settings::Key& key = support::KeyNamed(each.key);
     other.set(key.section, each.key, each.text);
     Form2& form = other.open();
     EXPECT_TRUE(other.dialogs.messages.empty());
@@ -220,7 +219,7 @@ TEST_F(Form2Load, AChoiceThatDoesNotExistChoosesNothing) {
         Case{"backgroundDisplay", "3", "FullScreenOption"}, Case{"scroll", "2", "middleOption"}}) {
     SCOPED_TRACE(each.key);
     support::DialogMachine other;
-    const settings::Key& key = *settings::FindKey(each.key);
+    const settings::Key& key = support::KeyNamed(each.key);
     other.set(key.section, each.key, each.text);
     Form2& form = other.open();
     EXPECT_TRUE(other.dialogs.messages.empty());
@@ -242,19 +241,19 @@ TEST_F(Form2Load, TheFirstTextThatDoesNotConvertEndsLoading) {
   const std::unique_ptr<Form2> design = untouched();
   for (const std::string bad :
        {"<missing>", "", "abc", "1.5.5", "99999999999999999999999999999999999999999"}) {
-    for (std::size_t failing = 0; failing < LoadTable().size(); ++failing) {
-      const LoadRow& row = LoadTable()[failing];
-      if (TakesAnyText(row.key)) continue;
-      if (bad.size() > 20 && IsFlag(row.key)) continue;  // any number that is not 0 means True
-      SCOPED_TRACE(std::string(row.key) + "=" + bad);
+    for (std::size_t failing = 0; failing < OptionTable().size(); ++failing) {
+      const settings::Key& row = settings::KeyOf(OptionTable()[failing].field);
+      if (TakesAnyText(row.name)) continue;
+      if (bad.size() > 20 && IsFlag(row.name)) continue;  // any number that is not 0 means True
+      SCOPED_TRACE(std::string(row.name) + "=" + bad);
       support::DialogMachine other;
       other.set("total", "total", "1");
       other.set("images", "0", "C:\\a.gif");
       other.set("background", "backgroundImage", "C:\\back.bmp");
       if (bad == "<missing>") {
-        other.drop(row.section, row.key);
+        other.drop(row.section, row.name);
       } else {
-        other.set(row.section, row.key, bad);
+        other.set(row.section, row.name, bad);
       }
       Form2& form = other.open();
       ASSERT_EQ(other.dialogs.messages, std::vector{kLoadFailed});
@@ -266,14 +265,14 @@ TEST_F(Form2Load, TheFirstTextThatDoesNotConvertEndsLoading) {
       EXPECT_EQ(form.record.*row.field, bad == "<missing>" ? "" : bad) << "it was read";
       support::DialogMachine good;
       Form2& whole = good.open();
-      for (std::size_t i = 0; i < LoadTable().size(); ++i) {
-        const LoadRow& each = LoadTable()[i];
+      for (std::size_t i = 0; i < OptionTable().size(); ++i) {
+        const settings::Key& each = settings::KeyOf(OptionTable()[i].field);
         if (i < failing) {
-          EXPECT_EQ(shownFor(form, each.key), shownFor(whole, each.key)) << each.key;
-          EXPECT_EQ(form.record.*each.field, whole.record.*each.field) << each.key;
+          EXPECT_EQ(shownFor(form, each.name), shownFor(whole, each.name)) << each.name;
+          EXPECT_EQ(form.record.*each.field, whole.record.*each.field) << each.name;
         } else if (i > failing) {
-          EXPECT_EQ(shownFor(form, each.key), shownFor(*design, each.key)) << each.key;
-          EXPECT_EQ(form.record.*each.field, "") << each.key;
+          EXPECT_EQ(shownFor(form, each.name), shownFor(*design, each.name)) << each.name;
+          EXPECT_EQ(form.record.*each.field, "") << each.name;
         }
       }
     }
@@ -281,31 +280,26 @@ TEST_F(Form2Load, TheFirstTextThatDoesNotConvertEndsLoading) {
 }
 
 TEST_F(Form2Load, TheRowsAreLoadedInTheirOrder) {
-  const std::vector<std::string> expected = {"1 randomPick",         "2 newBackColor",
-                                             "3 backEffect",         "4 picRandom",
-                                             "5 picSpeed",           "6 picChange",
-                                             "7 timeInterval",       "8 backgroundDisplay",
-                                             "9 redBackground",      "10 greenBackground",
-                                             "11 blueBackground",    "12 scroll",
-                                             "13 mouseSensitivity",  "14 picturePercent",
-                                             "15 scrollSpeed",       "16 bStandard",
-                                             "16 bLeftWipe",         "16 bRightWipe",
-                                             "16 bRightandLeftWipe", "16 bUpAndDown",
-                                             "16 bCenter",           "16 bHorizontalBlinds",
-                                             "16 bVerticalBlinds",   "16 bFade",
-                                             "17 timeDisplay",       "18 countdownMonth",
-                                             "18 countdownDay",      "18 countdownYear",
-                                             "19 newFontName",       "19 newFontSize",
-                                             "19 newFontBold",       "19 newFontItalic",
-                                             "19 newFontUnderline",  "19 newFontFontStrikethru",
-                                             "19 newFontForeColor"};
+  const std::vector<std::string> expected = {"randomPick",        "newBackColor",
+                                             "backEffect",        "picRandom",
+                                             "picSpeed",          "picChange",
+                                             "timeInterval",      "backgroundDisplay",
+                                             "redBackground",     "greenBackground",
+                                             "blueBackground",    "scroll",
+                                             "mouseSensitivity",  "picturePercent",
+                                             "scrollSpeed",       "bStandard",
+                                             "bLeftWipe",         "bRightWipe",
+                                             "bRightandLeftWipe", "bUpAndDown",
+                                             "bCenter",           "bHorizontalBlinds",
+                                             "bVerticalBlinds",   "bFade",
+                                             "timeDisplay",       "countdownMonth",
+                                             "countdownDay",      "countdownYear",
+                                             "newFontName",       "newFontSize",
+                                             "newFontBold",       "newFontItalic",
+                                             "newFontUnderline",  "newFontFontStrikethru",
+                                             "newFontForeColor"};
   std::vector<std::string> rows;
-  for (const LoadRow& row : LoadTable()) {
-    rows.push_back(std::to_string(row.order) + " " + row.key);
-    const settings::Key& key = *settings::FindKey(row.key);
-    EXPECT_STREQ(key.section, row.section);
-    EXPECT_EQ(key.field, row.field) << row.key;
-  }
+  for (const OptionRow& row : OptionTable()) rows.emplace_back(settings::KeyOf(row.field).name);
   EXPECT_EQ(rows, expected);
 }
 
@@ -316,8 +310,10 @@ TEST_F(Form2Load, WithoutATotalNothingIsLoaded) {
   Form2& form = machine.open();
   EXPECT_EQ(machine.dialogs.messages, std::vector{kLoadFailed});
   EXPECT_EQ(form.List1.listCount(), 0);
-  for (const LoadRow& row : LoadTable())
-    EXPECT_EQ(shownFor(form, row.key), shownFor(*design, row.key)) << row.key;
+  for (const OptionRow& row : OptionTable()) {
+    const std::string key = settings::KeyOf(row.field).name;
+    EXPECT_EQ(shownFor(form, key), shownFor(*design, key)) << key;
+  }
 }
 
 TEST_F(Form2Load, ATotalThatIsNoCountEndsLoading) {

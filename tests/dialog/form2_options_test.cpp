@@ -308,7 +308,7 @@ TEST_F(Form2Options, TheDesignedDialogIsEnabledAsItsChoicesWouldEnableIt) {
   form.timeOption.userClicked();
   form.noneOption.userClicked();
   for (const forms::Control* control : designed.controls()) {
-    const forms::Control& same = *form.find(control->name());
+    const forms::Control& same = *support::ControlNamed(form, control->name());
     EXPECT_EQ(control->enabled(), same.enabled()) << control->name();
     if (control->kind() != forms::ControlKind::PictureBox) {
       EXPECT_EQ(control->backColor(), same.backColor()) << control->name();

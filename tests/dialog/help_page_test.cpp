@@ -7,7 +7,7 @@
 
 #include "base/text.h"
 #include "dialog/control_table.h"
-#include "settings/keys.h"
+#include "settings/settings_record.h"
 #include "support/settings_dialog_machine.h"
 
 namespace dialog {
@@ -45,7 +45,7 @@ TEST(HelpPage, NamesEveryTabControlAndMenuByItsCaption) {
     EXPECT_NE(page.find(Shown(tab) + "</h2>"), std::string::npos) << tab;
   }
   for (const ControlRow& row : ControlTable()) {
-    EXPECT_NE(page.find(Shown(row.caption)), std::string::npos) << row.name << ": " << row.caption;
+    EXPECT_NE(page.find(Shown(row.caption)), std::string::npos) << row.caption;
   }
   support::SettingsDialogMachine machine;
   for (const forms::MenuItem* menu : machine.openDialog().form.menu) {
@@ -58,7 +58,8 @@ TEST(HelpPage, NamesEveryTabControlAndMenuByItsCaption) {
 
 TEST(HelpPage, NamesEveryKeyOfTheSettingsFile) {
   const std::string page = Page();
-  for (const std::span<const settings::Key> keys : {settings::WrittenKeys(), settings::ExtraKeys()}) {
+  for (const auto keys :
+       std::initializer_list<std::span<const settings::Key>>{settings::kWrittenKeys, settings::kExtraKeys}) {
     for (const settings::Key& key : keys) {
       EXPECT_NE(page.find(std::string("<code>") + key.name + "</code>"), std::string::npos) << key.name;
     }

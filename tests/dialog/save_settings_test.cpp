@@ -4,7 +4,7 @@
 
 #include "settings/ini_document.h"
 #include "settings/load_settings.h"
-#include "settings/read_ini_value.h"
+#include "settings/settings_file.h"
 #include "support/settings_dialog_machine.h"
 
 namespace dialog {
@@ -350,7 +350,7 @@ TEST_F(SaveSettingsTest, TheShowReadsWhatTheDialogSaved) {
   form.up.userClicked();
   expectSaved(form);
   settings::SaverSettings loaded;
-  settings::LoadSettings(loaded, machine.files, machine.ansi, machine.kProgramFolder,
+  settings::LoadSettings(loaded, settings::OpenSettings(machine.files, machine.ansi, machine.kProgramFolder),
                          settings::Conversion::Strict);
   EXPECT_EQ(loaded.imageFiles, (std::vector<std::string>{"a.gif", "b.gif", "c.gif", ""}));
   EXPECT_EQ(loaded.imageCaptions, (std::vector<std::string>{"A", "", "C", ""}));

@@ -8,7 +8,7 @@
 #include "os/files_win.h"
 #include "os/utf16_win.h"
 #include "settings/load_settings.h"
-#include "settings/settings_path.h"
+#include "settings/settings_file.h"
 #include "support/temporary_folder_win.h"
 
 namespace {
@@ -46,7 +46,7 @@ TEST(Saving, AProcessKilledAtAnyInstantLeavesTheOldFileOrTheNewOneWhole) {
       DeleteFileW(os::ToWide(started).c_str());
     }
     settings::SaverSettings loaded;
-    settings::LoadSettings(loaded, files, ansi, folder.path());
+    settings::LoadSettings(loaded, settings::OpenSettings(files, ansi, folder.path()));
     const std::string kind = KindOf(loaded);
     ASSERT_TRUE(kind == "odd" || kind == "even") << "after kill " << kill;
     ++(kind == "odd" ? odd : even);

@@ -5,9 +5,7 @@
 #include "e2e/saving_process.h"
 #include "os/ansi_code_page_win.h"
 #include "os/files_win.h"
-#include "settings/open_settings.h"
-#include "settings/settings_path.h"
-#include "settings/write_settings.h"
+#include "settings/settings_file.h"
 
 namespace e2e {
 

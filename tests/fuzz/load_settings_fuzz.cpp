@@ -9,10 +9,9 @@
 #include "fuzz/input.h"
 #include "fuzz/oracles/naive_ini.h"
 #include "fuzz/require.h"
-#include "settings/keys.h"
 #include "settings/load_settings.h"
-#include "settings/read_ini_value.h"
-#include "settings/write_settings.h"
+#include "settings/settings_file.h"
+#include "settings/settings_record.h"
 #include "support/windows_1252.h"
 
 namespace {
@@ -55,7 +54,8 @@ std::optional<SaverSettings> LoadMending(const settings::IniDocument& document) 
 
 bool SameRecord(const settings::SettingsRecord& a, const settings::SettingsRecord& b) {
   if (a.total != b.total) return false;
-  for (const auto table : {settings::WrittenKeys(), settings::ExtraKeys()}) {
+  for (const auto table :
+       std::initializer_list<std::span<const settings::Key>>{settings::kWrittenKeys, settings::kExtraKeys}) {
     for (const settings::Key& key : table) {
       if (a.*key.field != b.*key.field) return false;
     }
@@ -82,7 +82,7 @@ void CheckLists(const SaverSettings& loaded) {
 
 void CheckRecord(const SaverSettings& loaded, const settings::IniDocument& document,
                  const fuzz::NaiveIni& naive) {
-  for (const settings::Key& key : settings::WrittenKeys()) {
+  for (const settings::Key& key : settings::kWrittenKeys) {
     const std::string& field = loaded.record.*key.field;
     if (IsMended(loaded, key)) continue;
     const std::string_view name = key.name;
@@ -109,11 +109,11 @@ void CheckSaving(const SaverSettings& loaded, settings::IniDocument document, co
   settings::WriteSettings(document, loaded.record, paths, captions);
   const std::string bytes = document.serialise();
   const settings::IniDocument reread(bytes, ansi);
-  for (const settings::Key& key : settings::WrittenKeys()) {
+  for (const settings::Key& key : settings::kWrittenKeys) {
     fuzz::Require(reread.value(key.section, key.name) == loaded.record.*key.field,
                   "a saved setting reads back");
   }
-  for (const settings::Key& key : settings::ExtraKeys()) {
+  for (const settings::Key& key : settings::kExtraKeys) {
     fuzz::Require(settings::ReadIniValue(reread, key.section, key.name) == loaded.record.*key.field,
                   "what is not written stays");
   }

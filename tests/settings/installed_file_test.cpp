@@ -6,8 +6,9 @@
 #include "base/number_text.h"
 #include "base/text.h"
 #include "settings/ini_document.h"
-#include "settings/keys.h"
 #include "settings/load_settings.h"
+#include "settings/settings_file.h"
+#include "settings/settings_record.h"
 #include "support/fake_files.h"
 #include "support/windows_1252.h"
 
@@ -24,16 +25,16 @@ settings::SaverSettings LoadInstalled() {
   support::FakeFiles files;
   files.content["C:\\Lumora\\zbfaone.ini"] = InstalledFile();
   settings::SaverSettings loaded;
-  LoadSettings(loaded, files, kWestern, "C:\\Lumora", settings::Conversion::Strict);
+  LoadSettings(loaded, settings::OpenSettings(files, kWestern, "C:\\Lumora"), settings::Conversion::Strict);
   return loaded;
 }
 
 TEST(InstalledFile, HoldsEveryKeyOfTheTable) {
   const settings::IniDocument document(InstalledFile(), kWestern);
   EXPECT_TRUE(document.has("total", "total"));
-  for (const settings::Key& key : settings::WrittenKeys())
+  for (const settings::Key& key : settings::kWrittenKeys)
     EXPECT_TRUE(document.has(key.section, key.name)) << key.name;
-  for (const settings::Key& key : settings::ExtraKeys())
+  for (const settings::Key& key : settings::kExtraKeys)
     EXPECT_TRUE(document.has(key.section, key.name)) << key.name;
 }
 
@@ -57,7 +58,7 @@ TEST(InstalledFile, ShowsTheTwoSamplesWithTheirCaptionsAtTheFirstRun) {
 
 TEST(InstalledFile, HoldsValuesThatTheirUsersCanConvert) {
   const settings::SettingsRecord record = LoadInstalled().record;
-  for (const settings::Key& key : settings::WrittenKeys()) {
+  for (const settings::Key& key : settings::kWrittenKeys) {
     const std::string& text = record.*key.field;
     const std::string name = key.name;
     if (name == "picRandom" || name == "picChange" || name == "newFontName" || name == "backgroundImage")

@@ -1,4 +1,5 @@
 #include "settings/load_settings.h"
+#include "settings/settings_file.h"
 
 #include <gtest/gtest.h>
 
@@ -10,6 +11,7 @@ namespace {
 
 using settings::Conversion;
 using settings::LoadSettings;
+using settings::OpenSettings;
 using settings::SaverSettings;
 
 constexpr const char* kFolder = "C:\\Lumora";
@@ -27,7 +29,7 @@ struct Folder {
   explicit Folder(const std::string& ini) { files.content[kPath] = ini; }
 
   SaverSettings& load(Conversion conversion = Conversion::Strict) {
-    LoadSettings(settings, files, kWestern, kFolder, conversion);
+    LoadSettings(settings, OpenSettings(files, kWestern, kFolder), conversion);
     return settings;
   }
 };
@@ -258,7 +260,7 @@ TEST(LoadSettings, AGoodFileReportsNothingAfterABadOne) {
 
 TEST(LoadSettings, TheFolderMayEndInABackslashAndNoOtherPathIsRead) {
   Folder folder(Ini("0"));
-  LoadSettings(folder.settings, folder.files, kWestern, "C:\\Lumora\\", Conversion::Strict);
+  LoadSettings(folder.settings, OpenSettings(folder.files, kWestern, "C:\\Lumora\\"), Conversion::Strict);
   EXPECT_EQ(folder.files.reads, std::vector<std::string>{kPath});
 }
 

@@ -17,10 +17,9 @@
 #include "os/files_win.h"
 #include "os/utf16_win.h"
 #include "settings/ini_document.h"
-#include "settings/keys.h"
 #include "settings/load_settings.h"
-#include "settings/read_ini_value.h"
-#include "settings/write_settings.h"
+#include "settings/settings_file.h"
+#include "settings/settings_record.h"
 #include "support/temporary_folder_win.h"
 
 namespace {
@@ -228,14 +227,14 @@ TEST_F(ProfileFunctions, AFileThatTheyWroteIsLoadedAndSavedWithoutLoss) {
   systemSet("images", "0", "C:\\caf\xE9.jpg");
   systemSet("images", "1", "C:\\b.jpg");
   systemSet("caption", "1", "\"  quoted  \"");
-  for (const settings::Key& key : settings::WrittenKeys()) systemSet(key.section, key.name, "7");
+  for (const settings::Key& key : settings::kWrittenKeys) systemSet(key.section, key.name, "7");
   systemSet("image", "timeDisplay", "0");
 
   const std::string written = content();
   EXPECT_EQ(IniDocument(written, ansi_).serialise(), written);
 
   settings::SaverSettings loaded;
-  LoadSettings(loaded, files_, ansi_, folder_.path(), settings::Conversion::Strict);
+  LoadSettings(loaded, settings::OpenSettings(files_, ansi_, folder_.path()), settings::Conversion::Strict);
   EXPECT_EQ(loaded.imageFiles, (std::vector<std::string>{"C:\\caf\xC3\xA9.jpg", "C:\\b.jpg", ""}));
   EXPECT_EQ(loaded.imageCaptions, (std::vector<std::string>{"", "  quoted  ", ""}));
   EXPECT_EQ(loaded.record.bFade, "7");
@@ -253,11 +252,11 @@ TEST_F(ProfileFunctions, AFileThatTheyWroteIsLoadedAndSavedWithoutLoss) {
 TEST_F(ProfileFunctions, TheyReadEveryKeyThatWeWrote) {
   settings::SettingsRecord record;
   int number = 100;
-  for (const settings::Key& key : settings::WrittenKeys()) record.*key.field = std::to_string(number++);
+  for (const settings::Key& key : settings::kWrittenKeys) record.*key.field = std::to_string(number++);
   IniDocument document("", ansi_);
   WriteSettings(document, record, {"C:\\a.jpg"}, {" \"A\" "});
   ASSERT_TRUE(files_.replace(path_, document.serialise()));
-  for (const settings::Key& key : settings::WrittenKeys()) {
+  for (const settings::Key& key : settings::kWrittenKeys) {
     EXPECT_EQ(systemValue(key.section, key.name), record.*key.field) << key.name;
   }
   EXPECT_EQ(systemValue("total", "total"), "1");

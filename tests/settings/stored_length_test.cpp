@@ -1,4 +1,4 @@
-#include "settings/stored_length.h"
+#include "settings/settings_file.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,7 @@
 #include "support/dialog_machine.h"
 
+#include <stdexcept>
+
 namespace support {
 
 DialogMachine::DialogMachine() {
@@ -60,6 +62,24 @@ dialog::Form2& DialogMachine::open() {
                                           kProgramFolder);
   windows.show(*form_);
   return *form_;
+}
+
+forms::Control* ControlNamed(const forms::Form& form, std::string_view name) {
+  for (forms::Control* control : form.controls()) {
+    if (control->name() == name) return control;
+  }
+  return nullptr;
+}
+
+const settings::Key& KeyNamed(std::string_view name) {
+  for (const settings::Key& key : settings::kWrittenKeys) {
+    if (key.name == name) return key;
+  }
+  for (const settings::Key& key : settings::kExtraKeys) {
+    if (key.name == name) return key;
+  }
+  if (name != settings::kTotalKey.name) throw std::logic_error("no key " + std::string(name));
+  return settings::kTotalKey;
 }
 
 }  // namespace support

@@ -3,6 +3,7 @@
 
 #include <map>
 #include <string>
+#include <string_view>
 
 #include "dialog/form2.h"
 #include "support/fake_dialogs.h"
@@ -44,5 +45,11 @@ class DialogMachine {
   std::map<std::string, std::map<std::string, std::string>> sections_;
   std::unique_ptr<dialog::Form2> form_;
 };
+
+// A control of a form by its name; null when there is none.
+forms::Control* ControlNamed(const forms::Form& form, std::string_view name);
+
+// A key of the settings table by its name.
+const settings::Key& KeyNamed(std::string_view name);
 
 }  // namespace support

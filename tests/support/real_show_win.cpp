@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "os/date_text.h"
-#include "settings/settings_path.h"
+#include "settings/settings_file.h"
 
 namespace support {
 

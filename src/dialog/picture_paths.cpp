@@ -1,19 +1,36 @@
-#include "dialog/storable_paths.h"
+#include "dialog/picture_paths.h"
 
 #include "base/number_text.h"
-#include "settings/read_ini_value.h"
-#include "settings/stored_length.h"
+#include "settings/settings_file.h"
 
 namespace dialog {
 
-std::optional<std::string> StorablePaths::storable(const std::string& path) const {
+namespace {
+
+constexpr char kFilter[] =
+    "Image files (*.gif;*.jpg;*.bmp)|*.gif;*.jpg;*.bmp|CompuServe Files (*.gif)|*.gif|"
+    "Jpeg Files (*.jpg)|*.jpg|Jif files (*.jif)|*.jif|Windows Bitmap Files (*.bmp)|*.bmp|"
+    "Windows DIB files (*.dib)|*.dib";
+
+}  // namespace
+
+std::optional<std::string> PicturePaths::ask() const {
+  const std::optional<std::string> chosen = services_.dialogs.openFile(
+      {kFilter, "Select a file to open", forms::kFileMustExist | forms::kHideReadOnly});
+  if (!chosen) return std::nullopt;
+  std::optional<std::string> path = storable(*chosen);
+  if (!path) tellLeftOut(1);
+  return path;
+}
+
+std::optional<std::string> PicturePaths::storable(const std::string& path) const {
   if (settings::FitsSettings(path, services_.ansi)) return path;
   std::string shorter = services_.files.shortPath(path);
   if (settings::FitsSettings(shorter, services_.ansi)) return shorter;
   return std::nullopt;
 }
 
-void StorablePaths::tellLeftOut(int count) const {
+void PicturePaths::tellLeftOut(int count) const {
   if (count == 0) return;
   const std::string limit =
       base::NumberText(static_cast<std::int32_t>(settings::kLongestValue)) + " characters";

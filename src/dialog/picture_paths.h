@@ -1,16 +1,20 @@
-// The paths that the settings file can hold.
+// The paths of pictures that the user gives to the dialog.
 #pragma once
 
 #include <optional>
 #include <string>
 
-#include "dialog/dialog_services.h"
+#include "dialog/form2.h"
 
 namespace dialog {
 
-class StorablePaths {
+class PicturePaths {
  public:
-  explicit StorablePaths(const DialogServices& services) : services_(services) {}
+  explicit PicturePaths(const DialogServices& services) : services_(services) {}
+
+  // Lets the user choose a picture's file. Nothing when they cancel, or when the settings file cannot hold
+  // its path, which they are told.
+  std::optional<std::string> ask() const;
 
   // The path itself while the settings file can hold it, else its short form where that fits, else nothing.
   std::optional<std::string> storable(const std::string& path) const;

@@ -1,10 +1,9 @@
-#include "settings/write_settings.h"
+#include "settings/settings_file.h"
 
 #include <gtest/gtest.h>
 
-#include "settings/keys.h"
 #include "settings/load_settings.h"
-#include "settings/read_ini_value.h"
+#include "settings/settings_record.h"
 #include "support/fake_files.h"
 #include "support/windows_1252.h"
 
@@ -20,7 +19,7 @@ const support::Windows1252 kWestern;
 SettingsRecord Numbered() {
   SettingsRecord record;
   int number = 100;
-  for (const settings::Key& key : settings::WrittenKeys()) record.*key.field = std::to_string(number++);
+  for (const settings::Key& key : settings::kWrittenKeys) record.*key.field = std::to_string(number++);
   return record;
 }
 
@@ -114,7 +113,7 @@ TEST(WriteSettings, WhatIsSavedIsLoadedInAnyScript) {
   support::FakeFiles files;
   files.content["C:\\Lumora\\zbfaone.ini"] = document.serialise();
   settings::SaverSettings loaded;
-  LoadSettings(loaded, files, kWestern, "C:\\Lumora", settings::Conversion::Strict);
+  LoadSettings(loaded, settings::OpenSettings(files, kWestern, "C:\\Lumora"), settings::Conversion::Strict);
   EXPECT_EQ(loaded.imageFiles, (std::vector<std::string>{paths[0], paths[1], ""}));
   EXPECT_EQ(loaded.imageCaptions, (std::vector<std::string>{captions[0], captions[1], ""}));
   EXPECT_EQ(loaded.record.newFontForeColor, "135");
