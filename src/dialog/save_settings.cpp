@@ -7,6 +7,7 @@
 #include "base/errors.h"
 #include "base/number_text.h"
 #include "dialog/messages.h"
+#include "os/paths.h"
 #include "settings/ini_document.h"
 #include "settings/settings_file.h"
 
