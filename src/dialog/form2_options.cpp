@@ -1,8 +1,8 @@
 // The option pages' handlers: each writes its setting into the record and shows what follows from it.
+#include "base/gradient.h"
 #include "base/number_text.h"
 #include "base/rounding.h"
 #include "dialog/form2.h"
-#include "dialog/gradient.h"
 #include "forms/picture.h"
 
 namespace dialog {
@@ -149,9 +149,9 @@ void Form2::UpdateGradientPreview() {
   const base::PixelSize size = GradientPicture.scaleSize();
   // Read leniently: after a loading that failed early, a component may have no text yet.
   GradientPicture.paintPart(
-      std::make_shared<base::Bitmap>(DrawGradient(size, base::LenientInt32(record.redBackground),
-                                                  base::LenientInt32(record.greenBackground),
-                                                  base::LenientInt32(record.blueBackground))),
+      std::make_shared<base::Bitmap>(base::DrawGradient(
+          size, {base::LenientInt32(record.redBackground), base::LenientInt32(record.greenBackground),
+                 base::LenientInt32(record.blueBackground)})),
       base::PixelRect::ofSize(size));
 }
 

@@ -1,9 +1,7 @@
 #include "saver/background.h"
 
-#include <algorithm>
-
-#include "base/rounding.h"
 #include "base/twips.h"
+#include "saver/placement.h"
 
 namespace saver {
 
@@ -18,15 +16,11 @@ std::optional<Kind> Numbered(double number, Kind last) {
   return std::nullopt;
 }
 
-base::Pixel BandPixel(const GradientColor& top, int band) {
-  const auto component = [band](int value) { return std::max(std::clamp(value, 0, 255) - band, 0); };
-  return base::OpaquePixel(base::Rgb(component(top.red), component(top.green), component(top.blue)));
-}
-
 // Pixels before an image of `length` in the middle of `room`.
 int Margin(int room, int length, int twipsPerPixel) {
-  const double difference = (static_cast<double>(room) - length) * twipsPerPixel;
-  return base::PixelAtTwips(base::WholeDivide(difference, 2), twipsPerPixel);
+  const float edge =
+      CenteredEdge(static_cast<float>(room * twipsPerPixel), static_cast<float>(length * twipsPerPixel));
+  return base::PixelAtTwips(static_cast<double>(edge), twipsPerPixel);
 }
 
 }  // namespace
@@ -37,19 +31,6 @@ std::optional<BackgroundKind> BackgroundKindNumbered(double backEffect) {
 
 std::optional<ImageLayout> ImageLayoutNumbered(double backgroundDisplay) {
   return Numbered(backgroundDisplay, ImageLayout::Tiled);
-}
-
-int GradientBandOfRow(int row, int height) {
-  return static_cast<int>(static_cast<long long>(row) * kGradientBands / height);
-}
-
-base::Bitmap ComposeGradient(base::PixelSize screen, const GradientColor& top) {
-  base::Bitmap gradient(screen, base::OpaquePixel(base::kBlack));
-  for (int row = 0; row < screen.height; ++row) {
-    const base::Pixel pixel = BandPixel(top, GradientBandOfRow(row, screen.height));
-    base::FillRect(gradient.view(), {0, row, screen.width, 1}, pixel);
-  }
-  return gradient;
 }
 
 std::optional<base::Bitmap> ComposeImage(const forms::Picture& image, ImageLayout layout,

@@ -2,19 +2,94 @@
 
 #include <algorithm>
 
+#include "base/errors.h"
+#include "base/number_text.h"
 #include "base/rounding.h"
+#include "forms/form.h"
+#include "saver/placement.h"
 
 namespace saver {
+
+namespace {
+
+constexpr float kExtraWidth = 200;  // twips by which the label is wider than its text
+constexpr int kScrollIntervalMs = 100;
+
+// Gives a font property the value that a text stands for; a text that stands for none leaves it as it was.
+template <typename Property, typename Convert>
+void TakeOver(Property& property, const std::string& text, Convert convert) {
+  try {
+    property = convert(text);
+  } catch (const base::RunTimeError&) {
+    return;
+  }
+}
+
+base::Font FontOf(const settings::SettingsRecord& record, base::Font font) {
+  if (!record.newFontName.empty()) font.name = record.newFontName;
+  TakeOver(font.sizePoints, record.newFontSize, base::StrictSingle);
+  TakeOver(font.bold, record.newFontBold, base::StrictBoolean);
+  TakeOver(font.italic, record.newFontItalic, base::StrictBoolean);
+  TakeOver(font.underline, record.newFontUnderline, base::StrictBoolean);
+  TakeOver(font.strikethrough, record.newFontFontStrikethru, base::StrictBoolean);
+  return font;
+}
+
+}  // namespace
+
+Caption::Caption(forms::Label& label, forms::Timer& scroller, const settings::SaverSettings& settings)
+    : label_(label), scroller_(scroller), settings_(settings) {}
+
+void Caption::prepare() {
+  label_.setFont(FontOf(settings_.record, label_.font()));
+  label_.setForeColor(base::StrictInt32(settings_.record.newFontForeColor));
+  const std::size_t total = settings_.imageCaptions.empty() ? 0 : settings_.imageCaptions.size() - 1;
+  const std::optional<std::size_t> first = FirstRealCaption(std::span(settings_.imageCaptions).first(total));
+  if (first) {
+    label_.setCaption(settings_.imageCaptions[*first]);
+    bandHeight_ = base::ToInt16(label_.height());
+  } else if (total > 0) {
+    bandHeight_ = 0;
+    label_.setHeight(0);
+  }
+}
+
+void Caption::show(const std::string& text) {
+  label_.setVisible(false);
+  label_.setCaption("");
+  label_.setCaption(text);
+  label_.sizeToText();
+  label_.setWidth(label_.width() + kExtraWidth);
+  const bool scrolling = scrolls();
+  if (!scrolling) label_.setLeft(CenteredEdge(screenWidth(), label_.width()));
+  label_.setVisible(true);
+  if (label_.caption().empty()) label_.setHeight(0);
+  if (scrolling) {
+    label_.setLeft(screenWidth());
+    scroller_.setInterval(kScrollIntervalMs);
+    scroller_.setEnabled(true);
+  }
+}
+
+void Caption::ScrollerTimer_Timer() {
+  const double speed = base::StrictDouble(settings_.record.scrollSpeed);
+  label_.setLeft(ScrolledCaptionLeft(label_.left(), label_.width(), speed, screenWidth()));
+}
+
+void Caption::screenChanged() {
+  label_.setLeft(scrolls() ? std::min(label_.left(), screenWidth())
+                           : CenteredEdge(screenWidth(), label_.width()));
+}
+
+bool Caption::scrolls() const { return base::StrictDouble(settings_.record.scroll) == 0; }
+
+float Caption::screenWidth() const { return label_.form().width; }
 
 std::optional<std::size_t> FirstRealCaption(std::span<const std::string> captions) {
   const auto found =
       std::ranges::find_if(captions, [](const std::string& text) { return !text.empty() && text != " "; });
   if (found == captions.end()) return std::nullopt;
   return static_cast<std::size_t>(found - captions.begin());
-}
-
-float CenteredCaptionLeft(float screenWidth, float labelWidth) {
-  return static_cast<float>(base::WholeDivide(static_cast<double>(screenWidth - labelWidth), 2));
 }
 
 float ScrolledCaptionLeft(float left, float labelWidth, double scrollSpeed, float formWidth) {

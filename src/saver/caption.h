@@ -1,24 +1,51 @@
-// The rules of the caption's place: its band, its centre, its scrolling.
+// The caption over the picture: its font, its band at the top of the screen, its place, its scrolling.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
 
+#include "forms/label.h"
+#include "forms/timer.h"
+#include "settings/load_settings.h"
+
 namespace saver {
 
-// Twips by which the label is wider than its text.
-constexpr float kCaptionExtraWidth = 200;
+class Caption {
+ public:
+  // `label` stands on a form that covers the screen. The settings are read from prepare() on.
+  Caption(forms::Label& label, forms::Timer& scroller, const settings::SaverSettings& settings);
 
-constexpr int kScrollIntervalMs = 100;
+  // Gives the label its font and colour, and measures the band. Throws base::RunTimeError for a colour that
+  // is no number.
+  void prepare();
 
-// The caption whose label gives the caption band its height: the first that is neither empty nor a single
-// blank. Without one the band has no height.
+  // Shows a text in the middle of the screen, or from beyond its right edge on, by the setting `scroll`.
+  void show(const std::string& text);
+
+  // Moves a scrolling caption on.
+  void ScrollerTimer_Timer();
+
+  // The form has taken the size of another screen.
+  void screenChanged();
+
+  // Twips at the top of the screen that floating pictures keep clear of; 0 when no picture has a caption.
+  std::int16_t bandHeight() const { return bandHeight_; }
+
+ private:
+  bool scrolls() const;
+  float screenWidth() const;
+
+  forms::Label& label_;
+  forms::Timer& scroller_;
+  const settings::SaverSettings& settings_;
+  std::int16_t bandHeight_ = 0;
+};
+
+// The caption whose label gives the band its height: the first that is neither empty nor a single blank.
+// Without one the band has no height.
 std::optional<std::size_t> FirstRealCaption(std::span<const std::string> captions);
-
-// The left edge, in twips, of a label that stands in the middle: the difference is rounded (halves to even),
-// its half cut toward zero. Negative for a label wider than the screen.
-float CenteredCaptionLeft(float screenWidth, float labelWidth);
 
 // The left edge after one tick of the scroller: `scrollSpeed` twips further left. A caption whose right end
 // has left the screen enters again at `formWidth`, beyond the right edge.

@@ -7,7 +7,6 @@
 
 #include "base/calendar.h"
 #include "os/clock.h"
-#include "saver/text_width.h"
 
 namespace saver {
 
@@ -33,9 +32,5 @@ std::string SecondWord(std::int32_t seconds);
 
 // For example "1days  13hours  29minutes  45seconds  ".
 std::string CountdownText(const Countdown& reading);
-
-// The widest of all texts that the countdown shows from `present` on to its end, in a font that sets every
-// character at its own fixed width. Measures some twenty texts.
-std::string WidestCountdownText(const Countdown& present, const TextWidth& widthOf);
 
 }  // namespace saver

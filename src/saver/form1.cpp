@@ -1,12 +1,12 @@
 #include "saver/form1.h"
 
+#include <functional>
 #include <utility>
 
 #include "base/color.h"
 #include "base/errors.h"
 #include "base/number_text.h"
 #include "base/rounding.h"
-#include "saver/floating.h"
 #include "settings/open_settings.h"
 #include "settings/read_ini_value.h"
 
@@ -55,17 +55,18 @@ Form1::Form1(const ShowServices& services, const os::SystemFacts& facts, std::st
 }
 
 void Form1::wireTimers() {
-  StartSaver.onTimer = [this] { handle(&Form1::StartSaver_Timer); };
-  ImageChangeTimer.onTimer = [this] { handle(&Form1::ImageChangeTimer_Timer); };
-  FloatTimer.onTimer = [this] { handle(&Form1::FloatTimer_Timer); };
-  ScrollerTimer.onTimer = [this] { handle(&Form1::ScrollerTimer_Timer); };
-  timeTimer.onTimer = [this] { handle(&Form1::timeTimer_Timer); };
-}
-
-void Form1::handle(void (Form1::*handler)()) {
-  if (isOver()) return;
-  (this->*handler)();
-  if (!isOver()) services_.stage.flush();
+  const auto on = [this](forms::Timer& timer, std::function<void()> handler) {
+    timer.onTimer = [this, handler = std::move(handler)] {
+      if (isOver()) return;
+      handler();
+      if (!isOver()) services_.stage.flush();
+    };
+  };
+  on(StartSaver, [this] { StartSaver_Timer(); });
+  on(ImageChangeTimer, [this] { ImageChangeTimer_Timer(); });
+  on(FloatTimer, [this] { FloatTimer_Timer(); });
+  on(ScrollerTimer, [this] { caption_.ScrollerTimer_Timer(); });
+  on(timeTimer, [this] { timeDisplay_.timeTimer_Timer(); });
 }
 
 void Form1::unload() {
@@ -76,48 +77,35 @@ void Form1::unload() {
 }
 
 void Form1::Form_Load() {
-  openSettings();
+  const settings::IniDocument document =
+      settings::OpenSettings(services_.files, services_.ansi, programFolder_);
+  copyDesktopIfWanted(document);
   coverScreen();
   if (facts_.guardsPassword()) services_.flags.setScreenSaverRunning(true);
-  LoadSettings();
+  settings::LoadSettings(settings_, document);
   PrepareDisplay();
   services_.stage.flush();
 }
 
-void Form1::coverScreen() {
-  screenSize_ = services_.screen.primarySize();
-  width = screenWidth();
-  height = screenHeight();
-  services_.window.cover(base::PixelRect::ofSize(screenSize_));
-  services_.stage.invalidateAll();
-}
-
-void Form1::openSettings() {
-  document_.emplace(settings::OpenSettings(services_.files, services_.ansi, programFolder_));
-  // The window is about to cover the desktop, so the copy of it is taken now if it will be wanted.
-  const std::string background = settings::ReadIniValue(*document_, "background", "backEffect");
-  if (base::LeadingNumber(background) == static_cast<int>(BackgroundKind::Desktop)) {
-    desktop_ = std::make_shared<base::Bitmap>(services_.screen.copyDesktop());
-  }
-}
-
-void Form1::LoadSettings() {
-  settings::LoadSettings(settings_, *document_);
-  document_.reset();
+// The window is about to cover the desktop, so the copy of it is taken before.
+void Form1::copyDesktopIfWanted(const settings::IniDocument& document) {
+  const std::string background = settings::ReadIniValue(document, "background", "backEffect");
+  if (base::LeadingNumber(background) != static_cast<int>(BackgroundKind::Desktop)) return;
+  desktop_ = std::make_shared<base::Bitmap>(services_.screen.copyDesktop());
 }
 
 void Form1::PrepareDisplay() {
-  PrepareCaption();
+  caption_.prepare();
   DrawBackground();
   Label1.setTop(0);
-  PrepareClock();
+  timeDisplay_.prepare();
   StartSaver.setInterval(kStartDelayMs);
   StartSaver.setEnabled(true);
 }
 
 void Form1::StartSaver_Timer() {
   // The first change yields to events, and this timer is still enabled then.
-  if (changing_) return;
+  if (change_ != ChangeState::None) return;
   reseed();
   currentImageIndex_ = -1;
   AdvancePictureIndex();
@@ -155,7 +143,7 @@ void Form1::startPictureCycle() {
 }
 
 void Form1::ImageChangeTimer_Timer() {
-  if (changing_) return;
+  if (change_ != ChangeState::None) return;
   reseed();
   if (floats()) FloatTimer_Timer();
   if (currentImageIndex_ > settings_.lastImageIndex) currentImageIndex_ = 0;
@@ -184,16 +172,12 @@ int Form1::changeIntervalMs() const {
   return base::ToInt32(base::StrictDouble(settings_.record.timeInterval) * 1000);
 }
 
-void Form1::reseed() { random_.reseed(os::SecondsSinceMidnight(services_.clock.now())); }
-
-float Form1::screenWidth() const { return static_cast<float>(screenSize_.width * twipsPerPixel()); }
-
-float Form1::screenHeight() const { return static_cast<float>(screenSize_.height * twipsPerPixel()); }
-
-bool Form1::yield(std::int64_t untilMs) {
-  services_.stage.flush();
-  services_.loop.waitUntil(untilMs);
-  return !isOver();
+void Form1::ShowCaption() {
+  const auto index = static_cast<std::size_t>(currentImageIndex_);
+  const bool known = currentImageIndex_ >= 0 && index < settings_.imageCaptions.size();
+  caption_.show(known ? settings_.imageCaptions[index] : std::string());
 }
+
+void Form1::reseed() { random_.reseed(os::SecondsSinceMidnight(services_.clock.now())); }
 
 }  // namespace saver

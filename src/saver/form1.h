@@ -2,11 +2,8 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
-#include <vector>
 
-#include "base/calendar.h"
 #include "base/random.h"
 #include "forms/form.h"
 #include "forms/label.h"
@@ -22,13 +19,16 @@
 #include "os/system_flags.h"
 #include "pictures/pictures.h"
 #include "saver/background.h"
-#include "saver/countdown.h"
+#include "saver/caption.h"
 #include "saver/floating.h"
 #include "saver/stage.h"
 #include "saver/stage_window.h"
+#include "saver/time_display.h"
 #include "settings/load_settings.h"
 
 namespace saver {
+
+struct Effect;
 
 // What the show needs of the machine.
 struct ShowServices {
@@ -82,10 +82,10 @@ class Form1 : public forms::Form {
   const settings::SaverSettings& settings() const { return settings_; }
   std::int16_t currentImageIndex() const { return currentImageIndex_; }
   bool pictureShown() const { return pictureShown_; }
-  std::int16_t captionHeight() const { return captionHeight_; }
+  std::int16_t captionHeight() const { return caption_.bandHeight(); }
 
-  // The procedures of the show, in the order in which a run meets them.
-  void LoadSettings();
+  // The procedures of the show, in the order in which a run meets them. Those of the timers of caption and
+  // clock are with them.
   void PrepareDisplay();
   void DrawBackground();
   void StartSaver_Timer();
@@ -95,56 +95,51 @@ class Form1 : public forms::Form {
   void RetireOldPicture();
   void LoadCurrentPicture();
   void ScalePicture();
-  void PlacePicture();
   void RunTransition();
   void ShowCaption();
   void PickFloatDirection();
   void FloatTimer_Timer();
-  void ScrollerTimer_Timer();
-  void timeTimer_Timer();
 
  private:
+  // Where a change of pictures stands. Timers that tick in its waits start no other. When the screen changes
+  // meanwhile, what its effect drew is for another screen, and the effect is given up.
+  enum class ChangeState { None, UnderWay, EffectGivenUp };
+  class ChangeScope;
+
   void wireTimers();
-  void handle(void (Form1::*handler)());
   void coverScreen();
-  void layOutAgain(base::PixelSize before);
-  void refitPicture();
-  void loadPicture(std::int16_t number);
-  void PrepareCaption();
-  void PrepareClock();
-  void openSettings();
+  void copyDesktopIfWanted(const settings::IniDocument& document);
   base::SharedBitmap composeBackground(BackgroundKind kind);
   base::SharedBitmap composeCustomImage();
   base::SharedBitmap composeGradient();
-  base::CalendarDay countdownTarget() const;
-  std::string widestTimeText() const;
   void startPictureCycle();
   void setFloatInterval();
   bool floats() const;
-  bool yield(std::int64_t untilMs);
-  void pauseAfterRetiring();
-  void reseed();
-  float screenWidth() const;
-  float screenHeight() const;
   int changeIntervalMs() const;
+  void clearBoxes();
+  void loadPicture(std::int16_t number);
+  void PlacePicture();
+  void runEffect(const Effect& effect, const base::SharedBitmap& pixels);
+  void pauseAfterRetiring();
+  void layOutAgain();
+  void refitPicture();
+  void reseed();
 
   ShowServices services_;
   os::SystemFacts facts_;
   std::string programFolder_;
   settings::SaverSettings settings_;
+  Caption caption_{Label1, ScrollerTimer, settings_};
+  TimeDisplay timeDisplay_{time, timeTimer, settings_, services_.clock, services_.dates};
   base::Random random_;
-  std::optional<settings::IniDocument> document_;  // between its opening and LoadSettings
   base::SharedBitmap desktop_;  // as it was before the window covered it; null where it is not wanted
   base::PixelSize screenSize_;
-  Countdown countdown_;  // the last reading; kept when the target has passed
   std::int16_t currentImageIndex_ = 0;
   std::int16_t loadedImageIndex_ = 0;  // of the picture that LoadCurrentPicture took last
-  std::int16_t captionHeight_ = 0;
+  int loadReduction_ = 1;              // by which power of two LoadCurrentPicture divided the picture's size
   FloatStep floatStep_;
-  int loadReduction_ = 1;  // by which power of two LoadCurrentPicture divided the picture's size
   bool pictureShown_ = false;
-  bool changing_ = false;       // a change is under way: timers that tick in its waits must not start another
-  bool effectGivenUp_ = false;  // the screen changed under a change: what it drew is for another screen
+  ChangeState change_ = ChangeState::None;
   bool unloaded_ = false;
 };
 

@@ -1,5 +1,6 @@
 // The background of the show: a colour, the desktop, the user's picture or a gradient.
 #include "base/errors.h"
+#include "base/gradient.h"
 #include "base/number_text.h"
 #include "base/resample.h"
 #include "saver/form1.h"
@@ -35,12 +36,12 @@ base::SharedBitmap Form1::composeBackground(BackgroundKind kind) {
 
 base::SharedBitmap Form1::composeGradient() {
   // One unit a band from now on, for the pointer positions that the form reports too.
-  scaleHeight = kGradientBands;
+  scaleHeight = base::kGradientBands;
   const settings::SettingsRecord& record = settings_.record;
-  const GradientColor color{.red = base::StrictInt32(record.redBackground),
-                            .green = base::StrictInt32(record.greenBackground),
-                            .blue = base::StrictInt32(record.blueBackground)};
-  return std::make_shared<base::Bitmap>(ComposeGradient(screenSize_, color));
+  return std::make_shared<base::Bitmap>(
+      base::DrawGradient(screenSize_, {.red = base::StrictInt32(record.redBackground),
+                                       .green = base::StrictInt32(record.greenBackground),
+                                       .blue = base::StrictInt32(record.blueBackground)}));
 }
 
 base::SharedBitmap Form1::composeCustomImage() {

@@ -1,7 +1,10 @@
-// One picture replacing another: the order of steps of every change.
+// One picture replacing another: the order of steps of every change, and the effect that brings the new one.
 #include <cmath>
 
+#include "base/errors.h"
 #include "saver/form1.h"
+#include "saver/transitions/effects.h"
+#include "saver/transitions/transition_runner.h"
 
 namespace saver {
 
@@ -10,33 +13,30 @@ namespace {
 constexpr float kPauseSeconds = 0.3F;
 constexpr float kSecondsOfDay = 86400.0F;
 
-// Sets a flag for a scope, however the scope is left.
-class Raised {
- public:
-  explicit Raised(bool& flag) : flag_(flag), before_(flag) { flag_ = true; }
-  ~Raised() { flag_ = before_; }
-  Raised(const Raised&) = delete;
-  Raised& operator=(const Raised&) = delete;
-
- private:
-  bool& flag_;
-  bool before_;
-};
-
 }  // namespace
 
+// A change is under way for the life of this, however the scope is left.
+class Form1::ChangeScope {
+ public:
+  explicit ChangeScope(ChangeState& state) : state_(state) { state_ = ChangeState::UnderWay; }
+  ~ChangeScope() { state_ = ChangeState::None; }
+  ChangeScope(const ChangeScope&) = delete;
+  ChangeScope& operator=(const ChangeScope&) = delete;
+
+ private:
+  ChangeState& state_;
+};
+
 void Form1::ShowNextPicture() {
-  const Raised changing(changing_);
+  const ChangeScope change(change_);
   Label1.setVisible(false);
-  IntialPicture.cls();
-  PictureReduce.cls();
-  DisplayingPicture.cls();
+  clearBoxes();
   if (pictureShown_) {
     RetireOldPicture();
     if (isOver()) return;
   }
   DisplayingPicture.setVisible(false);
-  effectGivenUp_ = false;  // from here on everything is for the screen as it is now
+  change_ = ChangeState::UnderWay;  // from here on everything is for the screen as it is now
   LoadCurrentPicture();
   ScalePicture();
   PlacePicture();
@@ -44,9 +44,15 @@ void Form1::ShowNextPicture() {
   RunTransition();
   if (isOver()) return;
   DisplayingPicture.setPicture(IntialPicture.picture());
-  if (effectGivenUp_) refitPicture();
+  if (change_ == ChangeState::EffectGivenUp) refitPicture();
   pictureShown_ = true;
   FloatTimer.setEnabled(floats());
+}
+
+void Form1::clearBoxes() {
+  IntialPicture.cls();
+  PictureReduce.cls();
+  DisplayingPicture.cls();
 }
 
 void Form1::RetireOldPicture() {
@@ -64,6 +70,41 @@ void Form1::RetireOldPicture() {
   pauseAfterRetiring();
 }
 
+void Form1::RunTransition() {
+  // An error in an effect is not reported: whoever asked for it goes on to show the new picture in full.
+  try {
+    const forms::SharedPicture& next = IntialPicture.picture();
+    if (!next) return;
+    const auto over = [this] { return isOver(); };
+    const std::optional<int> number =
+        ChooseEffect(FlagsOf(settings_.record), random_, services_.clock, services_.loop, over);
+    if (!number || isOver() || change_ == ChangeState::EffectGivenUp) return;
+    const Effect& effect = EffectNumbered(*number);
+    if (effect.isPlainShow()) {
+      DisplayingPicture.setPicture(next);
+      services_.stage.flush();
+      return;
+    }
+    runEffect(effect, next->drawnAt(next->size()));
+  } catch (const base::RunTimeError&) {
+    return;
+  }
+}
+
+void Form1::runEffect(const Effect& effect, const base::SharedBitmap& pixels) {
+  if (!pixels) return;
+  const TransitionPlan plan = effect.makePlan({.scaleWidth = IntialPicture.scaleWidth(),
+                                               .scaleHeight = IntialPicture.scaleHeight(),
+                                               .destinationWidth = DisplayingPicture.scaleWidth(),
+                                               .destinationHeight = DisplayingPicture.scaleHeight(),
+                                               .outerWidthTwips = DisplayingPicture.width(),
+                                               .random = random_});
+  services_.stage.flush();
+  const auto givenUp = [this] { return isOver() || change_ == ChangeState::EffectGivenUp; };
+  TransitionRunner(services_.clock, services_.loop, givenUp)
+      .run(plan, DisplayingPicture, pixels, ParseTransitionTime(settings_.record.transitionTime));
+}
+
 void Form1::pauseAfterRetiring() {
   const float start = os::SecondsSinceMidnight(services_.clock.now());
   while (!isOver()) {
@@ -71,7 +112,8 @@ void Form1::pauseAfterRetiring() {
     if (passed < 0) passed += kSecondsOfDay;  // midnight came in between
     if (passed >= kPauseSeconds) return;
     const auto restMs = static_cast<std::int64_t>(std::ceil((kPauseSeconds - passed) * 1000.0F));
-    yield(services_.clock.tickMs() + restMs);
+    services_.stage.flush();
+    services_.loop.waitUntil(services_.clock.tickMs() + restMs);
   }
 }
 

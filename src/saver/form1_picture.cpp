@@ -50,10 +50,10 @@ void Form1::ScalePicture() {
 
 void Form1::PlacePicture() {
   const bool centred = !floats() || !pictureShown_;
-  const Placement place =
-      centred ? Centered(screenWidth(), screenHeight(), DisplayingPicture.width(), DisplayingPicture.height())
-              : PulledBack({DisplayingPicture.left(), DisplayingPicture.top()}, screenWidth(), screenHeight(),
-                           IntialPicture.width(), IntialPicture.height());
+  const Placement place = centred
+                              ? Centered(width, height, DisplayingPicture.width(), DisplayingPicture.height())
+                              : PulledBack({DisplayingPicture.left(), DisplayingPicture.top()}, width, height,
+                                           IntialPicture.width(), IntialPicture.height());
   DisplayingPicture.move(place.left, place.top, DisplayingPicture.width(), DisplayingPicture.height());
 }
 
@@ -64,16 +64,16 @@ void Form1::PickFloatDirection() {
 
 void Form1::FloatTimer_Timer() {
   // A tick in a wait of a change must not move the picture that is being drawn.
-  if (changing_) return;
+  if (change_ != ChangeState::None) return;
   reseed();
   FloatingBox box{.left = DisplayingPicture.left(),
                   .top = DisplayingPicture.top(),
                   .width = DisplayingPicture.width(),
                   .height = DisplayingPicture.height(),
                   .step = floatStep_};
-  MoveFloatingBox(box, {.screenWidth = screenWidth(),
-                        .screenHeight = screenHeight(),
-                        .captionHeight = static_cast<float>(captionHeight_)});
+  MoveFloatingBox(
+      box,
+      {.screenWidth = width, .screenHeight = height, .captionHeight = static_cast<float>(captionHeight())});
   floatStep_ = box.step;
   DisplayingPicture.move(box.left, box.top, box.width, box.height);
 }

@@ -1,45 +1,46 @@
-// The show on a screen that changes under it.
-#include <algorithm>
-
-#include "base/number_text.h"
-#include "saver/caption.h"
+// The screen that the show covers, and what happens when it changes under the show.
 #include "saver/form1.h"
 
 namespace saver {
+
+void Form1::coverScreen() {
+  screenSize_ = services_.screen.primarySize();
+  width = static_cast<float>(screenSize_.width * twipsPerPixel());
+  height = static_cast<float>(screenSize_.height * twipsPerPixel());
+  services_.window.cover(base::PixelRect::ofSize(screenSize_));
+  services_.stage.invalidateAll();
+}
 
 void Form1::ScreenChanged() {
   // Between two arrangements a machine can be without any screen.
   if (isOver() || services_.screen.primarySize().isEmpty()) return;
   const base::PixelSize before = screenSize_;
+  const float widthBefore = width;
+  const float heightBefore = height;
   coverScreen();
-  if (screenSize_ != before) layOutAgain(before);
+  if (screenSize_ != before) {
+    timeDisplay_.cornerMoved(width - widthBefore, height - heightBefore);
+    layOutAgain();
+  }
   services_.stage.flush();
 }
 
-void Form1::layOutAgain(base::PixelSize before) {
+void Form1::layOutAgain() {
   BgrImage.setPicture(nullptr);  // of the other size, should there be none of this one
   DrawBackground();
-  // The clock keeps its distance from the corner.
-  time.setLeft(time.left() + static_cast<float>((screenSize_.width - before.width) * twipsPerPixel()));
-  time.setTop(time.top() + static_cast<float>((screenSize_.height - before.height) * twipsPerPixel()));
-  if (changing_) {
+  if (change_ != ChangeState::None) {
     // The change goes on behind its effect, which notices at its next step.
-    effectGivenUp_ = true;
+    change_ = ChangeState::EffectGivenUp;
     DisplayingPicture.setVisible(false);
     return;
   }
   if (!pictureShown_) return;
   refitPicture();
-  const bool scrolls = base::StrictDouble(settings_.record.scroll) == 0;
-  Label1.setLeft(scrolls ? std::min(Label1.left(), width)
-                         : CenteredCaptionLeft(screenWidth(), Label1.width()));
+  caption_.screenChanged();
 }
 
 void Form1::refitPicture() {
-  effectGivenUp_ = false;
-  IntialPicture.cls();
-  PictureReduce.cls();
-  DisplayingPicture.cls();
+  clearBoxes();
   DisplayingPicture.setVisible(false);
   loadPicture(loadedImageIndex_);
   ScalePicture();

@@ -4,16 +4,12 @@
 
 namespace saver {
 
-namespace {
-
-float Half(float difference) {
-  return static_cast<float>(base::WholeDivide(static_cast<double>(difference), 2));
+float CenteredEdge(float room, float length) {
+  return static_cast<float>(base::WholeDivide(static_cast<double>(room - length), 2));
 }
 
-}  // namespace
-
 Placement Centered(float screenWidth, float screenHeight, float width, float height) {
-  return {Half(screenWidth - width), Half(screenHeight - height)};
+  return {CenteredEdge(screenWidth, width), CenteredEdge(screenHeight, height)};
 }
 
 Placement PulledBack(Placement place, float screenWidth, float screenHeight, float width, float height) {

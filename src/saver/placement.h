@@ -1,4 +1,4 @@
-// Where a box stands on the screen, in twips.
+// Where a picture or a caption stands on the screen, in twips.
 #pragma once
 
 namespace saver {
@@ -10,7 +10,11 @@ struct Placement {
   bool operator==(const Placement&) const = default;
 };
 
-// In the middle: each difference is rounded to a whole number (halves to even), its half cut toward zero.
+// The left or top edge of what stands in the middle of `room`: the difference is rounded to a whole number
+// (halves to even), its half cut toward zero. Negative for what is longer than the room.
+float CenteredEdge(float room, float length);
+
+// In the middle on both axes.
 Placement Centered(float screenWidth, float screenHeight, float width, float height);
 
 // Where a floating box stood, pulled back from the bottom and the right edge when it reaches or passes them.

@@ -6,7 +6,7 @@
 #include "os/text_renderer_win.h"
 #include "saver/stage.h"
 #include "saver/stage_window_win.h"
-#include "saver/transitions/plan.h"
+#include "saver/transitions/plans.h"
 
 namespace bench {
 

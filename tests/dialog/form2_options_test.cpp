@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "base/color.h"
-#include "dialog/gradient.h"
 #include "support/dialog_machine.h"
 
 namespace dialog {
@@ -107,27 +106,6 @@ TEST_F(Form2Options, TheGradientSurvivesAComponentThatWasNeverRead) {
   form.record.blueBackground = "blue";
   form.redSlider.userSetValue(200);
   EXPECT_EQ(form.GradientPicture.image()->at(0, 0), base::OpaquePixel(base::Rgb(200, 0, 0)));
-}
-
-TEST(Gradient, RunsFromTheColourToBlackInBandsOfOneUnit) {
-  const base::Bitmap drawn = DrawGradient({2, 256}, 255, 100, 0);
-  for (int y = 0; y < 256; ++y) {
-    const base::PackedColor expected = base::Rgb(255 - y, std::max(0, 100 - y), 0);
-    ASSERT_EQ(drawn.at(0, y), base::OpaquePixel(expected)) << y;
-    ASSERT_EQ(drawn.at(1, y), base::OpaquePixel(expected)) << y;
-  }
-}
-
-TEST(Gradient, WithoutColourIsBlackFromTopToBottom) {
-  const base::Bitmap drawn = DrawGradient({3, 97}, 0, 0, 0);
-  for (int y = 0; y < 97; ++y) ASSERT_EQ(drawn.at(1, y), base::OpaquePixel(base::kBlack)) << y;
-}
-
-TEST(Gradient, AnyHeightStartsWithTheFullColour) {
-  for (const int height : {1, 50, 94, 256, 700}) {
-    EXPECT_EQ(DrawGradient({1, height}, 9, 8, 7).at(0, 0), base::OpaquePixel(base::Rgb(9, 8, 7))) << height;
-  }
-  EXPECT_EQ(DrawGradient({1, 512}, 255, 0, 0).at(0, 511), base::OpaquePixel(base::kBlack));
 }
 
 TEST_F(Form2Options, NeverChangingTurnsTheIntervalOff) {

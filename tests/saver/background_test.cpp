@@ -44,47 +44,6 @@ TEST(ImageLayouts, AreNumberedFromZeroToTwo) {
   EXPECT_EQ(ImageLayoutNumbered(3), std::nullopt);
 }
 
-TEST(Gradient, RunsFromTheColourAtTheTopToBlack) {
-  const Bitmap gradient = ComposeGradient({4, 768}, {255, 0, 0});
-  EXPECT_EQ(gradient.at(0, 0), OpaquePixel(Rgb(255, 0, 0)));
-  EXPECT_EQ(gradient.at(3, 767), OpaquePixel(base::kBlack));
-  EXPECT_TRUE(gradient.isOpaque());
-}
-
-TEST(Gradient, WithoutColourIsBlackAllOver) {
-  EXPECT_EQ(ComposeGradient({7, 300}, {0, 0, 0}), Bitmap({7, 300}, OpaquePixel(base::kBlack)));
-}
-
-TEST(Gradient, StopsEachComponentAtZeroByItself) {
-  const Bitmap gradient = ComposeGradient({1, 256}, {100, 200, 10});
-  EXPECT_EQ(gradient.at(0, 10), OpaquePixel(Rgb(90, 190, 0)));
-  EXPECT_EQ(gradient.at(0, 50), OpaquePixel(Rgb(50, 150, 0)));
-  EXPECT_EQ(gradient.at(0, 150), OpaquePixel(Rgb(0, 50, 0)));
-  EXPECT_EQ(gradient.at(0, 200), OpaquePixel(base::kBlack));
-}
-
-TEST(Gradient, GivesEveryBandItsRowsWithoutAGap) {
-  for (const int height : {256, 600, 768, 1080, 1440, 2160}) {
-    EXPECT_EQ(GradientBandOfRow(0, height), 0);
-    EXPECT_EQ(GradientBandOfRow(height - 1, height), 255);
-    std::vector<int> rows(256, 0);
-    for (int row = 0; row < height; ++row) ++rows[static_cast<std::size_t>(GradientBandOfRow(row, height))];
-    for (const int count : rows) {
-      EXPECT_GE(count, height / 256);
-      EXPECT_LE(count, height / 256 + 1);
-    }
-  }
-}
-
-TEST(Gradient, OfALowScreenStillBeginsWithTheFullColour) {
-  EXPECT_EQ(ComposeGradient({1, 1}, {255, 255, 255}).at(0, 0), OpaquePixel(base::kWhite));
-  EXPECT_EQ(GradientBandOfRow(1, 2), 128);
-}
-
-TEST(Gradient, CutsComponentsToTheirRange) {
-  EXPECT_EQ(ComposeGradient({1, 256}, {300, -2147483647 - 1, 0}).at(0, 1), OpaquePixel(Rgb(254, 0, 0)));
-}
-
 TEST(CenteredImage, StandsInTheMiddleAtItsOwnSize) {
   const Bitmap composed = Composed({4, 2}, ImageLayout::Centered, {10, 8});
   EXPECT_EQ(composed.size(), (base::PixelSize{10, 8}));

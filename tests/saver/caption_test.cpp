@@ -17,14 +17,6 @@ TEST(CaptionBand, HasNoHeightWithoutARealCaption) {
   EXPECT_EQ(FirstRealCaption({}), std::nullopt);
 }
 
-TEST(CenteredCaption, CutsTheHalfOfTheRoundedDifferenceTowardZero) {
-  EXPECT_EQ(CenteredCaptionLeft(15360, 3360), 6000);
-  EXPECT_EQ(CenteredCaptionLeft(15360, 3361), 5999);     // 11999 / 2
-  EXPECT_EQ(CenteredCaptionLeft(15360, 3361.5F), 5999);  // 11998.5 is 11998
-  EXPECT_EQ(CenteredCaptionLeft(15360, 3360.5F), 6000);  // 11999.5 is 12000
-  EXPECT_EQ(CenteredCaptionLeft(15360, 20361), -2500);   // -5001 / 2
-}
-
 TEST(ScrollingCaption, MovesLeftByItsSpeed) { EXPECT_EQ(ScrolledCaptionLeft(15360, 2000, 90, 15360), 15270); }
 
 TEST(ScrollingCaption, EntersAgainOnlyWhenItsRightEndHasLeftTheScreen) {

@@ -14,6 +14,14 @@ TEST(CenteredPlacement, OfAPictureLargerThanTheScreenIsNegative) {
   EXPECT_EQ(Centered(15360, 11520, 15363, 13501), (Placement{-1, -990}));
 }
 
+TEST(CenteredCaption, CutsTheHalfOfTheRoundedDifferenceTowardZero) {
+  EXPECT_EQ(CenteredEdge(15360, 3360), 6000);
+  EXPECT_EQ(CenteredEdge(15360, 3361), 5999);     // 11999 / 2
+  EXPECT_EQ(CenteredEdge(15360, 3361.5F), 5999);  // 11998.5 is 11998
+  EXPECT_EQ(CenteredEdge(15360, 3360.5F), 6000);  // 11999.5 is 12000
+  EXPECT_EQ(CenteredEdge(15360, 20361), -2500);   // -5001 / 2
+}
+
 TEST(PulledBackPlacement, StaysInsideTheScreen) {
   EXPECT_EQ(PulledBack({100, 200}, 15360, 11520, 3000, 3000), (Placement{100, 200}));
 }

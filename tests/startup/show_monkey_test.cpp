@@ -7,7 +7,6 @@
 
 #include "base/errors.h"
 #include "base/number_text.h"
-#include "saver/caption.h"
 #include "saver/floating.h"
 #include "saver/picture_size.h"
 #include "saver/placement.h"
@@ -277,7 +276,7 @@ class MonkeyShow {
     EXPECT_FALSE(changing()) << "a caption over a change";
     const float screen = form().width;
     if (number(record().scroll) != 0) {
-      EXPECT_FLOAT_EQ(caption.left(), saver::CenteredCaptionLeft(screen, caption.width()));
+      EXPECT_FLOAT_EQ(caption.left(), saver::CenteredEdge(screen, caption.width()));
     } else if (number(record().scrollSpeed) >= 0) {
       EXPECT_LE(caption.left(), screen);
       EXPECT_GE(caption.left() + caption.width(), 0);

@@ -1,9 +1,11 @@
 #include "saver/transitions/transition_runner.h"
 
 #include <algorithm>
+#include <charconv>
 #include <utility>
 
 #include "base/rect_difference.h"
+#include "base/text.h"
 
 namespace saver {
 
@@ -11,6 +13,8 @@ namespace {
 
 constexpr std::int64_t kEventCheckMs = 15;  // in a tight run
 constexpr int kFramesPerSecond = 60;
+constexpr int kShortestTimeMs = 100;
+constexpr int kLongestTimeMs = 5000;
 
 // One picture on its way onto a box.
 class Canvas {
@@ -81,6 +85,15 @@ std::int64_t NextFrameMs(std::int64_t elapsedMs) {
 }
 
 }  // namespace
+
+std::optional<int> ParseTransitionTime(std::string_view text) {
+  const std::string_view digits = base::TrimBlanks(text);
+  const char* const end = digits.data() + digits.size();
+  int ms = 0;
+  const auto [rest, error] = std::from_chars(digits.data(), end, ms);
+  if (error != std::errc{} || rest != end || ms < kShortestTimeMs || ms > kLongestTimeMs) return std::nullopt;
+  return ms;
+}
 
 TransitionRunner::TransitionRunner(const os::Clock& clock, os::EventLoop& loop, std::function<bool()> isOver)
     : clock_(clock), loop_(loop), isOver_(std::move(isOver)) {}

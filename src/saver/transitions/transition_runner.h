@@ -4,14 +4,19 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <string_view>
 
 #include "base/bitmap.h"
 #include "forms/picture_box.h"
 #include "os/clock.h"
 #include "os/event_loop.h"
-#include "saver/transitions/plan.h"
+#include "saver/transitions/plans.h"
 
 namespace saver {
+
+// The text of the setting `transitionTime` in milliseconds for one whole effect: a whole number from 100 to
+// 5000. Nothing for any other text: the effects then run as fast as the machine draws.
+std::optional<int> ParseTransitionTime(std::string_view text);
 
 // Both ways of running let events run in between, a key that ends the show among them, but also timers: the
 // caller guards against a second change while one is under way. Once `isOver` says so, no control is touched

@@ -1,4 +1,4 @@
-#include "saver/transitions/choose_effect.h"
+#include "saver/transitions/effects.h"
 
 #include <gtest/gtest.h>
 

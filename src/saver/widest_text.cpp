@@ -1,12 +1,46 @@
-// The search for the widest text of a countdown.
+#include "saver/widest_text.h"
+
 #include <array>
+#include <utility>
 #include <vector>
 
-#include "saver/countdown.h"
+#include "base/calendar.h"
 
 namespace saver {
 
 namespace {
+
+constexpr int kDaysAhead = 366;
+
+// Tries moments and keeps the one with the widest text.
+class WidestMoment {
+ public:
+  WidestMoment(const os::DateText& form, const TextWidth& widthOf, const os::LocalTime& first)
+      : form_(form), widthOf_(widthOf), best_(first) {
+    tryOut(first);
+  }
+
+  void tryOut(const os::LocalTime& moment) {
+    const int width = widthOf_(os::GeneralDate(form_, moment));
+    if (width <= width_) return;
+    best_ = moment;
+    width_ = width;
+  }
+
+  // Varies one unit of the best moment so far from 0 to `last`.
+  void vary(int os::LocalTime::*unit, int last) {
+    os::LocalTime moment = best_;
+    for (moment.*unit = 0; moment.*unit <= last; ++(moment.*unit)) tryOut(moment);
+  }
+
+  const os::LocalTime& best() const { return best_; }
+
+ private:
+  const os::DateText& form_;
+  const TextWidth& widthOf_;
+  os::LocalTime best_;
+  int width_ = -1;
+};
 
 constexpr Countdown kAtTarget{-1, 23, 59, 60};
 
@@ -65,6 +99,21 @@ class WidthTable {
 };
 
 }  // namespace
+
+// Date, hour, minute and second each add their own width to the text, whatever the form, so each is varied
+// alone. The day is varied as a whole: a form may spell out months and days of the week.
+std::string WidestClockText(const os::DateText& form, const os::LocalTime& now, const TextWidth& widthOf) {
+  WidestMoment widest(form, widthOf, {now.year, now.month, now.day, 23, 59, 59, 0});
+  const std::int32_t today = base::DayNumber({now.year, now.month, now.day});
+  for (int ahead = 1; ahead <= kDaysAhead; ++ahead) {
+    const base::CalendarDay day = base::DayOfNumber(today + ahead);
+    widest.tryOut({day.year, day.month, day.day, 23, 59, 59, 0});
+  }
+  widest.vary(&os::LocalTime::hour, 23);
+  widest.vary(&os::LocalTime::minute, 59);
+  widest.vary(&os::LocalTime::second, 59);
+  return os::GeneralDate(form, widest.best());
+}
 
 // A later reading is smaller in its days; or in its hours with the same days; and so on. Within each of these
 // the other units take every value, so each has one widest reading.
