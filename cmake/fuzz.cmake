@@ -3,7 +3,7 @@
 set_target_properties(lumora_core PROPERTIES EXCLUDE_FROM_ALL ON)
 
 set(fuzzed_sources ${portable_sources})
-list(FILTER fuzzed_sources INCLUDE REGEX "/src/((base|os|pictures|settings)/|startup/command_line\\.cpp)")
+list(FILTER fuzzed_sources INCLUDE REGEX "/src/((base|os|pictures|settings|library)/|startup/command_line\\.cpp)")
 
 set(fuzz_instrumentation -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
 add_library(lumora_fuzzed STATIC ${fuzzed_sources} tests/support/windows_1252.cpp tests/support/jpeg_builder.cpp

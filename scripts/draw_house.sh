@@ -13,6 +13,7 @@ purpose() {
     settings) echo "the settings file" ;;
     forms) echo "controls and their windows" ;;
     pictures) echo "picture files" ;;
+    library) echo "which pictures, in what order" ;;
     os) echo "the machine" ;;
     base) echo "plain values" ;;
     *) echo "" ;;

@@ -6,13 +6,14 @@ cd "$(dirname "$0")/../.."
 declare -A may=(
   [base]="base"
   [pictures]="base os pictures"
+  [library]="base os library"
   [os]="base os"
   [forms]="base os pictures forms"
   [settings]="base os settings"
-  [startup]="base os pictures forms settings startup saver dialog auxwin"
-  [saver]="base os pictures forms settings saver"
-  [dialog]="base os pictures forms settings auxwin dialog"
-  [auxwin]="base os pictures forms auxwin"
+  [startup]="base os pictures library forms settings startup saver dialog auxwin"
+  [saver]="base os pictures library forms settings saver"
+  [dialog]="base os pictures library forms settings auxwin dialog"
+  [auxwin]="base os pictures library forms auxwin"
 )
 bad=0
 for room in "${!may[@]}"; do

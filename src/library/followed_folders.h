@@ -1,0 +1,53 @@
+// The pictures of followed folders, listed beside the show.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "os/clock.h"
+#include "os/files.h"
+#include "os/folder_reader.h"
+
+namespace library {
+
+struct FollowRequest {
+  std::vector<std::string> folders;  // in the order in which their pictures come
+  bool subfolders = false;
+  std::vector<std::string> listed;        // pictures that the show has anyway: they do not come again
+  std::size_t most = 32767;               // pictures of the folders together
+  std::vector<std::string> indexFolders;  // where the index of the last listing may lie
+};
+
+class Following;
+
+// A thread for each folder asks the file system, since a disk that starts up or a share that does not answer
+// holds up whoever asks. The show never waits: it takes a new list when there is one. While a folder has not
+// answered there is no picture of it in the list, so that nobody tries to open one.
+class FollowedFolders {
+ public:
+  static constexpr std::size_t kMostFolders = 64;      // those behind are not followed
+  static constexpr int kListAgainMs = 10 * 60 * 1000;  // though no change was told of
+  static constexpr int kLookAgainMs = 30 * 1000;       // for a folder that is away
+
+  // Shared with the threads: one that hangs in the system is not waited for, and may come back late.
+  struct Services {
+    std::shared_ptr<os::Files> files;
+    std::shared_ptr<os::FolderReader> reader;
+    std::shared_ptr<const os::Clock> clock;
+  };
+
+  FollowedFolders(Services services, FollowRequest request);
+  ~FollowedFolders();
+  FollowedFolders(const FollowedFolders&) = delete;
+  FollowedFolders& operator=(const FollowedFolders&) = delete;
+
+  // Whole paths, when they are others than at the last call; else null. Never waits.
+  std::shared_ptr<const std::vector<std::string>> news();
+
+ private:
+  std::shared_ptr<Following> following_;
+};
+
+}  // namespace library
