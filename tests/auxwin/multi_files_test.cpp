@@ -5,7 +5,7 @@
 #include <chrono>
 
 #include "support/fake_dialogs.h"
-#include "support/fake_folders.h"
+#include "support/fake_files.h"
 #include "support/fake_window_system.h"
 
 namespace auxwin {
@@ -166,8 +166,8 @@ TEST_F(MultiFilesTest, TwentyThousandFilesComeInAMoment) {
 
 TEST_F(MultiFilesTest, StandsInTheMiddleOfTheScreen) {
   MultiFiles& opened = open();
-  EXPECT_EQ(opened.left, (windows.screenWidth - opened.width) / 2);
-  EXPECT_EQ(opened.top, (windows.screenHeight - opened.height) / 2);
+  EXPECT_EQ(opened.left(), (windows.screenWidth - opened.width()) / 2);
+  EXPECT_EQ(opened.top(), (windows.screenHeight - opened.height()) / 2);
 }
 
 TEST_F(MultiFilesTest, TheListsStandTogetherInAFrame) {

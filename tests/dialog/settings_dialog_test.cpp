@@ -33,7 +33,7 @@ TEST_F(SettingsDialogTest, TheViewerOpensFromListThumbnailAndButton) {
     if (way == 1) dialog.form.photo1.onDblClick();
     if (way == 2) dialog.form.EnlargeCommand.userClicked();
     EXPECT_EQ(other.windows.shown, (Names{"Form2", "ImageView"}));
-    EXPECT_EQ(dialog.viewer.caption, "b.gif");
+    EXPECT_EQ(dialog.viewer.caption(), "b.gif");
     EXPECT_TRUE(dialog.form.host()) << "the dialog stays usable";
   }
 }
@@ -43,7 +43,7 @@ TEST_F(SettingsDialogTest, AnotherPictureTakesThePlaceOfTheOneInTheViewer) {
   dialog.form.EnlargeCommand.userClicked();
   dialog.form.List1.userSelected(1);
   dialog.form.EnlargeCommand.userClicked();
-  EXPECT_EQ(dialog.viewer.caption, "b.gif");
+  EXPECT_EQ(dialog.viewer.caption(), "b.gif");
   EXPECT_EQ(machine.windows.unloaded, Names{"ImageView"});
   EXPECT_TRUE(dialog.viewer.host());
 }

@@ -3,7 +3,7 @@
 #include "forms/file_name.h"
 #include "forms/folder_lists.h"
 #include "forms/form.h"
-#include "support/fake_folders.h"
+#include "support/fake_files.h"
 
 namespace forms {
 namespace {

@@ -27,7 +27,8 @@ class TrustingDecoder final : public os::PictureDecoder {
 
   std::unique_ptr<os::PictureSource> open(const std::string& path) override {
     const auto header = ReadPictureHeader(heads_.content[path]);
-    EXPECT_TRUE(header && header->size) << path << " has no size and came to the decoder";
+    if (!header) return nullptr;  // of no kind that this decoder knows either
+    EXPECT_TRUE(header->size.has_value()) << path << " has no size and came to the decoder";
     opened.insert(path);
     return std::make_unique<Source>(*header->size);
   }
