@@ -8,6 +8,7 @@
 #include <string>
 
 #include "forms/surface_win.h"
+#include "os/screen_win.h"
 #include "os/utf16_win.h"
 
 namespace forms {

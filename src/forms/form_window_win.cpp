@@ -12,6 +12,7 @@
 #include "forms/lists.h"
 #include "forms/picture_peer_win.h"
 #include "forms/surface_win.h"
+#include "forms/window_system_win.h"
 #include "os/text_renderer_win.h"
 #include "os/utf16_win.h"
 

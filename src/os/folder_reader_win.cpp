@@ -3,13 +3,12 @@
 #include <algorithm>
 
 #include "base/natural_order.h"
-#include "os/file_handle_win.h"
 #include "os/folder_watch_win.h"
-#include "os/long_path.h"
+#include "os/open_file_win.h"
+#include "os/paths.h"
 #include "os/picture_endings_win.h"
 #include "os/system_library_win.h"
 #include "os/utf16_win.h"
-#include "os/wide_path_win.h"
 
 namespace os {
 
@@ -33,9 +32,11 @@ bool IsItselfOrAbove(const wchar_t* name) {
 
 }  // namespace
 
-FolderReaderWin::FolderReaderWin()
-    : shellHelpers_(LoadSystemLibrary(L"shlwapi.dll")),
-      compareLogically_(FindFunction<CompareLogically>(shellHelpers_, "StrCmpLogicalW")) {}
+// The library stays loaded, since a thread that hangs in the system may come back late.
+FolderReaderWin::FolderReaderWin() {
+  static const OwnedLibrary shellHelpers = LoadSystemLibrary(L"shlwapi.dll");
+  compareLogically_ = FindFunction<CompareLogically>(shellHelpers.get(), "StrCmpLogicalW");
+}
 
 std::optional<std::vector<FolderEntry>> FolderReaderWin::read(const std::string& folder) {
   constexpr std::wstring_view kAll = L"\\*";

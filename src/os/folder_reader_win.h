@@ -4,7 +4,6 @@
 #include <windows.h>
 
 #include "os/folder_reader.h"
-#include "os/handles_win.h"
 
 namespace os {
 
@@ -21,7 +20,6 @@ class FolderReaderWin : public FolderReader {
  private:
   using CompareLogically = int(WINAPI*)(const wchar_t*, const wchar_t*);
 
-  OwnedLibrary shellHelpers_;
   CompareLogically compareLogically_;  // as the system's own windows sort; null where it is missing
 };
 

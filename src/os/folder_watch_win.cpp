@@ -1,6 +1,6 @@
 #include "os/folder_watch_win.h"
 
-#include "os/wide_path_win.h"
+#include "os/open_file_win.h"
 
 namespace os {
 

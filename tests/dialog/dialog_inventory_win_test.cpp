@@ -45,7 +45,7 @@ struct DialogInventory : testing::Test {
 
   static void checkSlider(RealDialog& dialog, const char* name, int min, int max, int page) {
     SCOPED_TRACE(name);
-    const HWND window = dialog.windowOf(*dialog.form().find(name));
+    const HWND window = dialog.windowOf(*support::ControlNamed(dialog.form(), name));
     EXPECT_EQ(SendMessageW(window, TBM_GETRANGEMIN, 0, 0), min);
     EXPECT_EQ(SendMessageW(window, TBM_GETRANGEMAX, 0, 0), max);
     EXPECT_EQ(SendMessageW(window, TBM_GETPAGESIZE, 0, 0), page);
@@ -55,7 +55,7 @@ struct DialogInventory : testing::Test {
   static void checkCombo(RealDialog& dialog, const char* name, int count, const char* first, const char* last,
                          const char* shown) {
     SCOPED_TRACE(name);
-    const HWND window = dialog.windowOf(*dialog.form().find(name));
+    const HWND window = dialog.windowOf(*support::ControlNamed(dialog.form(), name));
     ASSERT_EQ(SendMessageW(window, CB_GETCOUNT, 0, 0), count);
     char text[16] = {};
     SendMessageA(window, CB_GETLBTEXT, 0, reinterpret_cast<LPARAM>(text));

@@ -137,8 +137,8 @@ TEST_F(ForeignWindowWin, TheFollowerTellsThatTheOwnerClosedIt) {
 TEST_F(ForeignWindowWin, TheFollowerLeavesWithItsMaker) {
   int closed = 0;
   {
-    os::ForeignWindowWin shorter;
-    shorter.follow(handle(), [&]() noexcept { ++closed; });
+    const std::unique_ptr<os::ForeignWindow> shorter = os::MakeForeignWindow();
+    shorter->follow(handle(), [&]() noexcept { ++closed; });
   }
   EXPECT_EQ(GetWindow(owner.get(), GW_CHILD), nullptr);
   EXPECT_EQ(closed, 0);
