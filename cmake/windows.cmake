@@ -25,7 +25,7 @@ enable_language(RC)
 configure_file(src/startup/lumora.rc.in ${CMAKE_BINARY_DIR}/lumora.rc @ONLY)
 target_sources(Lumora PRIVATE ${CMAKE_BINARY_DIR}/lumora.rc)
 set_source_files_properties(${CMAKE_BINARY_DIR}/lumora.rc PROPERTIES OBJECT_DEPENDS
-  "${CMAKE_SOURCE_DIR}/assets/lumora.ico;${CMAKE_SOURCE_DIR}/src/startup/lumora.manifest")
+  "${CMAKE_SOURCE_DIR}/assets/lumora.ico;${CMAKE_SOURCE_DIR}/assets/preview.gif;${CMAKE_SOURCE_DIR}/src/startup/lumora.manifest")
 set_target_properties(Lumora PROPERTIES SUFFIX ".scr")
 target_link_libraries(Lumora PRIVATE lumora_win)
 set(program_link_options -municode -static -s -Wl,--gc-sections -Wl,--dynamicbase -Wl,--nxcompat)

@@ -31,25 +31,6 @@ std::string Sample(const pictures::Scene& scene) {
   return GifFile(ReduceColors(Paint(part, kSampleSize, 3), 1.0F));
 }
 
-// A source file with the bytes of a file in it.
-std::string AsSource(const std::string& bytes) {
-  std::string text =
-      "// Made by tools/make_sample_pictures.cpp; do not edit.\n"
-      "#include \"startup/preview_image_data.h\"\n\n"
-      "namespace startup {\n\n"
-      "// clang-format off\n"
-      "const unsigned char kPreviewImageFile[] = {";
-  for (std::size_t i = 0; i < bytes.size(); ++i) {
-    text += i % 24 == 0 ? "\n    " : " ";
-    text += std::to_string(static_cast<unsigned char>(bytes[i]));
-    text += ',';
-  }
-  return text +
-         "\n};\n// clang-format on\n\n"
-         "const std::size_t kPreviewImageFileSize = sizeof kPreviewImageFile;\n\n"
-         "}  // namespace startup\n";
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -57,7 +38,7 @@ int main(int argc, char** argv) {
   const std::string preview = GifFile(pictures::ReduceColors(pictures::PreviewPicture(), 1.0F));
   const bool done =
       Write(root + "/assets/lumora.ico", pictures::IconFile({16, 20, 24, 32, 40, 48, 64, 96, 128, 256})) &&
-      Write(root + "/src/startup/preview_image_data.cpp", AsSource(preview)) &&
+      Write(root + "/assets/preview.gif", preview) &&
       Write(root + "/assets/image1.gif", Sample(pictures::DuskLandscape())) &&
       Write(root + "/assets/image2.gif", Sample(pictures::NightSky())) &&
       Write(root + "/packaging/pictures/side.bmp", pictures::BmpFile(pictures::SetupSidePicture())) &&

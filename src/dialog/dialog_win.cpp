@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "forms/surface_win.h"
-#include "os/program_icon_win.h"
+#include "os/program_resources_win.h"
 
 namespace dialog {
 

@@ -20,9 +20,14 @@ class Desktop {
   // The taskbar's window, or 0 where there is none.
   virtual std::intptr_t findTaskbar() = 0;
 
-  // Handle 0 does nothing.
+  // Handle 0 does nothing. Neither waits for the taskbar's owner, which may not answer. Hiding leaves a mark
+  // on the window and showing takes it off.
   virtual void hideTaskbar(std::intptr_t window) = 0;
   virtual void showTaskbar(std::intptr_t window) = 0;
+
+  // The taskbar when it has the mark, else 0. While no show runs, a mark means that one was killed before it
+  // could bring the taskbar back; a taskbar that somebody else hid has none.
+  virtual std::intptr_t findMarkedTaskbar() = 0;
 
   // The system's note that a saver is running (action 97, SPI_SETSCREENSAVERRUNNING). On the older family a
   // running saver blocks task switching; it must be told of the start and of the end.

@@ -17,6 +17,9 @@ namespace {
 constexpr DWORD kStep = 1U << 26;                 // bytes of one read or write
 constexpr std::uint64_t kLargestFile = 1U << 30;  // more is no file of ours, and no picture
 
+constexpr DWORD kBetweenAttemptsMs = 20;
+constexpr const wchar_t* kBeside = L".new-";  // what the name of a file beside another one adds to it
+
 std::optional<std::uint64_t> SizeOf(const FileHandle& file) {
   LARGE_INTEGER size{};
   if (!file.isOpen() || GetFileSizeEx(file.get(), &size) == FALSE) return std::nullopt;
@@ -63,7 +66,38 @@ bool WriteNew(const std::wstring& path, std::string_view content) {
 // A name that no other process and no other call of this one uses at the same time.
 std::wstring NameBeside() {
   static std::atomic<unsigned> count{0};
-  return L".new-" + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++count);
+  return kBeside + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++count);
+}
+
+bool IsHeldByAnother(DWORD error) {
+  return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION || error == ERROR_ACCESS_DENIED ||
+         error == ERROR_USER_MAPPED_FILE;
+}
+
+// MoveFileEx replaces the name in one step of the file system. ReplaceFile would carry the old file's
+// attributes over, but by its documentation it can fail with the old file gone.
+bool MoveOver(const std::wstring& from, const std::wstring& target, int patienceMs) {
+  const ULONGLONG start = GetTickCount64();
+  while (MoveFileExW(from.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) ==
+         FALSE) {
+    if (!IsHeldByAnother(GetLastError()) || GetTickCount64() - start >= static_cast<ULONGLONG>(patienceMs))
+      return false;
+    Sleep(kBetweenAttemptsMs);
+  }
+  return true;
+}
+
+// What runs of this program that were killed while they wrote have left beside the target. Those that write
+// the same file exclude each other, so none of it is in use.
+void RemoveLeftovers(const std::wstring& target) {
+  const std::wstring folder = target.substr(0, target.find_last_of(L'\\') + 1);
+  WIN32_FIND_DATAW found{};
+  const HANDLE search = FindFirstFileW((target + kBeside + L"*").c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return;
+  do {
+    DeleteFileW((folder + found.cFileName).c_str());
+  } while (FindNextFileW(search, &found) != FALSE);
+  FindClose(search);
 }
 
 // Visible entries of a folder: its folders, or its files.
@@ -103,17 +137,13 @@ std::optional<std::string> FilesWin::readHead(const std::string& path, std::size
   return ReadFront(file, static_cast<std::size_t>(std::min<std::uint64_t>(*size, limit)));
 }
 
-// MoveFileEx replaces the name in one step of the file system. ReplaceFile would carry the old file's
-// attributes over, but by its documentation it can fail with the old file gone.
 bool FilesWin::replace(const std::string& path, std::string_view content) {
   const std::wstring nameBeside = NameBeside();
   const std::wstring target = WidePath(path, nameBeside.size());
   if (MayOnlyBeRead(target)) return false;
+  RemoveLeftovers(target);
   const std::wstring beside = target + nameBeside;
-  if (WriteNew(beside, content) && MoveFileExW(beside.c_str(), target.c_str(),
-                                               MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != FALSE) {
-    return true;
-  }
+  if (WriteNew(beside, content) && MoveOver(beside, target, patienceMs_)) return true;
   DeleteFileW(beside.c_str());
   return false;
 }

@@ -5,8 +5,16 @@
 
 namespace os {
 
+// How long a save waits for a file that a virus scanner or an indexer holds.
+constexpr int kSavePatienceMs = 2000;
+
 class FilesWin : public Files {
  public:
+  // While another program holds a file that is to be replaced, it is tried again for so long. A show has no
+  // patience: it goes on without what it could not write. What killed attempts of other runs have left beside
+  // a file is removed when it is replaced.
+  explicit FilesWin(int patienceMs = 0) : patienceMs_(patienceMs) {}
+
   std::optional<std::string> read(const std::string& path) override;
   std::optional<std::string> readHead(const std::string& path, std::size_t limit) override;
   bool replace(const std::string& path, std::string_view content) override;
@@ -18,6 +26,9 @@ class FilesWin : public Files {
   std::string currentFolder() override;
   void enterFolder(const std::string& folder) override;
   std::string shortPath(const std::string& path) override;
+
+ private:
+  int patienceMs_;
 };
 
 }  // namespace os

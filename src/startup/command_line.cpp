@@ -3,22 +3,29 @@
 #include <algorithm>
 
 #include "base/number_text.h"
+#include "base/text.h"
 
 namespace startup {
 
 namespace {
 
-bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+// The space of every script, tab and line end included.
+bool IsBlank(char32_t character) {
+  constexpr std::u32string_view kBlanks =
+      U"\t\n\v\f\r \u0085\u00A0\u1680\u2000\u2001\u2002\u2003\u2004\u2005\u2006\u2007\u2008\u2009\u200A"
+      U"\u2028\u2029\u202F\u205F\u3000";
+  return kBlanks.find(character) != std::u32string_view::npos;
+}
 
-// Letters beyond ASCII are compared as they are: no switch has any, and a path that differs only in their
-// case is then read as any other.
-char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+// What stands between the program's name and the text, as the system writes it.
+bool Separates(char c) { return c == ' ' || c == '\t'; }
 
+// Letters beyond ASCII are compared as they are: a path that differs only in their case is then read as any
+// other.
 bool StartsWithPath(std::string_view line, std::string_view path) {
   if (path.empty() || line.size() < path.size()) return false;
-  if (line.size() > path.size() && !IsBlank(line[path.size()])) return false;
-  return std::equal(path.begin(), path.end(), line.begin(),
-                    [](char a, char b) { return Upper(a) == Upper(b); });
+  if (line.size() > path.size() && !Separates(line[path.size()])) return false;
+  return base::EqualAsciiBlind(line.substr(0, path.size()), path);
 }
 
 // Where the program's name ends. A quote turns the meaning of blanks over until the next one.
@@ -30,20 +37,21 @@ std::size_t EndOfName(std::string_view line, std::string_view programPath) {
   }
   bool quoted = false;
   std::size_t end = 0;
-  for (; end < line.size() && (quoted || !IsBlank(line[end])); ++end) {
+  for (; end < line.size() && (quoted || !Separates(line[end])); ++end) {
     if (line[end] == '"') quoted = !quoted;
   }
   return end;
 }
 
-std::string_view TrimSpaces(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
+// The number behind so many characters, with the blanks of every script left out.
 std::intptr_t WindowAfter(std::string_view text, std::size_t skipped) {
-  return base::LenientInt32(text.substr(std::min(skipped, text.size())));
+  std::string rest;
+  for (std::size_t place = 0, count = 0; place < text.size(); ++count) {
+    const base::Utf8Character character = base::Utf8CharacterAt(text, place);
+    if (count >= skipped && !IsBlank(character.value)) rest += text.substr(place, character.length);
+    place += character.length;
+  }
+  return base::LenientInt32(rest);
 }
 
 }  // namespace
@@ -51,13 +59,12 @@ std::intptr_t WindowAfter(std::string_view text, std::size_t skipped) {
 std::string TextAfterProgramName(std::string_view commandLine, std::string_view programPath) {
   std::string_view rest = commandLine.substr(EndOfName(commandLine, programPath));
   rest.remove_prefix(
-      static_cast<std::size_t>(std::find_if_not(rest.begin(), rest.end(), IsBlank) - rest.begin()));
+      static_cast<std::size_t>(std::find_if_not(rest.begin(), rest.end(), Separates) - rest.begin()));
   return std::string(rest);
 }
 
 RunMode RunModeOf(std::string_view text) {
-  std::string start(TrimSpaces(text).substr(0, 2));
-  std::transform(start.begin(), start.end(), start.begin(), Upper);
+  const std::string start = base::AsciiUpper(base::TrimBlanks(text).substr(0, 2));
   if (start == "/C") return RunMode::Configure;
   if (start == "/A") return RunMode::ChangePassword;
   if (start.empty() || start == "/S") return RunMode::Show;

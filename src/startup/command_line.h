@@ -31,9 +31,10 @@ std::intptr_t PasswordWindowOf(std::string_view text);
 // of the untrimmed text. No number gives 0, which is the whole screen; a number beyond 32 bits gives the end
 // of their range, by which no window goes.
 //
-// Both count from where the text starts. TextAfterProgramName() leaves no blanks there; text from elsewhere
-// with one blank in front still gives the window behind "/P" (the separator takes the blank's place), and 0
-// behind "/A".
+// Both count characters, not bytes, and skip the blanks of every script in front of the number. They count
+// from where the text starts. TextAfterProgramName() leaves no blanks there; text from elsewhere with one
+// blank in front still gives the window behind "/P" (the separator takes the blank's place), and 0 behind
+// "/A".
 std::intptr_t PreviewWindowOf(std::string_view text);
 
 }  // namespace startup

@@ -18,17 +18,16 @@
 #include "os/passwords.h"
 #include "os/paths.h"
 #include "os/picture_decoder_win.h"
+#include "os/program_resources_win.h"
 #include "os/screen_win.h"
 #include "os/system_library_win.h"
 #include "os/text_renderer_win.h"
 #include "pictures/picture_loader.h"
 #include "saver/stage_window_win.h"
-#include "settings/settings_file.h"
 #include "startup/command_line.h"
 #include "startup/crash_guard_win.h"
 #include "startup/main.h"
 #include "startup/preview.h"
-#include "startup/preview_image.h"
 #include "startup/show.h"
 
 namespace {
@@ -48,6 +47,7 @@ struct Machine {
   os::ClockWin clock;
   os::EventLoopWin loop{clock};
   os::FilesWin files;
+  os::FilesWin savedFiles{os::kSavePatienceMs};  // for the dialog, which saves what the user typed
   os::AnsiCodePageWin ansi;
   os::ScreenWin screen;
   std::unique_ptr<os::MachineFacts> facts = os::MakeMachineFacts();
@@ -82,11 +82,9 @@ class SaverMode {
 };
 
 void DrawPreview(Machine& machine, const std::string& commandText) {
-  const settings::IniDocument document =
-      settings::OpenSettings(machine.files, machine.ansi, machine.programFolder);
   const std::unique_ptr<os::ForeignWindow> window = os::MakeForeignWindow();
-  startup::DrawPreview(commandText, startup::PreviewImage(),
-                       settings::ReadIniValue(document, "extras", "livePreview"),
+  startup::DrawPreview(commandText, startup::PreviewImage(os::ProgramData(startup::kPreviewImageResource)),
+                       startup::LivePreviewSetting(machine.files, machine.ansi, machine.programFolder),
                        {*window, machine.loop, machine.clock, *machine.only}, [&] { machine.loop.quit(); });
 }
 
@@ -108,7 +106,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
       .showDialog =
           [&] {
             settings = std::make_unique<dialog::SettingsDialogWin>(
-                dialog::DialogMachineWin{machine.loop, machine.files, machine.ansi, machine.pictures},
+                dialog::DialogMachineWin{machine.loop, machine.savedFiles, machine.ansi, machine.pictures},
                 machine.programFolder);
           },
       .drawPreview = [&](const std::string& text) { DrawPreview(machine, text); }};

@@ -38,8 +38,16 @@ FailureLog::FailureLog(os::Files& files, const os::Clock& clock, const std::stri
     : files_(files), clock_(clock), path_(os::JoinPath(programFolder, "lumora.log")) {}
 
 void FailureLog::note(const std::string& failure) noexcept {
+  note([failure] { return failure; });
+}
+
+void FailureLog::note(std::function<std::string()> say) noexcept {
   try {
-    if (state_ != State::Off) add(failure);
+    if (state_ == State::On && noted_.size() < kMostLines) {
+      if (const std::string line = newLine(clock_.now(), say()); !line.empty()) write(line);
+    } else if (state_ == State::Undecided && waiting_.size() < kMostLines) {
+      waiting_.push_back({clock_.now(), std::move(say)});
+    }
   } catch (const std::exception&) {
     state_ = State::Off;  // without memory there is no log
   }
@@ -48,21 +56,20 @@ void FailureLog::note(const std::string& failure) noexcept {
 void FailureLog::decide(const std::string& setting) noexcept {
   try {
     state_ = setting == "1" ? State::On : State::Off;
-    const std::string lines = std::exchange(waiting_, {});
-    if (state_ == State::On && !lines.empty()) write(lines);
+    const std::vector<Waiting> waiting = std::exchange(waiting_, {});
+    if (state_ == State::Off) return;
+    std::string lines;
+    for (const Waiting& each : waiting) lines += newLine(each.when, each.say());
+    if (!lines.empty()) write(lines);
   } catch (const std::exception&) {
     state_ = State::Off;
   }
 }
 
-void FailureLog::add(const std::string& failure) {
-  if (noted_.size() >= kMostLines || !noted_.insert(failure).second) return;
-  const std::string line = TimeText(clock_.now()) + " " + OnOneLine(failure) + "\r\n";
-  if (state_ == State::Undecided) {
-    waiting_ += line;
-  } else {
-    write(line);
-  }
+// Empty for what has been noted before, and beyond the most lines of one show.
+std::string FailureLog::newLine(const os::LocalTime& when, const std::string& failure) {
+  if (noted_.size() >= kMostLines || !noted_.insert(failure).second) return {};
+  return TimeText(when) + " " + OnOneLine(failure) + "\r\n";
 }
 
 void FailureLog::write(const std::string& lines) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
@@ -23,13 +24,21 @@ class FailureLog {
   // Never throws. What comes before decide() waits for it.
   void note(const std::string& failure) noexcept;
 
+  // The same for a line that costs something to say: `say` is asked only once the log is on.
+  void note(std::function<std::string()> say) noexcept;
+
   // `setting` is what the settings say: "1" = write.
   void decide(const std::string& setting) noexcept;
 
  private:
   enum class State { Undecided, Off, On };
 
-  void add(const std::string& failure);
+  struct Waiting {
+    os::LocalTime when;
+    std::function<std::string()> say;
+  };
+
+  std::string newLine(const os::LocalTime& when, const std::string& failure);
   void write(const std::string& lines);
 
   os::Files& files_;
@@ -37,7 +46,7 @@ class FailureLog {
   std::string path_;
   State state_ = State::Undecided;
   std::set<std::string> noted_;
-  std::string waiting_;  // lines that came before the decision
+  std::vector<Waiting> waiting_;  // what came before the decision
 };
 
 }  // namespace startup

@@ -9,23 +9,26 @@ namespace startup {
 
 namespace {
 
-constexpr float kJitterUnits = 3.0F;
+// A small move, of a table that was bumped, does not count.
+constexpr float kToleratedMove = 3.0F;
 constexpr double kStaleAfterSeconds = 2.0;
 
-bool IsFar(float now, std::int32_t last) { return std::fabs(now - static_cast<float>(last)) > kJitterUnits; }
+bool IsFar(float now, std::int32_t last) {
+  return std::fabs(now - static_cast<float>(last)) > kToleratedMove;
+}
 
 }  // namespace
 
 InputWatch::InputWatch(const os::SystemFacts& facts, double threshold, Actions actions)
     : guardsPassword_(facts.guardsPassword()), threshold_(threshold), actions_(std::move(actions)) {}
 
-void InputWatch::Handler::record(float x, float y) {
+void InputWatch::LastPlace::record(float x, float y) {
   lastMouseX = base::ToInt32(x);
   lastMouseY = base::ToInt32(y);
   hasRecorded = true;
 }
 
-void InputWatch::filter(Handler& handler, const MouseMove& move) {
+void InputWatch::filter(LastPlace& handler, const MouseMove& move) {
   const bool rests = pointer_ == move.onScreen;
   const bool far = IsFar(move.x, handler.lastMouseX) || IsFar(move.y, handler.lastMouseY);
   const bool counts = far && !rests && handler.lastMouseX > 0 && handler.lastMouseY > 0;
@@ -54,7 +57,7 @@ void InputWatch::MouseMoved(float secondsSinceMidnight) {
   }
 }
 
-void InputWatch::screenChanged() {
+void InputWatch::forgetPointer() {
   form_ = {};
   picture_ = {};
   pointer_.reset();
@@ -64,7 +67,7 @@ void InputWatch::controlsMoved(const ControlAt& controlAt) {
   if (!pointer_) return;
   const std::optional<PointedControl> found = controlAt(*pointer_);
   if (!found) return;
-  Handler& handler = found->control == WatchedControl::Form ? form_ : picture_;
+  LastPlace& handler = found->control == WatchedControl::Form ? form_ : picture_;
   // A handler without a position has none to follow; its first event records.
   if (handler.hasRecorded) handler.record(found->x, found->y);
 }

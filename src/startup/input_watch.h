@@ -37,16 +37,28 @@ class InputWatch {
     std::function<void()> exitSaver;
   };
 
+  // Where one handler saw the pointer last, in its own units.
+  struct LastPlace {
+    std::int32_t lastMouseX = 0;
+    std::int32_t lastMouseY = 0;
+    bool hasRecorded = false;
+
+    void record(float x, float y);
+  };
+
   // `threshold`: the number of counted moves that ends the show. Only a count that equals it exactly does.
   InputWatch(const os::SystemFacts& facts, double threshold, Actions actions);
 
   void Form_MouseDown() { actions_.exitSaver(); }
   void Form_KeyDown() { actions_.exitSaver(); }
-  void DisplayingPicture_KeyDown() { actions_.exitSaver(); }
 
   // May throw base::Overflow, for more than 32767 counted moves.
   void Form_MouseMove(const MouseMove& move) { filter(form_, move); }
   void DisplayingPicture_MouseMove(const MouseMove& move) { filter(picture_, move); }
+
+  // A move over the cover of a further screen, whose place is measured from the cover's own top-left corner:
+  // the rule about the edges is each window's own.
+  void Cover_MouseMove(LastPlace& cover, const MouseMove& move) { filter(cover, move); }
 
   // Counts one move.
   void MouseMoved(float secondsSinceMidnight);
@@ -58,29 +70,22 @@ class InputWatch {
   using ControlAt = std::function<std::optional<PointedControl>(base::PixelPoint onScreen)>;
   void controlsMoved(const ControlAt& controlAt);
 
-  // To be called after the screens were arranged differently, which takes the pointer along without a hand on
-  // the mouse: each handler's next move only records where it is now.
-  void screenChanged();
+  // To be called after something else than a hand has moved the pointer: the screens were arranged
+  // differently, or the program parked it. Each handler's next move only records where it is now; the covers'
+  // places are their owner's to forget.
+  void forgetPointer();
 
   std::int16_t moveCount() const { return moveCount_; }
   std::int32_t firstMoveTime() const { return firstMoveTime_; }
 
  private:
-  struct Handler {
-    std::int32_t lastMouseX = 0;
-    std::int32_t lastMouseY = 0;
-    bool hasRecorded = false;
-
-    void record(float x, float y);
-  };
-
-  void filter(Handler& handler, const MouseMove& move);
+  void filter(LastPlace& handler, const MouseMove& move);
 
   bool guardsPassword_;
   double threshold_;
   Actions actions_;
-  Handler form_;
-  Handler picture_;
+  LastPlace form_;
+  LastPlace picture_;
   std::optional<base::PixelPoint> pointer_;  // where the last event of any handler saw it
   std::int16_t moveCount_ = 0;
   std::int32_t firstMoveTime_ = 0;  // whole seconds since midnight; 0 = no window of time is open

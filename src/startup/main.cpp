@@ -18,6 +18,13 @@ void StartSaver(os::SystemFacts& facts, const StartServices& services, const Run
   modes.showSaver(facts);
 }
 
+// A show that was killed by force has left the taskbar hidden. No other copy runs now, so none needs it so;
+// and a show that is about to start hides it again and brings it back at its end.
+void BringBackTaskbar(os::Desktop& desktop) {
+  const std::intptr_t left = desktop.findMarkedTaskbar();
+  if (left != 0) desktop.showTaskbar(left);
+}
+
 }  // namespace
 
 Start Main(const std::string& commandText, const StartServices& services, const RunModes& modes) {
@@ -26,6 +33,7 @@ Start Main(const std::string& commandText, const StartServices& services, const 
   start.facts.usePassword = PasswordFlagNumber(ReadPasswordFlag(services.machine));
   if (!services.instance.becomeOnly()) return start;
   start.mode = RunModeOf(commandText);
+  if (*start.mode != RunMode::Show) BringBackTaskbar(services.desktop);
   switch (*start.mode) {
     case RunMode::Configure:
       modes.showDialog();

@@ -3,8 +3,9 @@
 #include <cstdlib>
 #include <memory>
 
+#include "pictures/gif_first_frame.h"
+#include "settings/settings_file.h"
 #include "startup/command_line.h"
-#include "startup/puzzle_form.h"
 
 namespace startup {
 
@@ -50,6 +51,27 @@ void KeepAlive(std::intptr_t window, const base::Bitmap& block, const PreviewSer
 }
 
 }  // namespace
+
+base::Bitmap PreviewImage(std::string_view gifFile) {
+  const auto frame = pictures::GifFirstFrame::decode(gifFile);
+  if (!frame) return {};
+  base::Bitmap picture(frame->size());
+  for (int y = 0; y < picture.size().height; ++y) frame->row(y, picture.row(y));
+  picture.setOpaque(true);
+  return picture;
+}
+
+PuzzleForm::PuzzleForm(const base::Bitmap& image) : Form("PuzzleForm"), Picture1(*this, "Picture1") {
+  Picture1.setAutoSize(true);
+  Picture1.setPicture(pictures::MakePicture(std::make_shared<base::Bitmap>(image)));
+}
+
+std::string LivePreviewSetting(os::Files& files, const os::AnsiCodePage& ansi,
+                               const std::string& programFolder) {
+  const std::string bytes = files.read(settings::IniPath(programFolder)).value_or(std::string());
+  const settings::IniDocument document(bytes, ansi);
+  return settings::ReadIniValue(document, "extras", "livePreview");
+}
 
 bool PreviewIsLost(os::ForeignWindow& foreign, std::intptr_t window, const base::Bitmap& block) {
   for (int row = 0; row < kRowsLookedAt; ++row) {

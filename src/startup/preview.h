@@ -3,14 +3,34 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "base/bitmap.h"
+#include "forms/form.h"
+#include "forms/picture_boxes.h"
+#include "os/ansi_code_page.h"
 #include "os/clock.h"
 #include "os/event_loop.h"
+#include "os/files.h"
 #include "os/foreign_window.h"
 #include "os/instance.h"
 
 namespace startup {
+
+// Where the program's resources keep the picture, a GIF file of 160 x 120 pixels.
+constexpr int kPreviewImageResource = 1;
+
+// The picture in the bytes of a GIF file, opaque; empty where the file is none.
+base::Bitmap PreviewImage(std::string_view gifFile);
+
+// The form that holds the preview's picture. It is never shown.
+class PuzzleForm : public forms::Form {
+ public:
+  // `image` is what Picture1 holds from the start, at its own size.
+  explicit PuzzleForm(const base::Bitmap& image);
+
+  forms::PictureBox Picture1;
+};
 
 // The block that is copied to the window's top-left corner.
 constexpr base::PixelSize kPreviewSize{160, 120};
@@ -24,6 +44,11 @@ struct PreviewServices {
   const os::Clock& clock;
   os::Instance& instance;
 };
+
+// What the settings say of a live preview. The settings file is only read: a preview writes nothing, not even
+// on the first run.
+std::string LivePreviewSetting(os::Files& files, const os::AnsiCodePage& ansi,
+                               const std::string& programFolder);
 
 // Draws `image` once into the window that the command line names, and calls `endProgram`. A number that is no
 // window ends it without drawing anywhere; 0 is the whole screen.

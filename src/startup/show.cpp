@@ -3,10 +3,25 @@
 #include <exception>
 #include <utility>
 
+#include "base/errors.h"
 #include "base/number_text.h"
 #include "startup/cursor_rules.h"
 
 namespace startup {
+
+namespace {
+
+// How many counted moves end the show. Settings that could not be loaded to their end may lack the number.
+double MovesToEnd(const std::string& mouseSensitivity) {
+  constexpr double kUsual = 7;
+  try {
+    return base::StrictDouble(mouseSensitivity);
+  } catch (const base::RunTimeError&) {
+    return kUsual;
+  }
+}
+
+}  // namespace
 
 Show::Show(const saver::ShowServices& services, const SaverExit::Services& exit, SystemRestore& restore,
            const os::SystemFacts& facts, const std::string& programFolder, WindowMaker makeWindow)
@@ -18,13 +33,12 @@ Show::Show(const saver::ShowServices& services, const SaverExit::Services& exit,
       form_(services, facts, programFolder),
       exit_(facts, exit,
             {.window = [this] { return services_.window.handle(); },
-             .showFormAgain = [this] { services_.window.activate(); },
-             .unloadForm =
+             .showFormAgain =
                  [this] {
-                   form_.unload();
-                   services_.window.close();
-                   for (const auto& cover : covers_) cover->window->close();
+                   forgetPointer();  // it has been parked
+                   services_.window.activate();
                  },
+             .unloadForm = [this] { unloadForm(); },
              .endProgram = [this] { services_.loop.quit(); }}) {
   services_.loop.setErrorHandler([this](const std::exception& error) { endByError(error); });
   services_.window.onSessionEnd = [this] { endWithoutAsking(); };
@@ -44,6 +58,7 @@ void Show::start() {
     form_.Form_Load();
   } catch (const std::exception& error) {
     decideOnLog();
+    watchInput();  // where the password is asked for, the window may have to stay
     endByError(error);
     return;
   }
@@ -55,8 +70,7 @@ void Show::start() {
 }
 
 void Show::watchInput() {
-  const double threshold = base::StrictDouble(form_.settings().record.mouseSensitivity);
-  watch_.emplace(facts_, threshold,
+  watch_.emplace(facts_, MovesToEnd(form_.settings().record.mouseSensitivity),
                  InputWatch::Actions{.showCursor = [this] { ShowCursor(restore_); },
                                      .exitSaver = [this] { exit_.ExitSaver(); }});
   saver::StageWindow& window = services_.window;
@@ -86,13 +100,11 @@ void Show::coverOtherScreens() {
 }
 
 std::unique_ptr<Show::Cover> Show::makeCover() {
-  auto made = std::make_unique<Cover>(Cover{makeWindow_(), {}});
-  const Cover& cover = *made;
+  auto made = std::make_unique<Cover>(Cover{makeWindow_(), {}, {}});
+  Cover& cover = *made;
   cover.window->onKeyDown = services_.window.onKeyDown;
   cover.window->onMouseDown = services_.window.onMouseDown;
-  cover.window->onMouseMove = [this, &cover](base::PixelPoint place) {
-    mouseMoved({place.x + cover.area.left, place.y + cover.area.top});
-  };
+  cover.window->onMouseMove = [this, &cover](base::PixelPoint place) { coverMouseMoved(cover, place); };
   cover.window->onCloseRequest = services_.window.onCloseRequest;
   cover.window->onSessionEnd = services_.window.onSessionEnd;
   return made;
@@ -101,12 +113,22 @@ std::unique_ptr<Show::Cover> Show::makeCover() {
 bool Show::screenIsAnother() const { return services_.screen.primarySize() != form_.screenSize(); }
 
 void Show::screenChanged() {
-  watch_->screenChanged();
-  form_.ScreenChanged();
+  forgetPointer();
+  if (form_.isOver()) {
+    leaveBackground();
+  } else {
+    form_.ScreenChanged();
+  }
   coverOtherScreens();
 }
 
+void Show::forgetPointer() {
+  watch_->forgetPointer();
+  for (const auto& cover : covers_) cover->lastPlace = {};
+}
+
 std::optional<PointedControl> Show::pointedControl(base::PixelPoint onScreen) const {
+  if (!base::PixelRect::ofSize(form_.screenSize()).contains(onScreen)) return std::nullopt;
   // A caption or a clock has no handler of its own: over them the form sees the pointer.
   if (services_.stage.controlAt(onScreen) == &form_.DisplayingPicture) {
     const base::PixelRect place = form_.DisplayingPicture.pixelRect();
@@ -122,14 +144,23 @@ std::optional<PointedControl> Show::pointedControl(base::PixelPoint onScreen) co
 
 void Show::mouseMoved(base::PixelPoint onScreen) {
   // The pointer that a change of the screen takes along can arrive before the news of the change.
-  if (screenIsAnother()) watch_->screenChanged();
+  if (screenIsAnother()) forgetPointer();
   const std::optional<PointedControl> pointed = pointedControl(onScreen);
+  if (!pointed) return;
   const MouseMove move{pointed->x, pointed->y, onScreen, os::SecondsSinceMidnight(services_.clock.now())};
   if (pointed->control == WatchedControl::DisplayingPicture) {
     watch_->DisplayingPicture_MouseMove(move);
   } else {
     watch_->Form_MouseMove(move);
   }
+}
+
+void Show::coverMouseMoved(Cover& cover, base::PixelPoint inside) {
+  const auto perPixel = static_cast<float>(form_.twipsPerPixel());
+  watch_->Cover_MouseMove(cover.lastPlace, {static_cast<float>(inside.x) * perPixel,
+                                            static_cast<float>(inside.y) * perPixel,
+                                            {inside.x + cover.area.left, inside.y + cover.area.top},
+                                            os::SecondsSinceMidnight(services_.clock.now())});
 }
 
 void Show::decideOnLog() {
@@ -141,9 +172,12 @@ void Show::decideOnLog() {
 void Show::notePicture(const std::string& path, pictures::PictureFailure failure) {
   switch (failure) {
     case pictures::PictureFailure::NotOpened:
-      log_.note((services_.files.exists(path) ? "picture: in use, or of no kind that can be read: "
-                                              : "picture: no such file: ") +
-                path);
+      // Asked when the log is on alone: a share that has gone lets whoever asks wait.
+      log_.note([&files = services_.files, path] {
+        return (files.exists(path) ? "picture: in use, or of no kind that can be read: "
+                                   : "picture: no such file: ") +
+               path;
+      });
       break;
     case pictures::PictureFailure::NotDrawn:
       log_.note("picture: broken, changed, or too large to decode: " + path);
@@ -156,15 +190,34 @@ void Show::notePicture(const std::string& path, pictures::PictureFailure failure
 
 void Show::endByError(const std::exception& error) {
   log_.note(std::string("the show ended by an error: ") + error.what());
-  endWithoutAsking();
+  if (!facts_.guardsPassword()) {
+    endWithoutAsking();
+    return;
+  }
+  leaveBackground();
+  exit_.ExitSaver();
+}
+
+// What runs of the show stops, and its window goes on covering the screen until the password is given.
+void Show::leaveBackground() {
+  form_.unload();
+  for (forms::Control* control : form_.controls()) {
+    if (control != &form_.BgrImage) control->setVisible(false);
+  }
+  services_.window.cover(base::PixelRect::ofSize(services_.screen.primarySize()));
+  services_.stage.flush();
 }
 
 void Show::endWithoutAsking() {
   restore_.restore();
+  unloadForm();
+  services_.loop.quit();
+}
+
+void Show::unloadForm() {
   form_.unload();
   services_.window.close();
   for (const auto& cover : covers_) cover->window->close();
-  services_.loop.quit();
 }
 
 }  // namespace startup

@@ -36,6 +36,7 @@ class Show {
   struct Cover {
     std::unique_ptr<saver::StageWindow> window;
     base::PixelRect area;
+    InputWatch::LastPlace lastPlace;
   };
 
   void watchInput();
@@ -44,11 +45,15 @@ class Show {
   bool screenIsAnother() const;
   void screenChanged();
   void mouseMoved(base::PixelPoint onScreen);
+  void coverMouseMoved(Cover& cover, base::PixelPoint inside);
+  void forgetPointer();
   std::optional<PointedControl> pointedControl(base::PixelPoint onScreen) const;
   void decideOnLog();
   void notePicture(const std::string& path, pictures::PictureFailure failure);
   void endByError(const std::exception& error);
   void endWithoutAsking();
+  void leaveBackground();
+  void unloadForm();
 
   saver::ShowServices services_;
   SystemRestore& restore_;

@@ -25,6 +25,7 @@ class SystemRestore : public os::Desktop {
   int showCursor(bool show) override;
   void moveCursor(int x, int y) override { desktop_.moveCursor(x, y); }
   std::intptr_t findTaskbar() override { return desktop_.findTaskbar(); }
+  std::intptr_t findMarkedTaskbar() override { return desktop_.findMarkedTaskbar(); }
   void hideTaskbar(std::intptr_t window) override;
   void showTaskbar(std::intptr_t window) override;
   void setScreenSaverRunning(bool running) override;

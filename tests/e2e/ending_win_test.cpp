@@ -20,6 +20,7 @@ class Taskbar {
 
   bool isTheOneFound() const { return FindWindowW(L"Shell_traywnd", L"") == window_.get(); }
   bool isVisible() const { return IsWindowVisible(window_.get()) != FALSE; }
+  void hide() const { ShowWindow(window_.get(), SW_HIDE); }
   bool comesToBe(bool visible) const {
     return e2e::WaitFor([&] { return isVisible() == visible; });
   }
@@ -69,6 +70,29 @@ TEST_F(EndingTest, ACrashInTheMiddleOfTheShowBringsTheTaskbarBack) {
   EXPECT_TRUE(show.waitForEnd());
   EXPECT_NE(show.exitCode(), 0U);
   EXPECT_TRUE(taskbar.comesToBe(true));
+}
+
+TEST_F(EndingTest, ATaskbarThatAKilledShowLeftHiddenComesBackAtTheNextStartOfAnyKind) {
+  folder.writeSettings();
+  {
+    e2e::RunningProgram show(folder.program(), L"/S");
+    ASSERT_NE(show.waitForShow(), nullptr);
+    ASSERT_TRUE(taskbar.comesToBe(false));
+    TerminateProcess(show.process(), 1);
+    ASSERT_TRUE(show.waitForEnd());
+  }
+  EXPECT_FALSE(taskbar.isVisible());
+  e2e::RunningProgram preview(folder.program(), L"/p 1");  // no window goes by that number
+  EXPECT_TRUE(preview.waitForEnd());
+  EXPECT_TRUE(taskbar.comesToBe(true));
+}
+
+TEST_F(EndingTest, ATaskbarThatSomebodyElseHidStaysHidden) {
+  taskbar.hide();
+  folder.writeSettings();
+  e2e::RunningProgram preview(folder.program(), L"/p 1");
+  EXPECT_TRUE(preview.waitForEnd());
+  EXPECT_FALSE(taskbar.isVisible());
 }
 
 TEST_F(EndingTest, TheEndOfTheSessionBringsTheTaskbarBack) {

@@ -6,7 +6,8 @@
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
 #include "os/handles_win.h"
-#include "startup/preview_image.h"
+#include "os/program_resources_win.h"
+#include "startup/preview.h"
 
 namespace {
 
@@ -39,9 +40,16 @@ class Monitor {
   base::PixelSize size_;
 };
 
+// The picture that the built program carries.
+base::Bitmap CarriedPicture() {
+  const os::OwnedLibrary program(
+      LoadLibraryExW((e2e::builtFolder + L"\\Lumora.scr").c_str(), nullptr, LOAD_LIBRARY_AS_DATAFILE));
+  return startup::PreviewImage(os::ProgramData(startup::kPreviewImageResource, program.get()));
+}
+
 base::Bitmap Expected(base::PixelSize size) {
   base::Bitmap picture(size, 0xFF5A5A5AU);
-  base::CopyRect(picture.view(), {0, 0}, startup::PreviewImage(), {0, 0, 160, 120});
+  base::CopyRect(picture.view(), {0, 0}, CarriedPicture(), {0, 0, 160, 120});
   return picture;
 }
 
@@ -53,6 +61,16 @@ TEST(Preview, IsDrawnOnceIntoTheGivenWindowAndEnds) {
   EXPECT_TRUE(preview.waitForEnd());
   EXPECT_EQ(preview.exitCode(), 0U);
   EXPECT_TRUE(e2e::WaitFor([&] { return monitor.look() == Expected({160, 120}); }, 3000));
+}
+
+TEST(Preview, ThePreviewWritesNothingNotEvenOnTheFirstRun) {
+  const e2e::ProgramFolder folder;
+  const std::string asInstalled = "[firstrun]\r\nsamples=1\r\n";
+  folder.writeFile("zbfaone.ini", asInstalled);
+  const Monitor monitor({160, 120});
+  e2e::RunningProgram preview(folder.program(), L"/p " + monitor.handle());
+  EXPECT_TRUE(preview.waitForEnd());
+  EXPECT_EQ(folder.readSettingsFile(), asInstalled);
 }
 
 TEST(Preview, ALargerWindowShowsThePictureInItsTopLeftCornerOnly) {

@@ -3,6 +3,8 @@
 #include <windows.h>
 
 #include <list>
+#include <memory>
+#include <thread>
 
 #include "os/utf16_win.h"
 #include "support/files_contract.h"
@@ -87,6 +89,60 @@ TEST(FilesWin, AFileThatMayOnlyBeReadKeepsItsContentAndNothingIsLeftBeside) {
   EXPECT_EQ(files.read(path), "old");
   EXPECT_EQ(files.filesIn(temporary.path()).size(), 1U);
   SetFileAttributesW(os::ToWide(path).c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+// Holds a file as a virus scanner does, for a while, on a thread of its own.
+class Holder {
+ public:
+  Holder(const std::string& path, DWORD milliseconds) {
+    started_ = std::make_unique<OpenFile>(path, FILE_SHARE_READ);
+    thread_ = std::thread([this, milliseconds] {
+      Sleep(milliseconds);  // how long it holds the file
+      started_.reset();
+    });
+  }
+  ~Holder() { thread_.join(); }
+  Holder(const Holder&) = delete;
+  Holder& operator=(const Holder&) = delete;
+
+ private:
+  std::unique_ptr<OpenFile> started_;
+  std::thread thread_;
+};
+
+TEST(FilesWin, AFileThatIsHeldForLessThanTwoSecondsIsReplacedWhenItIsFree) {
+  const TemporaryFolder temporary;
+  os::FilesWin files(os::kSavePatienceMs);
+  const std::string path = temporary.path() + "\\a.ini";
+  ASSERT_TRUE(files.replace(path, "old"));
+  const Holder scanner(path, 900);
+  EXPECT_TRUE(files.replace(path, "new"));
+  EXPECT_EQ(files.read(path), "new");
+  EXPECT_EQ(files.filesIn(temporary.path()).size(), 1U);
+}
+
+TEST(FilesWin, AFileThatIsHeldForGoodKeepsItsContentAndNothingIsLeftBeside) {
+  const TemporaryFolder temporary;
+  os::FilesWin files(300);
+  const std::string path = temporary.path() + "\\a.ini";
+  ASSERT_TRUE(files.replace(path, "old"));
+  const OpenFile held(path, FILE_SHARE_READ);
+  EXPECT_FALSE(files.replace(path, "new"));
+  EXPECT_EQ(files.read(path), "old");
+  EXPECT_EQ(files.filesIn(temporary.path()).size(), 1U);
+}
+
+TEST(FilesWin, WhoHasNoPatienceIsRefusedWhileAFileIsHeld) {
+  const TemporaryFolder temporary;
+  os::FilesWin files;
+  const std::string path = temporary.path() + "\\a.ini";
+  ASSERT_TRUE(files.replace(path, "old"));
+  const OpenFile held(path, FILE_SHARE_READ);
+  const ULONGLONG start = GetTickCount64();
+  EXPECT_FALSE(files.replace(path, "new"));
+  EXPECT_LT(GetTickCount64() - start, 1500U) << "it does not try for two seconds";
+  EXPECT_EQ(files.read(path), "old");
+  EXPECT_EQ(files.filesIn(temporary.path()).size(), 1U);
 }
 
 TEST(FilesWin, AReaderThatOpenedTheOldFileReadsItToItsEnd) {

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <array>
+#include <thread>
 
 #include "os/clock_win.h"
 #include "os/desktop.h"
@@ -12,6 +13,7 @@
 #include "os/passwords.h"
 #include "os/paths.h"
 #include "os/shell.h"
+#include "os/window_class_win.h"
 #include "startup/cursor_rules.h"
 #include "startup/password_flag.h"
 
@@ -126,20 +128,95 @@ TEST(DesktopWin, APlaceBeyondTheScreenIsItsCorner) {
   EXPECT_EQ(place.y, GetSystemMetrics(SM_CYSCREEN) - 1);
 }
 
+// A taskbar of the test's own, on this thread or on one that does not answer.
+class OwnTaskbar {
+ public:
+  OwnTaskbar() {
+    os::RegisterWindowClass(L"Shell_TrayWnd", Procedure);
+    window_.reset(CreateWindowExW(WS_EX_TOPMOST, L"Shell_TrayWnd", L"", WS_POPUP | WS_VISIBLE, 0, 0, 50, 20,
+                                  nullptr, nullptr, GetModuleHandleW(nullptr), this));
+  }
+
+  std::intptr_t handle() const { return reinterpret_cast<std::intptr_t>(window_.get()); }
+  bool isVisible() const { return IsWindowVisible(window_.get()) != FALSE; }
+
+  // Takes what was put into this thread's queue.
+  static void answer() {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+  }
+
+  WINDOWPOS lastRequest{};
+
+ private:
+  static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    auto* self = os::ObjectOf<OwnTaskbar>(window, message, lParam);
+    if (self && message == WM_WINDOWPOSCHANGING) self->lastRequest = *reinterpret_cast<WINDOWPOS*>(lParam);
+    return DefWindowProcW(window, message, wParam, lParam);
+  }
+
+  os::OwnedWindow window_;
+};
+
 TEST(DesktopWin, TheTaskbarIsFoundByItsClassAndHiddenAndShown) {
-  WNDCLASSW description{};
-  description.lpfnWndProc = DefWindowProcW;
-  description.hInstance = GetModuleHandleW(nullptr);
-  description.lpszClassName = L"Shell_TrayWnd";
-  RegisterClassW(&description);
-  const os::OwnedWindow bar(CreateWindowExW(WS_EX_TOPMOST, L"Shell_TrayWnd", L"", WS_POPUP | WS_VISIBLE, 0, 0,
-                                            50, 20, nullptr, nullptr, description.hInstance, nullptr));
+  const OwnTaskbar bar;
   const auto desktop = os::MakeDesktop();
-  EXPECT_EQ(desktop->findTaskbar(), reinterpret_cast<std::intptr_t>(bar.get()));
+  EXPECT_EQ(desktop->findTaskbar(), bar.handle());
   desktop->hideTaskbar(desktop->findTaskbar());
-  EXPECT_FALSE(IsWindowVisible(bar.get()));
+  OwnTaskbar::answer();
+  EXPECT_FALSE(bar.isVisible());
   desktop->showTaskbar(desktop->findTaskbar());
-  EXPECT_TRUE(IsWindowVisible(bar.get()));
+  OwnTaskbar::answer();
+  EXPECT_TRUE(bar.isVisible());
+}
+
+TEST(DesktopWin, TheTaskbarIsAskedForPositionAndSizeZero) {
+  const OwnTaskbar bar;
+  const auto desktop = os::MakeDesktop();
+  for (const bool show : {false, true}) {
+    show ? desktop->showTaskbar(bar.handle()) : desktop->hideTaskbar(bar.handle());
+    OwnTaskbar::answer();
+    EXPECT_EQ(bar.lastRequest.x, 0);
+    EXPECT_EQ(bar.lastRequest.y, 0);
+    EXPECT_EQ(bar.lastRequest.cx, 0);
+    EXPECT_EQ(bar.lastRequest.cy, 0);
+    EXPECT_EQ(bar.lastRequest.hwndInsertAfter, nullptr);
+    EXPECT_EQ(bar.lastRequest.flags & (SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER), 0U);
+    EXPECT_NE(bar.lastRequest.flags & (show ? SWP_SHOWWINDOW : SWP_HIDEWINDOW), 0U);
+  }
+}
+
+TEST(DesktopWin, AHiddenTaskbarHasOurMarkUntilItIsShown) {
+  const OwnTaskbar bar;
+  EXPECT_EQ(os::MakeDesktop()->findMarkedTaskbar(), 0);
+  os::MakeDesktop()->hideTaskbar(bar.handle());
+  EXPECT_EQ(os::MakeDesktop()->findMarkedTaskbar(), bar.handle()) << "whoever looks sees it";
+  os::MakeDesktop()->showTaskbar(bar.handle());
+  EXPECT_EQ(os::MakeDesktop()->findMarkedTaskbar(), 0);
+  ShowWindow(reinterpret_cast<HWND>(bar.handle()), SW_HIDE);
+  EXPECT_EQ(os::MakeDesktop()->findMarkedTaskbar(), 0) << "hidden by somebody else";
+}
+
+TEST(DesktopWin, ATaskbarWhoseOwnerDoesNotAnswerIsNotWaitedFor) {
+  const os::OwnedHandle made(CreateEventW(nullptr, TRUE, FALSE, nullptr));
+  const os::OwnedHandle enough(CreateEventW(nullptr, TRUE, FALSE, nullptr));
+  std::intptr_t window = 0;
+  std::thread owner([&] {
+    const OwnTaskbar bar;
+    window = bar.handle();
+    SetEvent(made.get());
+    WaitForSingleObject(enough.get(), 20'000);  // takes no message meanwhile
+    OwnTaskbar::answer();
+    EXPECT_TRUE(bar.isVisible());
+  });
+  ASSERT_EQ(WaitForSingleObject(made.get(), 10'000), WAIT_OBJECT_0);
+  const ULONGLONG start = GetTickCount64();
+  const auto desktop = os::MakeDesktop();
+  desktop->hideTaskbar(window);
+  desktop->showTaskbar(window);
+  EXPECT_LT(GetTickCount64() - start, 10'000U) << "both calls came back while the owner slept";
+  SetEvent(enough.get());
+  owner.join();
 }
 
 TEST(DesktopWin, TaskbarZeroIsNone) {

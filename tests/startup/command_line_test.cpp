@@ -115,3 +115,21 @@ TEST(CommandLine, AnUnquotedPathWithBlanksIsKnownByTheProgramsOwnPath) {
   EXPECT_EQ(TextAfterProgramName("C:\\MYSAVE~1\\LUMORA~1.SCR /s", path), "/s");
   EXPECT_EQ(TextAfterProgramName("\"C:\\My Savers\\Lumora Show.scr\" /s", path), "/s");
 }
+
+TEST(CommandLine, HandlesAreFoundBehindTheBlanksOfEveryScript) {
+  EXPECT_EQ(PreviewWindowOf("/p\xE3\x80\x80"
+                            "4711"),
+            4711)
+      << "a full-width space separates";
+  EXPECT_EQ(PreviewWindowOf("/p \xC2\xA0\xE2\x80\x83"
+                            "4711"),
+            4711);
+  EXPECT_EQ(PasswordWindowOf("/a\xE3\x80\x80\xC2\xA0"
+                             "4711"),
+            4711);
+  EXPECT_EQ(PreviewWindowOf("/\xD0\xBF:4711"), 4711) << "two letters and a separator, however many bytes";
+  EXPECT_EQ(PreviewWindowOf("/p:\xFF"
+                            "4711"),
+            0)
+      << "a broken byte is no blank";
+}

@@ -30,6 +30,7 @@ class SignallingDesktop : public os::Desktop {
   int showCursor(bool) override { return 0; }
   void moveCursor(int, int) override {}
   std::intptr_t findTaskbar() override { return 1; }
+  std::intptr_t findMarkedTaskbar() override { return 0; }
   void hideTaskbar(std::intptr_t) override {}
   void showTaskbar(std::intptr_t) override {
     const os::OwnedHandle signal(

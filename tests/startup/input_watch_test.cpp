@@ -50,7 +50,6 @@ TEST_F(InputWatch, AnyKeyOrButtonEndsTheShowAtOnce) {
   startup::InputWatch watch = make(30);
   watch.Form_KeyDown();
   EXPECT_EQ(exits, 1);
-  watch.DisplayingPicture_KeyDown();
   EXPECT_EQ(exits, 2);
   watch.Form_MouseDown();
   EXPECT_EQ(exits, 3);

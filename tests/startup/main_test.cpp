@@ -154,3 +154,28 @@ TEST_F(Main, ASecondInstanceEndsSilentlyWhateverItsSwitch) {
     EXPECT_THAT(machine.log.calls, ElementsAre("version", kReadFlag, "instance")) << text;
   }
 }
+
+TEST_F(Main, ATaskbarThatAKilledShowLeftHiddenComesBackAtTheNextStartOfAnyKind) {
+  for (const char* text : {"/c", "/p 4711", "/a 4711"}) {
+    machine.desktop.hideTaskbar(machine.desktop.taskbar);
+    run(text);
+    EXPECT_TRUE(machine.desktop.taskbarVisible) << text;
+  }
+}
+
+TEST_F(Main, ATaskbarThatSomebodyElseHidStaysHidden) {
+  machine.desktop.taskbarVisible = false;
+  for (const char* text : {"/c", "/p 4711", "/a 4711"}) {
+    run(text);
+    EXPECT_FALSE(machine.desktop.taskbarVisible) << text;
+  }
+}
+
+TEST_F(Main, ATaskbarThatARunningShowHidesStaysHiddenAtASecondStart) {
+  machine.desktop.hideTaskbar(machine.desktop.taskbar);
+  machine.instance.anotherRuns = true;
+  for (const char* text : {"/c", "/p 4711", "/a 4711", "/s"}) {
+    run(text);
+    EXPECT_FALSE(machine.desktop.taskbarVisible) << text;
+  }
+}

@@ -3,10 +3,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "startup/puzzle_form.h"
 #include "support/fake_event_loop.h"
+#include "support/fake_files.h"
 #include "support/fake_foreign_window.h"
 #include "support/fake_machine.h"
+#include "support/windows_1252.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -207,4 +208,13 @@ TEST(PuzzleForm, HoldsThePictureInItsOneBox) {
   EXPECT_EQ(form.controls().front()->name(), "Picture1");
   EXPECT_EQ(form.Picture1.pixelRect().size(), startup::kPreviewSize);
   EXPECT_EQ(*form.Picture1.image(), ColorfulImage());
+}
+
+TEST(LivePreviewSetting, IsReadAndNothingIsWrittenNotEvenOnTheFirstRun) {
+  support::FakeFiles files;
+  const support::Windows1252 ansi;
+  EXPECT_EQ(startup::LivePreviewSetting(files, ansi, "C:\\Lumora"), "") << "no file";
+  files.content["C:\\Lumora\\zbfaone.ini"] = "[firstrun]\r\nsamples=1\r\n[extras]\r\nlivePreview=1\r\n";
+  EXPECT_EQ(startup::LivePreviewSetting(files, ansi, "C:\\Lumora"), "1");
+  EXPECT_TRUE(files.writes.empty());
 }

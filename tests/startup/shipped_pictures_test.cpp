@@ -10,7 +10,7 @@
 #include "pictures/byte_reader.h"
 #include "pictures/gif_first_frame.h"
 #include "pictures/picture_header.h"
-#include "startup/preview_image.h"
+#include "startup/preview.h"
 
 namespace {
 
@@ -51,7 +51,8 @@ TEST(ShippedPictures, ASampleCutShortShowsItsUpperPart) {
 }
 
 TEST(ShippedPictures, ThePreviewIsOpaqueAndOfItsSize) {
-  const base::Bitmap preview = startup::PreviewImage();
+  const base::Bitmap preview = startup::PreviewImage(ReadAsset("preview.gif"));
+  ASSERT_EQ(preview.size(), startup::kPreviewSize);
   ASSERT_EQ(preview.size(), (base::PixelSize{160, 120}));
   EXPECT_TRUE(preview.isOpaque());
   std::set<base::Pixel> colors;

@@ -164,6 +164,70 @@ TEST_F(ShowTest, AnErrorWhileLoadingEndsItToo) {
   EXPECT_TRUE(machine.desktop.taskbarVisible);
 }
 
+TEST_F(ShowTest, WhereAPasswordIsNeededAnErrorAsksForItAndARefusalLeavesTheBackground) {
+  machine.passwords.accepts = false;
+  stage.addPicture({1000, 700}, kRed);
+  stage.set("image/timeInterval", "soon");
+  stage.set("background/newBackColor", "65280");
+  start({.osPlatformId = 1, .usePassword = 1});
+  stage.runFor(3000);
+  EXPECT_EQ(machine.log.count("verify 4711"), 1U);
+  EXPECT_FALSE(hasEnded());
+  EXPECT_FALSE(window().closed);
+  EXPECT_FALSE(machine.desktop.taskbarVisible);
+  EXPECT_TRUE(machine.desktop.running);
+  EXPECT_EQ(stage.screenAt(512, 384), 0xFF00FF00U) << "the background, and no picture";
+  EXPECT_EQ(stage.loop.timersRunning(), 0);
+  stage.screen.size = {800, 600};
+  window().onScreenChanged();
+  EXPECT_EQ(window().covered, (base::PixelRect{0, 0, 800, 600})) << "nothing comes from behind it";
+  machine.passwords.accepts = true;
+  window().onKeyDown(65);
+  EXPECT_TRUE(hasEnded());
+  EXPECT_TRUE(machine.desktop.taskbarVisible);
+  EXPECT_FALSE(machine.desktop.running);
+}
+
+TEST_F(ShowTest, WhereAPasswordIsNeededAnErrorWhileLoadingAsksForItToo) {
+  machine.passwords.accepts = false;
+  stage.set("font/newFontForeColor", "white");
+  start({.osPlatformId = 1, .usePassword = 1});
+  EXPECT_EQ(machine.log.count("verify 4711"), 1U);
+  EXPECT_FALSE(hasEnded());
+  EXPECT_EQ(window().covered, (base::PixelRect{0, 0, 1024, 768}));
+  machine.passwords.accepts = true;
+  window().onMouseDown({5, 5});
+  EXPECT_TRUE(hasEnded());
+}
+
+TEST_F(ShowTest, ThePointerThatARefusalParksCountsNoMove) {
+  machine.passwords.accepts = false;
+  stage.set("image/mouseSensitivity", "30");  // one move
+  start({.osPlatformId = 1, .usePassword = 1});
+  move(100, 100);
+  window().onKeyDown(65);
+  ASSERT_EQ(machine.log.count("verify 4711"), 1U);
+  move(1023, 767);  // the corner to which the program itself moved it
+  EXPECT_EQ(machine.log.count("verify 4711"), 1U);
+  move(900, 700);
+  EXPECT_EQ(machine.log.count("verify 4711"), 2U) << "the user's hand";
+}
+
+TEST_F(ShowTest, ThePointerOverThePictureIsMeasuredFromThePicturesLeftAndTop) {
+  stage.addPicture({400, 300}, kRed);  // from 312, 234 on
+  stage.set("image/mouseSensitivity", "30");
+  start();
+  stage.runFor(1000);
+  const base::PixelRect place = show->form().DisplayingPicture.pixelRect();
+  ASSERT_GT(place.left, 100);
+  ASSERT_GT(place.top, 100);
+  move(place.left, place.top + 50);  // on its left edge, where no move counts
+  move(place.left + 60, place.top + 50);
+  EXPECT_FALSE(hasEnded());
+  move(place.left + 50, place.top);  // on its top edge; the way there counts
+  EXPECT_TRUE(hasEnded());
+}
+
 TEST_F(ShowTest, ARefusedPasswordShowsTheWindowAgainAndTheShowGoesOn) {
   machine.passwords.accepts = false;
   start({.osPlatformId = 1, .usePassword = 1});
@@ -184,6 +248,89 @@ TEST_F(ShowTest, FurtherScreensAreCoveredOnlyWhenTheSettingSaysSoAndTheirInputEn
   covers[1]->onKeyDown(65);
   EXPECT_TRUE(hasEnded());
   EXPECT_TRUE(covers[0]->closed);
+}
+
+// One cover, left of and above the primary screen.
+class CoverTest : public ShowTest {
+ protected:
+  CoverTest() {
+    stage.screen.others = {{-640, -480, 640, 480}};
+    stage.set("extras/otherScreens", "black");
+    stage.set("image/mouseSensitivity", "30");  // one move
+  }
+};
+
+TEST_F(CoverTest, AMoveOverACoverLeftOfAndAboveThePrimaryScreenEndsTheShow) {
+  start();
+  covers.at(0)->onMouseMove({100, 100});
+  EXPECT_FALSE(hasEnded()) << "the first only records";
+  covers.at(0)->onMouseMove({101, 100});
+  EXPECT_TRUE(hasEnded());
+}
+
+TEST_F(CoverTest, AtACoversOwnLeftAndTopEdgeNoMoveCounts) {
+  start();
+  covers.at(0)->onMouseMove({0, 100});
+  covers.at(0)->onMouseMove({300, 100});
+  EXPECT_FALSE(hasEnded());
+  covers.at(0)->onMouseMove({310, 100});
+  EXPECT_TRUE(hasEnded());
+}
+
+TEST_F(CoverTest, AWayFromOneScreenToAnotherIsNoMoveOfEither) {
+  start();
+  move(100, 100);
+  covers.at(0)->onMouseMove({600, 400});
+  EXPECT_FALSE(hasEnded());
+}
+
+TEST_F(CoverTest, APointerThatRestsOnACoverIsNobodysWhenAControlMoves) {
+  stage.addPicture({1000, 700}, kRed);
+  start();
+  move(100, 100);
+  covers.at(0)->onMouseMove({600, 400});
+  stage.runFor(1000);
+  covers.at(0)->onMouseMove({600, 400});
+  EXPECT_FALSE(hasEnded());
+  covers.at(0)->onMouseMove({610, 400});
+  EXPECT_TRUE(hasEnded());
+}
+
+TEST_F(CoverTest, AnArrangementOfTheScreensIsNoMoveOverACover) {
+  start();
+  covers.at(0)->onMouseMove({100, 100});
+  stage.screen.others = {{-800, -480, 800, 480}};
+  window().onScreenChanged();
+  covers.at(0)->onMouseMove({260, 100});
+  EXPECT_FALSE(hasEnded());
+}
+
+TEST_F(CoverTest, AButtonOverACoverEndsTheShow) {
+  start();
+  covers.at(0)->onMouseDown({10, 10});
+  EXPECT_TRUE(hasEnded());
+  EXPECT_TRUE(covers.at(0)->closed);
+}
+
+TEST_F(CoverTest, AKeyOverACoverEndsTheShow) {
+  start();
+  covers.at(0)->onKeyDown(65);
+  EXPECT_TRUE(hasEnded());
+}
+
+TEST_F(CoverTest, APoliteCloseOfACoverEndsTheShow) {
+  start();
+  covers.at(0)->onCloseRequest();
+  EXPECT_TRUE(hasEnded());
+}
+
+TEST_F(CoverTest, TheEndOfTheSessionReachesACoverToo) {
+  machine.passwords.accepts = false;
+  start({.osPlatformId = 1, .usePassword = 1});
+  covers.at(0)->onSessionEnd();
+  EXPECT_TRUE(hasEnded());
+  EXPECT_EQ(machine.log.count("verify 4711"), 0U);
+  EXPECT_TRUE(machine.desktop.taskbarVisible);
 }
 
 TEST_F(ShowTest, WithoutTheSettingOnlyThePrimaryScreenIsCovered) {
@@ -307,6 +454,16 @@ TEST_F(ShowTest, WithoutTheSettingNothingIsWritten) {
   stage.runFor(3000);
   EXPECT_FALSE(stage.files.content.contains("C:\\Lumora\\lumora.log"));
   EXPECT_TRUE(stage.files.writes.empty());
+}
+
+TEST_F(ShowTest, WithoutTheLogNobodyAsksWhetherAPictureIsThere) {
+  stage.set("images/0", "C:\\gone.jpg");
+  stage.set("total/total", "1");
+  stage.set("background/backEffect", "2");
+  stage.set("background/backgroundImage", "C:\\nowhere.bmp");
+  start();
+  stage.runFor(3000);
+  EXPECT_TRUE(stage.files.lookups.empty());
 }
 
 }  // namespace

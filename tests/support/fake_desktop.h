@@ -32,12 +32,19 @@ class FakeDesktop : public os::Desktop {
   }
   void hideTaskbar(std::intptr_t window) override {
     log_.add("taskbar hide " + std::to_string(window));
-    if (window == taskbar && taskbar != 0) taskbarVisible = false;
+    if (window == taskbar && taskbar != 0) {
+      taskbarVisible = false;
+      taskbarMarked = true;
+    }
   }
   void showTaskbar(std::intptr_t window) override {
     log_.add("taskbar show " + std::to_string(window));
-    if (window == taskbar && taskbar != 0) taskbarVisible = true;
+    if (window == taskbar && taskbar != 0) {
+      taskbarVisible = true;
+      taskbarMarked = false;
+    }
   }
+  std::intptr_t findMarkedTaskbar() override { return taskbarMarked ? taskbar : 0; }
   void setScreenSaverRunning(bool value) override {
     log_.add(value ? "running on" : "running off");
     runningCalls.push_back(value);
@@ -48,6 +55,7 @@ class FakeDesktop : public os::Desktop {
   bool cursorStuck = false;
   std::intptr_t taskbar = 77;
   bool taskbarVisible = true;
+  bool taskbarMarked = false;
   bool running = false;
   std::vector<bool> runningCalls;
 

@@ -63,6 +63,16 @@ TYPED_TEST_P(FilesContract, AFileThatIsInUseKeepsItsOldContentWhole) {
   EXPECT_EQ(this->sortedNames(), std::vector<std::string>{"a.ini"});
 }
 
+TYPED_TEST_P(FilesContract, WhatKilledSavesLeftBesideAFileGoesWithItsNextSave) {
+  EXPECT_TRUE(this->files().replace(this->path("a.ini"), "old"));
+  EXPECT_TRUE(this->files().replace(this->path("a.ini.new-4711-1"), "half of"));
+  EXPECT_TRUE(this->files().replace(this->path("a.ini.new-4712-9"), "half of"));
+  EXPECT_TRUE(this->files().replace(this->path("b.ini.new-4711-2"), "another file's"));
+  EXPECT_TRUE(this->files().replace(this->path("a.ini"), "new"));
+  EXPECT_EQ(this->sortedNames(), (std::vector<std::string>{"a.ini", "b.ini.new-4711-2"}));
+  EXPECT_EQ(this->files().read(this->path("a.ini")), "new");
+}
+
 TYPED_TEST_P(FilesContract, AHeadIsTheFrontOfAFile) {
   EXPECT_TRUE(this->files().replace(this->path("a.jpg"), "0123456789"));
   EXPECT_EQ(this->files().readHead(this->path("a.jpg"), 4), "0123");
@@ -108,7 +118,8 @@ TYPED_TEST_P(FilesContract, AShortPathLeadsToTheSameFile) {
 
 REGISTER_TYPED_TEST_SUITE_P(FilesContract, AFileReadsBackAsItWasPut, AnEmptyFileIsNotAMissingOne,
                             ReplacingPutsTheNewContentWholeAndLeavesNothingBeside,
-                            AFileThatIsInUseKeepsItsOldContentWhole, AHeadIsTheFrontOfAFile,
+                            AFileThatIsInUseKeepsItsOldContentWhole,
+                            WhatKilledSavesLeftBesideAFileGoesWithItsNextSave, AHeadIsTheFrontOfAFile,
                             TheFolderThatWasEnteredIsTheCurrentOne, AFolderListsTheNamesOfItsFiles,
                             AFolderIsNoFile, AFileCanBeMadeInAWritableFolderAndTheQuestionLeavesNone,
                             AShortPathLeadsToTheSameFile);

@@ -1,4 +1,4 @@
-#include "os/program_icon_win.h"
+#include "os/program_resources_win.h"
 
 #include "os/dib_win.h"
 #include "os/handles_win.h"
@@ -10,6 +10,13 @@ namespace {
 constexpr WORD kIconResource = 1;
 
 }  // namespace
+
+std::string_view ProgramData(int id, HMODULE module) {
+  const HRSRC found = FindResourceW(module, MAKEINTRESOURCEW(id), RT_RCDATA);
+  const HGLOBAL loaded = found ? LoadResource(module, found) : nullptr;
+  const auto* bytes = loaded ? static_cast<const char*>(LockResource(loaded)) : nullptr;
+  return bytes ? std::string_view(bytes, SizeofResource(module, found)) : std::string_view();
+}
 
 std::optional<base::Bitmap> ProgramIcon(int side, COLORREF behind) {
   const OwnedIcon icon(static_cast<HICON>(LoadImageW(
