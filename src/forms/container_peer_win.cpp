@@ -8,7 +8,6 @@
 
 #include "forms/form.h"
 #include "forms/surface_win.h"
-#include "forms/theme_win.h"
 #include "os/utf16_win.h"
 
 namespace forms {
