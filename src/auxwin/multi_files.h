@@ -27,6 +27,7 @@ class MultiFiles : public forms::Form {
   void Form_Load();
   void drvDrives_Change();
   void dirDirectories_Change();
+  void dirDirectories_Click();
   void Command1_Click();
   void cmdQuit_Click();
 

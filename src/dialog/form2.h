@@ -175,7 +175,7 @@ class Form2 : public forms::Form {
   // Below the tabs.
   forms::CommandButton Ok{*this, "Ok"};
   forms::CommandButton Cancel{*this, "Cancel"};
-  forms::StatusBar SS_StatusBar{*this, "SS_StatusBar", {{"", 0}, {"", 4500}}};
+  forms::StatusBar SS_StatusBar{*this, "SS_StatusBar", {{""}, {""}}};
 
   forms::MenuItem File{"File", "&File"};
   forms::MenuItem Save{"Save", "&Save"};

@@ -17,7 +17,8 @@ constexpr int kLinesShown = 12;
 
 WindowRecipe DropDownPeer::recipe() const {
   return {L"COMBOBOX",
-          WS_TABSTOP | WS_GROUP | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, 0};
+          WS_TABSTOP | WS_GROUP | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, 0,
+          true};
 }
 
 void DropDownPeer::measure() {

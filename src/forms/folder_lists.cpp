@@ -46,7 +46,7 @@ void FolderList::list() {
   for (const std::string& folder : FoldersOnTheWay(path_)) {
     entries_.push_back({folder, LastName(folder), depth++, true});
   }
-  pathIndex_ = static_cast<int>(entries_.size()) - 1;
+  listIndex_ = static_cast<int>(entries_.size()) - 1;
   std::vector<std::string> names = disk_.foldersIn(path_);
   SortNames(names);
   for (const std::string& name : names) entries_.push_back({os::JoinPath(path_, name), name, depth, false});
@@ -59,6 +59,16 @@ void FolderList::setPath(const std::string& path) {
   path_ = std::move(folder);
   list();
   if (onChange) onChange();
+}
+
+const std::string& FolderList::selectedPath() const {
+  return entries_.at(static_cast<std::size_t>(listIndex_)).path;
+}
+
+void FolderList::userSelected(int index) {
+  if (index < 0 || index >= static_cast<int>(entries_.size()) || index == listIndex_) return;
+  listIndex_ = index;
+  if (onClick) onClick();
 }
 
 void FolderList::userOpened(int index) {

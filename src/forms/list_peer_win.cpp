@@ -18,7 +18,7 @@ WindowRecipe LinesPeer::recipe() const {
   return {L"LISTBOX",
           WS_TABSTOP | WS_GROUP | WS_VSCROLL | LBS_NOTIFY | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS |
               LBS_NOINTEGRALHEIGHT,
-          WS_EX_CLIENTEDGE};
+          WS_EX_CLIENTEDGE, true};
 }
 
 void LinesPeer::measureLines() {
@@ -109,7 +109,7 @@ void FileListPeer::onChange(Change change) {
 void FolderListPeer::fill() {
   fillLines(list_.entries().size(),
             [this](std::size_t i) -> const std::string& { return list_.entries()[i].shown; });
-  send(LB_SETCURSEL, static_cast<WPARAM>(list_.pathIndex()));
+  send(LB_SETCURSEL, static_cast<WPARAM>(list_.listIndex()));
 }
 
 void FolderListPeer::onChange(Change change) {
@@ -128,7 +128,12 @@ void FolderListPeer::openSelected() {
 }
 
 void FolderListPeer::onCommand(int code) {
+  if (deaf()) return;
   if (code == LBN_DBLCLK) openSelected();
+  if (code == LBN_SELCHANGE) {
+    const auto index = static_cast<int>(send(LB_GETCURSEL));
+    owner().raise([this, index] { list_.userSelected(index); });
+  }
 }
 
 // The Enter key opens a folder, as a double click does.
