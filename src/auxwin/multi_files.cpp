@@ -75,6 +75,7 @@ void MultiFiles::dirDirectories_Click() { filFilenames.setPath(dirDirectories.se
 
 // Thousands of files come in one step each, so that the lists are shown anew once.
 void MultiFiles::Command1_Click() {
+  addedFolder_ = filFilenames.path();
   std::vector<std::string> paths;
   paths.reserve(filFilenames.files().size());
   for (const std::string& file : filFilenames.files()) {

@@ -48,7 +48,7 @@ void FolderList::list() {
   }
   listIndex_ = static_cast<int>(entries_.size()) - 1;
   std::vector<std::string> names = disk_.foldersIn(path_);
-  SortNames(names);
+  disk_.sortNames(names);
   for (const std::string& name : names) entries_.push_back({os::JoinPath(path_, name), name, depth, false});
   changed(Change::Items);
 }
@@ -85,7 +85,7 @@ FileList::FileList(Form& form, std::string name, os::Files& disk)
 void FileList::list() {
   files_ = disk_.filesIn(path_);
   std::erase_if(files_, [&](const std::string& name) { return !MatchesPatterns(name, pattern_); });
-  SortNames(files_);
+  disk_.sortNames(files_);
   changed(Change::Items);
 }
 
