@@ -79,7 +79,7 @@ TEST_F(PictureBoxTest, ClearingDropsTheParts) {
 TEST_F(PictureBoxTest, AnAssignedPictureOfItsSizeIsNotCopied) {
   const auto pixels = std::make_shared<base::Bitmap>(base::PixelSize{40, 30});
   box.setAutoSize(true);
-  box.setPicture(MakePicture(pixels));
+  box.setPicture(pictures::MakePicture(pixels));
   EXPECT_EQ(box.image().get(), pixels.get());
 }
 
