@@ -4,6 +4,7 @@
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
+#include "os/handles_win.h"
 #include "support/real_dialog_win.h"
 
 namespace dialog {
@@ -146,6 +147,57 @@ TEST_F(DialogLook, ALargerFontIsFollowedWhileItIsOpen) {
   RECT again{};
   GetWindowRect(dialog.window(), &again);
   EXPECT_EQ(again.bottom - again.top, before.bottom - before.top);
+}
+
+TEST_F(DialogLook, TheKeyForHelpAsksForTheHelpWhereverTheKeyboardIs) {
+  RealDialog dialog(machine);
+  int asked = 0;
+  dialog.form().onHelp = [&] { ++asked; };
+  dialog.press(VK_F1);
+  EXPECT_TRUE(dialog.waitFor([&] { return asked == 1; }));
+  dialog.click(dialog.form().p_caption);
+  dialog.press(VK_F1);
+  EXPECT_TRUE(dialog.waitFor([&] { return asked == 2; }));
+}
+
+TEST_F(DialogLook, EnterInTheCaptionGoesOnAndSavesNothing) {
+  support::DialogMachine two;
+  two.set("total", "total", "2");
+  for (const char* number : {"0", "1"}) {
+    two.set("images", number, std::string("C:\\") + number + ".gif");
+    two.pictures.add(std::string("C:\\") + number + ".gif", {40, 30}, base::kWhite);
+  }
+  two.writeSettings();
+  RealDialog dialog(two);
+  dialog.click(dialog.form().p_caption);
+  dialog.press(VK_RETURN);
+  EXPECT_TRUE(dialog.waitFor([&] { return dialog.form().List1.listIndex() == 1; }));
+  dialog.press(VK_RETURN);
+  EXPECT_TRUE(dialog.isOpen());
+  EXPECT_TRUE(two.files.writes.empty());
+}
+
+TEST_F(DialogLook, OtherColorsAreFollowedWhileItIsOpen) {
+  RealDialog dialog(machine);
+  dialog.showTab(1);
+  const HWND page = dialog.windowOf(dialog.form().SSTab1.page(1));
+  ASSERT_TRUE(page);
+  const auto background = [page] {
+    RedrawWindow(page, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    const os::WindowDc dc(page);
+    return GetPixel(dc.get(), 4, 4);
+  };
+  const int element = COLOR_BTNFACE;
+  const COLORREF before = GetSysColor(element);
+  const COLORREF black = RGB(0, 0, 0);
+  const COLORREF shownBefore = background();
+  SetSysColors(1, &element, &black);
+  SendMessageW(dialog.window(), WM_SYSCOLORCHANGE, 0, 0);
+  const COLORREF shown = background();
+  SetSysColors(1, &element, &before);
+  SendMessageW(dialog.window(), WM_SYSCOLORCHANGE, 0, 0);
+  EXPECT_NE(shown, shownBefore);
+  EXPECT_EQ(background(), shownBefore);
 }
 
 }  // namespace
