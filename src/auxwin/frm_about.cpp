@@ -1,6 +1,5 @@
 #include "auxwin/frm_about.h"
 
-#include <string_view>
 #include <utility>
 
 namespace auxwin {
@@ -13,12 +12,11 @@ void Place(forms::Control& control, float left, float top, float width, float he
   control.move(left * kTwips, top * kTwips, width * kTwips, height * kTwips);
 }
 
-constexpr std::array<std::string_view, 4> kAbout = {
-    "Lumora turns an idle screen into a show of your own pictures: over",
-    "a background of your choice, with gentle changes from one to the",
-    "next, a caption for each, and a clock or the time that is left until",
-    "a special day.",
-};
+constexpr char kAbout[] =
+    "Lumora turns an idle screen into a show of your own pictures: over a background of your choice, with "
+    "gentle "
+    "changes from one to the next, a caption for each, and a clock or the time that is left until a special "
+    "day.";
 
 }  // namespace
 
@@ -39,11 +37,9 @@ void frmAbout::layOut() {
   lblTitle.setCaption("Lumora Screen Saver");
   Place(lblVersion, 88, 46, 352, 18);
   lblVersion.setCaption("Version " + std::string(kProductVersion));
-  float lineTop = 84;
-  for (std::size_t line = 0; line < kAbout.size(); ++line, lineTop += 18) {
-    Place(lblAbout[line], 20, lineTop, 420, 18);
-    lblAbout[line].setCaption(std::string(kAbout[line]));
-  }
+  Place(lblAbout, 20, 84, 420, 76);
+  lblAbout.wraps = true;
+  lblAbout.setCaption(kAbout);
   Place(Command1, 20, 172, 150, 26);
   Command1.setCaption("Lumora on the &Web");
   Command1.setToolTip(kMakersPage);

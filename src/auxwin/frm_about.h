@@ -1,7 +1,6 @@
 // The about box.
 #pragma once
 
-#include <array>
 #include <string>
 
 #include "forms/buttons.h"
@@ -32,9 +31,7 @@ class frmAbout : public forms::Form {
   forms::Image picIcon{*this, "picIcon"};
   forms::Label lblTitle{*this, "lblTitle"};
   forms::Label lblVersion{*this, "lblVersion"};
-  // The lines of one paragraph.
-  std::array<forms::Label, 4> lblAbout{
-      {{*this, "lblAbout(0)"}, {*this, "lblAbout(1)"}, {*this, "lblAbout(2)"}, {*this, "lblAbout(3)"}}};
+  forms::Label lblAbout{*this, "lblAbout"};
   forms::CommandButton cmdOK{*this, "cmdOK"};  // first, so that it has the keyboard
   forms::CommandButton Command1{*this, "Command1"};
 

@@ -16,7 +16,7 @@ constexpr float kNarrowest = 2000;
 constexpr float kBorders = 120;
 constexpr float kTitleAndBorders = 405;
 
-constexpr float kStill = 60;  // a hand that clicks may tremble as far
+constexpr float kClickSlack = 60;  // a pointer that moves no farther while the button is down clicks
 
 constexpr int kEscape = 27;
 
@@ -48,7 +48,7 @@ void ImageView::Form_Load() {
   const float wide = Picture1.width() <= kNarrowest ? kNarrowest : Picture1.width() + kBorders;
   move(left(), top(), wide, Picture1.height() + kTitleAndBorders);
   centerOn(windows_.screenWidthTwips(), windows_.screenHeightTwips());
-  pressed_ = pulled_ = false;
+  pressed_ = dragged_ = false;
   if (loaded) return;
   dialogs_.messageBox(kCannotLoadImage, forms::kExclamation);
   close();
@@ -65,16 +65,16 @@ bool ImageView::loadPicture(const std::string& path) {
   return true;
 }
 
-// The end of pulling is no click.
+// Letting go after a drag is no click.
 void ImageView::Picture1_Click() {
-  if (!pulled_) close();
+  if (!dragged_) close();
 }
 
 void ImageView::Picture1_MouseDown(const forms::MouseEvent& event) {
   pictureStart_ = {Picture1.left(), Picture1.top()};
   pointerStart_ = {Picture1.left() + event.x, Picture1.top() + event.y};
   pressed_ = true;
-  pulled_ = false;
+  dragged_ = false;
 }
 
 void ImageView::Picture1_MouseMove(const forms::MouseEvent& event) {
@@ -84,8 +84,8 @@ void ImageView::Picture1_MouseMove(const forms::MouseEvent& event) {
   const float dy = Picture1.top() + event.y - pointerStart_.y;
   const base::TwipsPoint farthest = farthestCorner();
   if (farthest.x == 0 && farthest.y == 0) return;
-  pulled_ = pulled_ || std::abs(dx) > kStill || std::abs(dy) > kStill;
-  if (!pulled_) return;
+  dragged_ = dragged_ || std::abs(dx) > kClickSlack || std::abs(dy) > kClickSlack;
+  if (!dragged_) return;
   Picture1.move(std::clamp(pictureStart_.x + dx, farthest.x, 0.0F),
                 std::clamp(pictureStart_.y + dy, farthest.y, 0.0F), Picture1.width(), Picture1.height());
 }

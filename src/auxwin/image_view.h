@@ -17,7 +17,7 @@ inline constexpr char kCannotLoadImage[] =
     "Cannot load image file properly.\r\nYou need to reload a new one.";
 
 // Shown beside the dialog, which stays usable. A click on the picture or Escape closes it. A picture of which
-// not all is in sight is pulled about with the mouse. With no picture selected the window is small and empty;
+// not all is in sight is dragged with the mouse. With no picture selected the window is small and empty;
 // for one that cannot be loaded it closes after the message.
 class ImageView : public forms::Form {
  public:
@@ -33,7 +33,7 @@ class ImageView : public forms::Form {
   void Picture1_MouseMove(const forms::MouseEvent& event);
 
  private:
-  // How far the picture's corner can be pulled to the left and up (twips, 0 or less).
+  // How far the picture's corner can be dragged to the left and up (twips, 0 or less).
   base::TwipsPoint farthestCorner() const;
   // False when there is a path and its picture cannot be loaded.
   bool loadPicture(const std::string& path);
@@ -48,7 +48,7 @@ class ImageView : public forms::Form {
   base::TwipsPoint pictureStart_;
   base::TwipsPoint pointerStart_;
   bool pressed_ = false;
-  bool pulled_ = false;
+  bool dragged_ = false;
 };
 
 }  // namespace auxwin

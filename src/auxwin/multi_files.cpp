@@ -32,6 +32,7 @@ MultiFiles::MultiFiles(PictureTarget target, os::Files& disk, forms::Dialogs& di
   onLoad = [this] { Form_Load(); };
   drvDrives.onChange = [this] { drvDrives_Change(); };
   dirDirectories.onChange = [this] { dirDirectories_Change(); };
+  dirDirectories.onClick = [this] { dirDirectories_Click(); };
   Command1.onClick = [this] { Command1_Click(); };
   cmdQuit.onClick = [this] { cmdQuit_Click(); };
 }
@@ -69,8 +70,12 @@ void MultiFiles::drvDrives_Change() { dirDirectories.setPath(drvDrives.drive());
 
 void MultiFiles::dirDirectories_Change() { filFilenames.setPath(dirDirectories.path()); }
 
+// What is listed is what would be added, so the list follows the folder that is selected, opened or not.
+void MultiFiles::dirDirectories_Click() { filFilenames.setPath(dirDirectories.selectedPath()); }
+
 // Thousands of files come in one step each, so that the lists are shown anew once.
 void MultiFiles::Command1_Click() {
+  addedFolder_ = filFilenames.path();
   std::vector<std::string> paths;
   paths.reserve(filFilenames.files().size());
   for (const std::string& file : filFilenames.files()) {

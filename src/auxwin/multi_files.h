@@ -1,6 +1,8 @@
 // The window that adds every picture of one folder to the picture list.
 #pragma once
 
+#include <string>
+
 #include "auxwin/picture_target.h"
 #include "forms/buttons.h"
 #include "forms/containers.h"
@@ -24,9 +26,13 @@ class MultiFiles : public forms::Form {
   forms::CommandButton Command1{*this, "Command1"};
   forms::CommandButton cmdQuit{*this, "cmdQuit"};
 
+  // The folder whose pictures were added; empty while none were.
+  const std::string& addedFolder() const { return addedFolder_; }
+
   void Form_Load();
   void drvDrives_Change();
   void dirDirectories_Change();
+  void dirDirectories_Click();
   void Command1_Click();
   void cmdQuit_Click();
 
@@ -34,6 +40,7 @@ class MultiFiles : public forms::Form {
   void layOut();
 
   PictureTarget target_;
+  std::string addedFolder_;
   forms::Dialogs& dialogs_;
   forms::WindowSystem& windows_;
 };

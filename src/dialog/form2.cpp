@@ -81,7 +81,7 @@ void Form2::layOut() {
     box->border = true;
   }
   for (forms::TextBox* box : {&ImagePosition, &Text3, &backgroundImageFile}) box->locked = true;
-  for (forms::Label* label : {&Label11, &Label8, &Label15, &scrollSlowLabel}) {
+  for (forms::Label* label : {&Label11, &Label8, &Label13, &Label15, &scrollSlowLabel}) {
     label->align = forms::TextAlign::Right;
   }
   percentLabel.align = forms::TextAlign::Center;
@@ -107,7 +107,7 @@ void Form2::setDesignValues() {
   showBackground(Background::Gradient);
   EnableChangeControls(true);
   EnableFloatControls(false);
-  scrollSlider.setEnabled(false);
+  EnableScrollControls(false);
   EnableCountdownCombos(false);
   ShowCountdownCombosInactive();
   for (forms::TextBox* box : {&ImagePosition, &Text3, &backgroundImageFile}) {

@@ -84,8 +84,8 @@ class Form2 : public forms::Form {
   forms::OptionButton pCenter{*this, "pCenter"};
   forms::OptionButton pRandom{*this, "pRandom"};
   forms::Label Label5_FloatSpeed{*this, "Label5(0)"};
-  forms::Label Label11{*this, "Label11"};
   forms::Slider floatSlider{*this, "floatSlider"};
+  forms::Label Label11{*this, "Label11"};
   forms::Label Label7{*this, "Label7"};
 
   // Background Color.
@@ -118,8 +118,8 @@ class Form2 : public forms::Form {
 
   // Mouse Sensitivity.
   forms::Frame Frame5{*this, "Frame5"};
-  forms::Label Label8{*this, "Label8"};
   forms::Slider MouseSensitiveSlider{*this, "MouseSensitiveSlider"};
+  forms::Label Label8{*this, "Label8"};
   forms::Label Label9{*this, "Label9"};
   forms::CommandButton defaultMouseSensitivity{*this, "defaultMouseSensitivity"};
 
@@ -128,8 +128,8 @@ class Form2 : public forms::Form {
   forms::Label Label13{*this, "Label13"};
   forms::Label percentLabel{*this, "percentLabel"};
   forms::Label Label12{*this, "Label12"};
-  forms::Label Label15{*this, "Label15"};
   forms::Slider PercentSlider{*this, "PercentSlider"};
+  forms::Label Label15{*this, "Label15"};
   forms::Label Label14{*this, "Label14"};
 
   // Image Transitions.
@@ -148,8 +148,8 @@ class Form2 : public forms::Form {
   forms::Frame Frame3{*this, "Frame3"};
   forms::OptionButton scrollOption{*this, "scrollOption"};
   forms::OptionButton middleOption{*this, "middleOption"};
-  forms::Label scrollSlowLabel{*this, "scrollSlowLabel"};
   forms::Slider scrollSlider{*this, "scrollSlider"};
+  forms::Label scrollSlowLabel{*this, "scrollSlowLabel"};
   forms::Label scrollFastLabel{*this, "scrollFastLabel"};
   forms::Frame Frame7{*this, "Frame7"};
   forms::PictureBox Picture2{*this, "Picture2"};
@@ -175,7 +175,7 @@ class Form2 : public forms::Form {
   // Below the tabs.
   forms::CommandButton Ok{*this, "Ok"};
   forms::CommandButton Cancel{*this, "Cancel"};
-  forms::StatusBar SS_StatusBar{*this, "SS_StatusBar", {{"", 0}, {"", 4500}}};
+  forms::StatusBar SS_StatusBar{*this, "SS_StatusBar", {{""}, {""}}};
 
   forms::MenuItem File{"File", "&File"};
   forms::MenuItem Save{"Save", "&Save"};
@@ -208,6 +208,7 @@ class Form2 : public forms::Form {
   void EnableGradientControls(bool enabled);
   void EnableChangeControls(bool enabled);
   void EnableFloatControls(bool enabled);
+  void EnableScrollControls(bool enabled);
   void EnableCountdownCombos(bool enabled);
   void ShowCountdownCombosActive();
   void ShowCountdownCombosInactive();

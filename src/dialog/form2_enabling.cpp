@@ -46,8 +46,17 @@ void Form2::EnableChangeControls(bool enabled) {
 }
 
 void Form2::EnableFloatControls(bool enabled) {
-  floatSlider.setEnabled(enabled);
-  Label5_FloatSpeed.setEnabled(enabled);
+  for (forms::Control* control :
+       std::initializer_list<forms::Control*>{&floatSlider, &Label5_FloatSpeed, &Label11, &Label7}) {
+    control->setEnabled(enabled);
+  }
+}
+
+void Form2::EnableScrollControls(bool enabled) {
+  for (forms::Control* control :
+       std::initializer_list<forms::Control*>{&scrollSlider, &scrollSlowLabel, &scrollFastLabel}) {
+    control->setEnabled(enabled);
+  }
 }
 
 void Form2::EnableCountdownCombos(bool enabled) {

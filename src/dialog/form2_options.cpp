@@ -102,12 +102,12 @@ void Form2::pRandom_Click() {
 
 void Form2::scrollOption_Click() {
   record.scroll = "0";
-  scrollSlider.setEnabled(true);
+  EnableScrollControls(true);
 }
 
 void Form2::middleOption_Click() {
   record.scroll = "1";
-  scrollSlider.setEnabled(false);
+  EnableScrollControls(false);
 }
 
 void Form2::font_Click() {

@@ -47,6 +47,7 @@ PictureList::PictureList(Form2& form, os::EventLoop& loop)
   form_.up.onClick = [this] { up_Click(); };
   form_.down.onClick = [this] { down_Click(); };
   form_.p_caption.onChange = [this] { p_caption_Change(); };
+  form_.p_caption.onEnter = [this] { p_caption_Enter(); };
   form_.caption_clear.onClick = [this] { caption_clear_Click(); };
 }
 
@@ -187,6 +188,12 @@ void PictureList::swapWithNeighbour(int step) {
   form_.List1.addItem(std::move(path), neighbour);
   form_.photo_caption.addItem(std::move(caption), neighbour);
   select(neighbour);
+}
+
+// Captions are typed one after the other.
+void PictureList::p_caption_Enter() {
+  const int next = form_.List1.listIndex() + 1;
+  if (next < form_.List1.listCount()) select(next);
 }
 
 void PictureList::p_caption_Change() {

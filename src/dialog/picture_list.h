@@ -50,6 +50,7 @@ class PictureList {
   void up_Click();
   void down_Click();
   void p_caption_Change();
+  void p_caption_Enter();
   void caption_clear_Click();
 
   // Files were dropped on the list; they are added as the add button adds one, folders are not.

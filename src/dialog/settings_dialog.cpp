@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "auxwin/multi_files.h"
 #include "dialog/save_settings.h"
 #include "os/paths.h"
 
@@ -24,6 +23,8 @@ SettingsDialog::SettingsDialog(const DialogServices& services, os::EventLoop& lo
 SettingsDialog::~SettingsDialog() {
   // Nothing of a window may outlive its form, whatever ended the program.
   form.onUnload = nullptr;
+  if (import) services_.windows.unload(*import);
+  services_.windows.unload(about);
   services_.windows.unload(viewer);
   services_.windows.unload(form);
 }
@@ -43,6 +44,7 @@ void SettingsDialog::connect() {
   form.LumoraHelp.onClick = [this] { LumoraHelp_Click(); };
   form.AboutLumora.onClick = [this] { AboutLumora_Click(); };
   form.Tolv.onClick = [this] { Tolv_Click(); };
+  form.onHelp = [this] { LumoraHelp_Click(); };
 }
 
 void SettingsDialog::show() { services_.windows.show(form); }
@@ -62,8 +64,19 @@ void SettingsDialog::Ok_Click() { save(); }
 void SettingsDialog::Save_Click() { save(); }
 
 void SettingsDialog::FolderCommand_Click() {
-  auxwin::MultiFiles import(pictures.target(), services_.files, services_.dialogs, services_.windows);
-  services_.windows.showModal(import);
+  const std::string workingFolder = services_.files.currentFolder();
+  enterPicturesFolder();
+  import.emplace(pictures.target(), services_.files, services_.dialogs, services_.windows);
+  services_.files.enterFolder(workingFolder);
+  services_.windows.showModal(*import);
+  if (!import->addedFolder().empty()) lastFolder_ = import->addedFolder();
+}
+
+// The system starts a screen saver in a folder of its own, where nobody looks for pictures.
+void SettingsDialog::enterPicturesFolder() {
+  for (const std::string& folder : {lastFolder_, services_.files.picturesFolder(), form.programFolder()}) {
+    if (services_.files.enterFolder(folder)) return;
+  }
 }
 
 // One viewer at a time; another picture takes the place of the one that it shows.

@@ -1,10 +1,12 @@
 // The settings dialog with everything that its buttons and menus lead to.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "auxwin/frm_about.h"
 #include "auxwin/image_view.h"
+#include "auxwin/multi_files.h"
 #include "dialog/background_image.h"
 #include "dialog/form2.h"
 #include "dialog/picture_list.h"
@@ -30,6 +32,8 @@ class SettingsDialog {
   BackgroundImage background;
   auxwin::ImageView viewer;
   auxwin::frmAbout about;
+  std::optional<auxwin::MultiFiles>
+      import;  // lives on until the next one: its window may outlast the wait for it
 
   void Ok_Click();
   void Save_Click();
@@ -45,11 +49,13 @@ class SettingsDialog {
   void connect();
   void save();
   void openViewer();
+  void enterPicturesFolder();
   void closed();
 
   DialogServices services_;
   os::EventLoop& loop_;
   os::Shell& shell_;
+  std::string lastFolder_;  // from which pictures were added last
 };
 
 }  // namespace dialog

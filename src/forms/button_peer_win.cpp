@@ -61,8 +61,6 @@ std::string CommandButtonPeer::windowText() const {
   return button_.caption().empty() ? button_.accessibleName() : button_.caption();
 }
 
-void CommandButtonPeer::fill() { drawGlyph(); }
-
 void CommandButtonPeer::drawGlyph() {
   if (button_.glyph == ButtonGlyph::None) return;
   const int side = MulDiv(9, owner().dpi(), 96) | 1;

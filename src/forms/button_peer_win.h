@@ -14,7 +14,8 @@ class CommandButtonPeer : public ControlPeer {
  protected:
   WindowRecipe recipe() const override;
   std::string windowText() const override;
-  void fill() override;
+  void onPlaced() override { drawGlyph(); }
+  void onAppearance() override { drawGlyph(); }
   void onChange(Change change) override;
 
  private:

@@ -17,7 +17,8 @@ constexpr int kLinesShown = 12;
 
 WindowRecipe DropDownPeer::recipe() const {
   return {L"COMBOBOX",
-          WS_TABSTOP | WS_GROUP | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, 0};
+          WS_TABSTOP | WS_GROUP | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS, 0,
+          true};
 }
 
 void DropDownPeer::measure() {
@@ -45,28 +46,20 @@ base::PixelRect DropDownPeer::windowPlace() const {
 }
 
 bool DropDownPeer::onDrawItem(const DRAWITEMSTRUCT& item) {
-  const bool inLine = (item.itemState & ODS_COMBOBOXEDIT) != 0;
-  const bool selected = (item.itemState & ODS_SELECTED) != 0;
-  std::wstring text;
-  if (inLine) {
-    text = os::ToWide(shownText());
+  const bool inField = (item.itemState & ODS_COMBOBOXEDIT) != 0;
+  ListLine line{.text = {},
+                .takesInput = control_.takesInput(),
+                .background = inField ? ToColorRef(control_.backColor()) : GetSysColor(COLOR_WINDOW),
+                .indent = 0,
+                .ellipsis = DT_END_ELLIPSIS};
+  if (inField) {
+    line.text = os::ToWide(shownText());
   } else if (item.itemID != static_cast<UINT>(-1)) {
-    text.resize(static_cast<std::size_t>(send(CB_GETLBTEXTLEN, item.itemID)) + 1);
-    text.resize(
-        static_cast<std::size_t>(send(CB_GETLBTEXT, item.itemID, reinterpret_cast<LPARAM>(text.data()))));
+    line.text.resize(static_cast<std::size_t>(send(CB_GETLBTEXTLEN, item.itemID)) + 1);
+    line.text.resize(static_cast<std::size_t>(
+        send(CB_GETLBTEXT, item.itemID, reinterpret_cast<LPARAM>(line.text.data()))));
   }
-  const COLORREF plain = inLine ? ToColorRef(control_.backColor()) : GetSysColor(COLOR_WINDOW);
-  const os::OwnedBrush brush(CreateSolidBrush(selected ? GetSysColor(COLOR_HIGHLIGHT) : plain));
-  FillRect(item.hDC, &item.rcItem, brush.get());
-  int color = control_.takesInput() ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT;
-  if (selected) color = COLOR_HIGHLIGHTTEXT;
-  SetTextColor(item.hDC, GetSysColor(color));
-  SetBkMode(item.hDC, TRANSPARENT);
-  RECT area = item.rcItem;
-  area.left += MulDiv(3, owner().dpi(), 96);
-  DrawTextW(item.hDC, text.c_str(), -1, &area, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
-  if ((item.itemState & ODS_FOCUS) && !(item.itemState & ODS_NOFOCUSRECT))
-    DrawFocusRect(item.hDC, &item.rcItem);
+  DrawListLine(item, line, owner().dpi());
   return true;
 }
 

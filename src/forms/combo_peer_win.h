@@ -21,6 +21,7 @@ class DropDownPeer : public ControlPeer {
   virtual std::string shownText() const = 0;
   void fillItems(const std::vector<std::string>& items);
   void measure();
+  void onPlaced() override { measure(); }
 };
 
 class ComboBoxPeer : public DropDownPeer {

@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <vector>
 
+#include "base/contrast.h"
 #include "forms/form.h"
 #include "forms/surface_win.h"
-#include "forms/theme_win.h"
 #include "os/utf16_win.h"
 
 namespace forms {
@@ -61,7 +61,11 @@ void FramePeer::paint(HDC dc) const {
   RECT behind{left - gap, 0, left + text.cx + gap, text.cy};
   FillRect(dc, &behind, owner().surfaceBrush(frame_));
   SetBkMode(dc, TRANSPARENT);
-  SetTextColor(dc, frame_.takesInput() ? ToColorRef(frame_.foreColor()) : GetSysColor(COLOR_GRAYTEXT));
+  // A colour that stands out on a light page must still do so where the user has chosen a dark one.
+  const auto page = static_cast<base::PackedColor>(owner().surfaceColor(frame_));
+  const auto ink = static_cast<base::PackedColor>(ToColorRef(frame_.foreColor()));
+  SetTextColor(dc, frame_.takesInput() ? static_cast<COLORREF>(base::ReadableOn(ink, page))
+                                       : GetSysColor(COLOR_GRAYTEXT));
   TextOutW(dc, left, 0, caption.c_str(), static_cast<int>(caption.size()));
 }
 
@@ -157,37 +161,37 @@ WindowRecipe StatusBarPeer::recipe() const {
   return {STATUSCLASSNAMEW, CCS_NOPARENTALIGN | CCS_NORESIZE | CCS_NODIVIDER, 0};
 }
 
-void StatusBarPeer::placePanels() {
-  const int perPixel = bar_.form().twipsPerPixel();
-  const auto pixels = [perPixel](float twips) { return static_cast<int>(twips) / perPixel; };
-  int fixed = 0;
-  for (const StatusPanel& panel : bar_.panels()) fixed += pixels(panel.width);
-  const int spare = std::max(0, bar_.pixelRect().width - fixed);
-  std::vector<int> ends;
-  int end = 0;
+int StatusBarPeer::widthOf(const std::string& text) const {
+  const os::WindowDc dc(window());
+  const os::Selected font(dc.get(), owner().font());
+  const std::wstring wide = os::ToWide(text);
+  SIZE size{};
+  GetTextExtentPoint32W(dc.get(), wide.c_str(), static_cast<int>(wide.size()), &size);
+  return static_cast<int>(size.cx) + MulDiv(10, owner().dpi(), 96);  // its edges, and air on both sides
+}
+
+void StatusBarPeer::showPanels() {
+  std::vector<std::string> texts;
   for (const StatusPanel& panel : bar_.panels()) {
-    end += panel.width > 0 ? pixels(panel.width) : spare;
-    ends.push_back(end);
+    if (texts.empty() || !panel.text.empty()) texts.push_back(panel.text);
   }
-  if (!ends.empty()) ends.back() = -1;
+  RECT client{};
+  GetClientRect(window(), &client);
+  // The last panel ends where the bar does, the one before where the last begins.
+  std::vector<int> ends(texts.size(), -1);
+  int end = static_cast<int>(client.right);
+  for (std::size_t i = texts.size() - 1; i > 0; --i) {
+    end = std::max(0, end - widthOf(texts[i]));
+    ends[i - 1] = end;
+  }
   send(SB_SETPARTS, ends.size(), reinterpret_cast<LPARAM>(ends.data()));
-}
-
-void StatusBarPeer::showTexts() {
-  for (std::size_t i = 0; i < bar_.panels().size(); ++i) {
-    const std::wstring text = os::ToWide(bar_.panels()[i].text);
-    send(SB_SETTEXTW, i, reinterpret_cast<LPARAM>(text.c_str()));
+  for (std::size_t i = 0; i < texts.size(); ++i) {
+    send(SB_SETTEXTW, i, reinterpret_cast<LPARAM>(os::ToWide(texts[i]).c_str()));
   }
-}
-
-void StatusBarPeer::fill() {
-  placePanels();
-  showTexts();
 }
 
 void StatusBarPeer::onChange(Change change) {
-  if (change == Change::Text) showTexts();
-  if (change == Change::Place) placePanels();
+  if (change == Change::Text) showPanels();
 }
 
 }  // namespace forms

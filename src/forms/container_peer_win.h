@@ -63,12 +63,12 @@ class StatusBarPeer : public ControlPeer {
 
  protected:
   WindowRecipe recipe() const override;
-  void fill() override;
   void onChange(Change change) override;
+  void onPlaced() override { showPanels(); }
 
  private:
-  void placePanels();
-  void showTexts();
+  int widthOf(const std::string& text) const;
+  void showPanels();
 
   StatusBar& bar_;
 };

@@ -3,6 +3,7 @@
 #include <shellapi.h>
 #include <windowsx.h>
 
+#include <string_view>
 #include <vector>
 
 #include "forms/form.h"
@@ -45,9 +46,27 @@ void ControlPeer::leave() {
   window_ = nullptr;
 }
 
+// Where no label in sight says what the control is, one that is hidden does.
+void ControlPeer::makeNameBefore(HWND parent) const {
+  const std::string& name = control_.accessibleName();
+  if (name.empty()) return;
+  const std::wstring wide = os::ToWide(name);
+  if (const HWND first = GetWindow(parent, GW_CHILD)) {
+    const HWND before = GetWindow(first, GW_HWNDLAST);
+    std::wstring text(wide.size() + 2, L'\0');
+    text.resize(static_cast<std::size_t>(GetWindowTextW(before, text.data(), static_cast<int>(text.size()))));
+    wchar_t windowClass[8] = {};
+    GetClassNameW(before, windowClass, 8);
+    if (text == wide && std::wstring_view(windowClass) == L"Static") return;
+  }
+  CreateWindowExW(0, L"STATIC", wide.c_str(), WS_CHILD | SS_NOPREFIX, 0, 0, 0, 0, parent, nullptr,
+                  GetModuleHandleW(nullptr), nullptr);
+}
+
 void ControlPeer::make(HWND parent, int id) {
   const Applying applying(applying_);
   const WindowRecipe made = recipe();
+  if (made.namedByTextBefore) makeNameBefore(parent);
   const base::PixelRect at = control_.pixelRect();
   DWORD style = made.style | WS_CHILD | WS_CLIPSIBLINGS;
   if (control_.visible()) style |= WS_VISIBLE;
@@ -66,8 +85,16 @@ void ControlPeer::make(HWND parent, int id) {
 
 void ControlPeer::place() {
   const Applying applying(applying_);
-  const base::PixelRect at = windowPlace();
+  const base::PixelPoint scrolled = owner_.scrolledBy(control_);
+  const base::PixelRect at = windowPlace().movedBy(-scrolled.x, -scrolled.y);
   SetWindowPos(window_, nullptr, at.left, at.top, at.width, at.height, SWP_NOZORDER | SWP_NOACTIVATE);
+  onPlaced();
+}
+
+void ControlPeer::followAppearance() {
+  const Applying applying(applying_);
+  send(WM_SYSCOLORCHANGE);
+  onAppearance();
 }
 
 void ControlPeer::setFont(HFONT font) {

@@ -28,6 +28,10 @@ class PeerOwner {
   virtual COLORREF surfaceColor(const Control& control) const = 0;
   virtual HBRUSH surfaceBrush(const Control& control) const = 0;
 
+  // By how much what stands on the form itself is moved up and to the left, because not all of it fits on the
+  // screen (pixels).
+  virtual base::PixelPoint scrolledBy(const Control& control) const = 0;
+
   // Runs what the user started; nothing that it throws goes further.
   virtual void raise(const std::function<void()>& event) = 0;
 
@@ -39,6 +43,9 @@ struct WindowRecipe {
   const wchar_t* windowClass = L"";
   DWORD style = 0;
   DWORD extendedStyle = 0;
+
+  // Screen readers call the window what the text before it says, and not by its own text.
+  bool namedByTextBefore = false;
 };
 
 // Reports only what the user did: while it applies a change of the model, it is deaf.
@@ -62,6 +69,7 @@ class ControlPeer {
 
   // Places the window in the control's place; again after the font or the dots per inch changed.
   void place();
+  void followAppearance();
   void setFont(HFONT font);
 
   // Messages that the window sends to its parent: WM_COMMAND's code, scrolling, drawing, colours, WM_NOTIFY.
@@ -81,6 +89,8 @@ class ControlPeer {
   virtual void fill() {}
   virtual void onChange(Change) {}
   virtual void onListEdit(const ListEdit&) {}
+  virtual void onPlaced() {}      // with its final size and font
+  virtual void onAppearance() {}  // the system's colours are others now
 
   // Where the window stands inside the control's place (pixels of the parent).
   virtual base::PixelRect windowPlace() const { return control_.pixelRect(); }
@@ -98,6 +108,7 @@ class ControlPeer {
 
  private:
   static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+  void makeNameBefore(HWND parent) const;
   void watch();
   void leave();
   std::optional<LRESULT> mouseMessage(UINT message, LPARAM lParam);

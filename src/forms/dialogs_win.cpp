@@ -3,12 +3,12 @@
 #include <commdlg.h>
 
 #include <algorithm>
-#include <cmath>
 #include <cwchar>
 #include <string>
 
 #include "forms/surface_win.h"
 #include "os/screen_win.h"
+#include "os/text_renderer_win.h"
 #include "os/utf16_win.h"
 
 namespace forms {
@@ -17,7 +17,6 @@ namespace {
 
 constexpr wchar_t kTitle[] = L"Lumora Screen Saver";
 constexpr std::size_t kLongestPath = 32768;
-constexpr int kPointsPerInch = 72;
 
 // The system separates the parts by zeros, with one more at the end.
 std::wstring FilterOf(const std::string& filter) {
@@ -27,19 +26,6 @@ std::wstring FilterOf(const std::string& filter) {
   return parts;
 }
 
-LOGFONTW LogFontOf(const base::Font& font) {
-  LOGFONTW log{};
-  log.lfHeight =
-      -static_cast<LONG>(std::lround(font.sizePoints * static_cast<float>(os::ScreenDpi()) / kPointsPerInch));
-  log.lfWeight = font.bold ? FW_BOLD : FW_NORMAL;
-  log.lfItalic = font.italic;
-  log.lfUnderline = font.underline;
-  log.lfStrikeOut = font.strikethrough;
-  log.lfCharSet = DEFAULT_CHARSET;
-  const std::wstring name = os::ToWide(font.name).substr(0, LF_FACESIZE - 1);
-  std::wmemcpy(log.lfFaceName, name.c_str(), name.size() + 1);
-  return log;
-}
 
 }  // namespace
 
@@ -87,7 +73,7 @@ std::optional<base::PackedColor> DialogsWin::chooseColor(const ColorRequest& req
 }
 
 std::optional<ChosenFont> DialogsWin::chooseFont(const FontRequest& request) {
-  LOGFONTW log = LogFontOf(request.font);
+  LOGFONTW log = os::LogFontOf(request.font, os::ScreenDpi());
   CHOOSEFONTW choose{};
   choose.lStructSize = sizeof(choose);
   choose.hwndOwner = owner_();

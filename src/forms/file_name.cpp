@@ -71,18 +71,4 @@ std::string LastName(const std::string& path) {
   return slash == std::string::npos ? path : path.substr(slash + 1);
 }
 
-void SortNames(std::vector<std::string>& names) {
-  const auto before = [](const std::string& a, const std::string& b) {
-    const bool less = std::lexicographical_compare(
-        a.begin(), a.end(), b.begin(), b.end(),
-        [](char x, char y) { return base::AsciiLower(x) < base::AsciiLower(y); });
-    if (less) return true;
-    const bool greater = std::lexicographical_compare(
-        b.begin(), b.end(), a.begin(), a.end(),
-        [](char x, char y) { return base::AsciiLower(x) < base::AsciiLower(y); });
-    return !greater && a < b;
-  };
-  std::sort(names.begin(), names.end(), before);
-}
-
 }  // namespace forms

@@ -20,7 +20,4 @@ std::vector<std::string> FoldersOnTheWay(const std::string& path);
 // The last part of a path; a drive's root is its own name.
 std::string LastName(const std::string& path);
 
-// Names in the order in which lists show them: by Latin letters without case, then by case.
-void SortNames(std::vector<std::string>& names);
-
 }  // namespace forms

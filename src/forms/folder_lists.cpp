@@ -46,9 +46,9 @@ void FolderList::list() {
   for (const std::string& folder : FoldersOnTheWay(path_)) {
     entries_.push_back({folder, LastName(folder), depth++, true});
   }
-  pathIndex_ = static_cast<int>(entries_.size()) - 1;
+  listIndex_ = static_cast<int>(entries_.size()) - 1;
   std::vector<std::string> names = disk_.foldersIn(path_);
-  SortNames(names);
+  disk_.sortNames(names);
   for (const std::string& name : names) entries_.push_back({os::JoinPath(path_, name), name, depth, false});
   changed(Change::Items);
 }
@@ -59,6 +59,16 @@ void FolderList::setPath(const std::string& path) {
   path_ = std::move(folder);
   list();
   if (onChange) onChange();
+}
+
+const std::string& FolderList::selectedPath() const {
+  return entries_.at(static_cast<std::size_t>(listIndex_)).path;
+}
+
+void FolderList::userSelected(int index) {
+  if (index < 0 || index >= static_cast<int>(entries_.size()) || index == listIndex_) return;
+  listIndex_ = index;
+  if (onClick) onClick();
 }
 
 void FolderList::userOpened(int index) {
@@ -75,7 +85,7 @@ FileList::FileList(Form& form, std::string name, os::Files& disk)
 void FileList::list() {
   files_ = disk_.filesIn(path_);
   std::erase_if(files_, [&](const std::string& name) { return !MatchesPatterns(name, pattern_); });
-  SortNames(files_);
+  disk_.sortNames(files_);
   changed(Change::Items);
 }
 

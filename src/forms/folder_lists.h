@@ -53,8 +53,12 @@ class FolderList : public Control {
   // The chosen folder, without a backslash at its end unless it is a drive's root.
   const std::string& path() const { return path_; }
 
-  // The entry of the chosen folder.
-  int pathIndex() const { return pathIndex_; }
+  // The selected entry: the chosen folder, until another one is selected.
+  int listIndex() const { return listIndex_; }
+  const std::string& selectedPath() const;
+
+  // Selecting another entry raises the click and opens nothing.
+  void userSelected(int index);
 
   // Another folder raises the change, whoever opened it. A folder that cannot be read shows no folders.
   void setPath(const std::string& path);
@@ -68,7 +72,7 @@ class FolderList : public Control {
   os::Files& disk_;
   std::string path_;
   std::vector<FolderEntry> entries_;
-  int pathIndex_ = -1;
+  int listIndex_ = -1;
 };
 
 // A list of a folder's files that match a pattern.

@@ -30,6 +30,18 @@ void Form::windowSized(float width, float height) {
   height_ = height;
 }
 
+void Form::setLayoutScale(const LayoutScale& scale) {
+  const float wider = scale.horizontal / layoutScale_.horizontal;
+  const float higher = scale.vertical / layoutScale_.vertical;
+  layoutScale_ = scale;
+  clientWidth_ *= wider;
+  clientHeight_ *= higher;
+  for (Control* control : controls_) {
+    control->move(control->left() * wider, control->top() * higher, control->width() * wider,
+                  control->height() * higher);
+  }
+}
+
 void Form::setCaption(std::string caption) {
   if (caption_ == caption) return;
   caption_ = std::move(caption);

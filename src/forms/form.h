@@ -8,6 +8,7 @@
 #include "base/color.h"
 #include "forms/control.h"
 #include "forms/form_host.h"
+#include "forms/layout_scale.h"
 #include "forms/menu.h"
 
 namespace forms {
@@ -49,6 +50,10 @@ class Form {
   // For the host: the window has taken this outer size.
   void windowSized(float width, float height);
 
+  // By how much the inner size and everything on the form are larger than it was built; 1 at first.
+  const LayoutScale& layoutScale() const { return layoutScale_; }
+  void setLayoutScale(const LayoutScale& scale);
+
   // The vertical scale that the form gave itself for drawing, over its whole height; 0 = twips.
   // It scales the pointer positions that the form reports; controls stay placed in twips.
   float scaleHeight() const { return scaleHeight_; }
@@ -81,6 +86,7 @@ class Form {
   std::function<void(const MouseEvent&)> onMouseMove;
   std::function<void(const MouseEvent&)> onMouseDown;
   std::function<void(int keyCode)> onKeyDown;
+  std::function<void()> onHelp;  // the system's key for help was pressed
 
  private:
   friend class Control;
@@ -100,6 +106,7 @@ class Form {
   float clientWidth_ = 0;
   float clientHeight_ = 0;
   float scaleHeight_ = 0;
+  LayoutScale layoutScale_;
   std::string caption_;
   MousePointer mousePointer_ = MousePointer::Default;
   std::vector<Control*> controls_;

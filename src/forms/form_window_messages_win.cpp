@@ -33,12 +33,16 @@ bool FormWindow::filter(MSG& message) {
   }
   if (message.message == WM_MOUSEMOVE) reportPointer(message);
   if (message.message == WM_KEYDOWN && switchTab(message)) return true;
-  return window_ && IsDialogMessageW(window_, &message) != FALSE;
+  const bool taken = window_ && IsDialogMessageW(window_, &message) != FALSE;
+  if (window_) keepFocusInSight();
+  return taken;
 }
 
 void FormWindow::reportPointer(const MSG& message) {
   POINT at{GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)};
   MapWindowPoints(message.hwnd, window_, &at, 1);
+  at.x += across_.offset();
+  at.y += down_.offset();
   const auto perPixel = static_cast<float>(twipsPerPixel_);
   const bool leftButton = (message.wParam & MK_LBUTTON) != 0;
   raise([this, at, perPixel, leftButton] {
@@ -108,6 +112,11 @@ INT_PTR FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
       return TRUE;
     case WM_HSCROLL:
     case WM_VSCROLL:
+      if (!lParam) {
+        onScroll(message == WM_VSCROLL ? SB_VERT : SB_HORZ, LOWORD(wParam));
+        return TRUE;
+      }
+      [[fallthrough]];
     case WM_DRAWITEM:
     case WM_NOTIFY:
       if (const std::optional<LRESULT> answer = routeToChild(message, wParam, lParam)) {
@@ -130,9 +139,34 @@ INT_PTR FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         if (form_.onCloseRequest) form_.onCloseRequest();
       });
       return TRUE;
+    case WM_HELP:
+      raise([this] {
+        if (form_.onHelp) form_.onHelp();
+      });
+      return TRUE;
+    case WM_MOUSEWHEEL:
+      onWheel(GET_WHEEL_DELTA_WPARAM(wParam));
+      return TRUE;
+    default:
+      return handleSystemChange(message, wParam);
+  }
+}
+
+INT_PTR FormWindow::handleSystemChange(UINT message, WPARAM wParam) {
+  switch (message) {
     case WM_DPICHANGED:
       relayOut(LOWORD(wParam));
       return TRUE;
+    case WM_SETTINGCHANGE:
+      if (wParam == SPI_SETNONCLIENTMETRICS || wParam == SPI_SETWORKAREA) relayOut(dpi_);
+      return FALSE;
+    case WM_SYSCOLORCHANGE:
+    case WM_THEMECHANGED:
+      followAppearance();
+      return FALSE;
+    case WM_NCDESTROY:
+      window_ = nullptr;
+      return FALSE;
     default:
       return FALSE;
   }

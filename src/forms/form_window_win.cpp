@@ -1,4 +1,4 @@
-// How the window of a form is made and laid out.
+// How the window of a form is made, with everything on it.
 #include "forms/form_window_win.h"
 
 #include <commctrl.h>
@@ -31,8 +31,6 @@ struct EmptyTemplate {
   WORD padding = 0;
 };
 
-constexpr DWORD kFrameStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
-
 }  // namespace
 
 FormWindow::FormWindow(Form& form, WindowSystemWin& windows) : form_(form), windows_(windows) {}
@@ -41,7 +39,7 @@ FormWindow::~FormWindow() { close(); }
 
 void FormWindow::make(HWND owner) {
   EmptyTemplate empty;
-  empty.head.style = kFrameStyle | DS_3DLOOK;
+  empty.head.style = kStyle | DS_3DLOOK;
   CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &empty.head, owner, Procedure,
                              reinterpret_cast<LPARAM>(this));
   if (!window_) return;
@@ -53,49 +51,13 @@ void FormWindow::make(HWND owner) {
                                    LR_DEFAULTCOLOR | LR_SHARED);
     if (icon) SendMessageW(window_, WM_SETICON, static_cast<WPARAM>(kind), reinterpret_cast<LPARAM>(icon));
   }
-  takeDpi(WindowDpi(window_));
   makeMenu();
+  takeDpi(WindowDpi(window_));
   sizeFromForm();
   makeControls();
 }
 
 void FormWindow::raise(const std::function<void()>& event) { windows_.raise(event); }
-
-void FormWindow::takeDpi(int dpi) {
-  dpi_ = dpi;
-  twipsPerPixel_ = base::TwipsPerPixelForDpi(dpi);
-  font_ = MakeMessageFont(dpi);
-  SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(font_.get()), FALSE);
-}
-
-void FormWindow::sizeFromForm() {
-  int width = static_cast<int>(form_.width()) / twipsPerPixel_;
-  int height = static_cast<int>(form_.height()) / twipsPerPixel_;
-  if (form_.clientWidth() > 0) {
-    RECT outer{0, 0, base::TwipsToPixels(form_.clientWidth(), twipsPerPixel_),
-               base::TwipsToPixels(form_.clientHeight(), twipsPerPixel_)};
-    const RECT inner = outer;
-    AdjustWindowRectEx(&outer, kFrameStyle, menu_ != nullptr, 0);
-    SetWindowPos(window_, nullptr, 0, 0, outer.right - outer.left, outer.bottom - outer.top,
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    // A frame or a menu bar of another height than the system said is made up for.
-    RECT now{};
-    RECT client{};
-    GetWindowRect(window_, &now);
-    GetClientRect(window_, &client);
-    width = static_cast<int>(now.right - now.left + inner.right - client.right);
-    height = static_cast<int>(now.bottom - now.top + inner.bottom - client.bottom);
-  }
-  SetWindowPos(window_, nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-  form_.windowSized(static_cast<float>(width * twipsPerPixel_), static_cast<float>(height * twipsPerPixel_));
-}
-
-void FormWindow::placeFromForm() {
-  SetWindowPos(window_, nullptr, base::TwipsToPixels(form_.left(), twipsPerPixel_),
-               base::TwipsToPixels(form_.top(), twipsPerPixel_),
-               base::TwipsToPixels(form_.width(), twipsPerPixel_),
-               base::TwipsToPixels(form_.height(), twipsPerPixel_), SWP_NOZORDER | SWP_NOACTIVATE);
-}
 
 void FormWindow::makeMenu() {
   if (form_.menu.empty()) return;
@@ -136,10 +98,7 @@ void FormWindow::makeControl(Control& control) {
   byControl_[&control] = peer.get();
   peer->make(parent, id);
   byWindow_[peer->window()] = peer.get();
-  if (control.kind() == ControlKind::TabControl) {
-    pageColor_ = TabPageColor(peer->window());
-    pageBrush_.reset(CreateSolidBrush(pageColor_));
-  }
+  if (control.kind() == ControlKind::TabControl) takePageColor(peer->window());
   if (id == IDOK) SendMessageW(window_, DM_SETDEFID, IDOK, 0);
   addToolTip(*peer);
   peers_.push_back(std::move(peer));
@@ -207,23 +166,17 @@ bool FormWindow::onTabPage(const Control& control) const {
   return false;
 }
 
+void FormWindow::takePageColor(HWND tabs) {
+  pageColor_ = TabPageColor(tabs);
+  pageBrush_.reset(CreateSolidBrush(pageColor_));
+}
+
 COLORREF FormWindow::surfaceColor(const Control& control) const {
   return onTabPage(control) ? pageColor_ : GetSysColor(COLOR_BTNFACE);
 }
 
 HBRUSH FormWindow::surfaceBrush(const Control& control) const {
   return onTabPage(control) ? pageBrush_.get() : GetSysColorBrush(COLOR_BTNFACE);
-}
-
-void FormWindow::relayOut(int dpi) {
-  takeDpi(dpi);
-  sizeFromForm();
-  for (const auto& peer : peers_) {
-    peer->setFont(font_.get());
-    peer->place();
-  }
-  placeTabPages();
-  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 }  // namespace forms

@@ -13,6 +13,7 @@
 #include "forms/control_peer_win.h"
 #include "forms/form.h"
 #include "forms/form_host.h"
+#include "forms/scroll_axis.h"
 #include "os/handles_win.h"
 
 namespace forms {
@@ -51,14 +52,17 @@ class FormWindow : public FormHost, private PeerOwner {
 
  private:
   static constexpr int kFirstMenuId = 0x4000;
+  static constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
 
   static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   INT_PTR handle(UINT message, WPARAM wParam, LPARAM lParam);
+  INT_PTR handleSystemChange(UINT message, WPARAM wParam);
 
   HFONT font() const override { return font_.get(); }
   int dpi() const override { return dpi_; }
   COLORREF surfaceColor(const Control& control) const override;
   HBRUSH surfaceBrush(const Control& control) const override;
+  base::PixelPoint scrolledBy(const Control& control) const override;
   void raise(const std::function<void()>& event) override;
   std::optional<LRESULT> routeToChild(UINT message, WPARAM wParam, LPARAM lParam) override;
 
@@ -73,6 +77,16 @@ class FormWindow : public FormHost, private PeerOwner {
   void makeToolTips();
   void addToolTip(const ControlPeer& peer);
   void relayOut(int dpi);
+  void followAppearance();
+  void takePageColor(HWND tabs);
+  bool fixesClientSize() const { return form_.clientWidth() > 0; }
+  base::PixelSize outerSizeFor(base::PixelSize inner);
+  void fitScrollBars();
+  void showScrollBar(int bar, const ScrollAxis& axis);
+  void showScrolled();
+  void onScroll(int bar, int code);
+  void onWheel(int delta);
+  void keepFocusInSight();
   void onKeyboardCommand(int id);
   void onMenuCommand(int id);
   bool switchTab(const MSG& message);
@@ -91,6 +105,10 @@ class FormWindow : public FormHost, private PeerOwner {
   os::OwnedBrush pageBrush_;
   COLORREF pageColor_ = 0;
   HWND toolTips_ = nullptr;
+  base::PixelSize content_;  // what stands on the form; empty where the window is sized by its outside
+  ScrollAxis across_;
+  ScrollAxis down_;
+  HWND lastFocus_ = nullptr;
   HMENU menu_ = nullptr;  // goes with the window
   std::vector<MenuItem*> menuCommands_;
   std::vector<std::unique_ptr<ControlPeer>> peers_;  // in the order of the form's controls

@@ -18,7 +18,7 @@ WindowRecipe LinesPeer::recipe() const {
   return {L"LISTBOX",
           WS_TABSTOP | WS_GROUP | WS_VSCROLL | LBS_NOTIFY | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS |
               LBS_NOINTEGRALHEIGHT,
-          WS_EX_CLIENTEDGE};
+          WS_EX_CLIENTEDGE, true};
 }
 
 void LinesPeer::measureLines() {
@@ -41,25 +41,17 @@ void LinesPeer::fillLines(std::size_t count, TextOf textOf) {
 }
 
 bool LinesPeer::onDrawItem(const DRAWITEMSTRUCT& item) {
-  const bool selected = (item.itemState & ODS_SELECTED) != 0;
-  const bool enabled = control_.takesInput();
-  FillRect(item.hDC, &item.rcItem, GetSysColorBrush(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+  ListLine line{.text = {},
+                .takesInput = control_.takesInput(),
+                .background = GetSysColor(COLOR_WINDOW),
+                .indent = indent(static_cast<int>(item.itemID)),
+                .ellipsis = DT_PATH_ELLIPSIS};
   if (item.itemID != static_cast<UINT>(-1)) {
-    std::wstring text(static_cast<std::size_t>(send(LB_GETTEXTLEN, item.itemID)) + 1, L'\0');
-    text.resize(
-        static_cast<std::size_t>(send(LB_GETTEXT, item.itemID, reinterpret_cast<LPARAM>(text.data()))));
-    const int line = static_cast<int>(item.itemID);
-    int color = enabled ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT;
-    if (selected) color = COLOR_HIGHLIGHTTEXT;
-    SetTextColor(item.hDC, GetSysColor(color));
-    SetBkMode(item.hDC, TRANSPARENT);
-    RECT area = item.rcItem;
-    area.left += MulDiv(3, owner().dpi(), 96) + indent(line);
-    area.right -= MulDiv(3, owner().dpi(), 96);
-    DrawTextW(item.hDC, text.c_str(), -1, &area, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_PATH_ELLIPSIS);
+    line.text.resize(static_cast<std::size_t>(send(LB_GETTEXTLEN, item.itemID)) + 1);
+    line.text.resize(
+        static_cast<std::size_t>(send(LB_GETTEXT, item.itemID, reinterpret_cast<LPARAM>(line.text.data()))));
   }
-  if ((item.itemState & ODS_FOCUS) && !(item.itemState & ODS_NOFOCUSRECT))
-    DrawFocusRect(item.hDC, &item.rcItem);
+  DrawListLine(item, line, owner().dpi());
   return true;
 }
 
@@ -117,7 +109,7 @@ void FileListPeer::onChange(Change change) {
 void FolderListPeer::fill() {
   fillLines(list_.entries().size(),
             [this](std::size_t i) -> const std::string& { return list_.entries()[i].shown; });
-  send(LB_SETCURSEL, static_cast<WPARAM>(list_.pathIndex()));
+  send(LB_SETCURSEL, static_cast<WPARAM>(list_.listIndex()));
 }
 
 void FolderListPeer::onChange(Change change) {
@@ -136,7 +128,12 @@ void FolderListPeer::openSelected() {
 }
 
 void FolderListPeer::onCommand(int code) {
+  if (deaf()) return;
   if (code == LBN_DBLCLK) openSelected();
+  if (code == LBN_SELCHANGE) {
+    const auto index = static_cast<int>(send(LB_GETCURSEL));
+    owner().raise([this, index] { list_.userSelected(index); });
+  }
 }
 
 // The Enter key opens a folder, as a double click does.

@@ -25,6 +25,7 @@ class LinesPeer : public ControlPeer {
   void fillLines(std::size_t count, TextOf textOf);
   void addLine(WPARAM at, const std::string& text);
   void measureLines();
+  void onPlaced() override { measureLines(); }
 };
 
 class ListBoxPeer : public LinesPeer {

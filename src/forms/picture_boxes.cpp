@@ -106,6 +106,9 @@ base::SharedBitmap PictureBox::image() const {
   drawPainted();
   const base::PixelSize size = scaleSize();
   if (drawing_ && drawing_->size() == size && (!picture_ || drawing_->isOpaque())) return drawing_;
+  if (!drawing_ && picture_ && picture_->size() == size) {
+    if (base::SharedBitmap assigned = picture_->drawnAt(size)) return assigned;
+  }
   auto image = std::make_shared<base::Bitmap>(size);
   if (picture_) {
     if (base::SharedBitmap assigned = picture_->drawnAt(picture_->size())) {

@@ -24,11 +24,12 @@ void RegisterPictureClass() {
 
 base::Pixel SystemPixel(COLORREF color) { return base::OpaquePixel(static_cast<base::PackedColor>(color)); }
 
-void DrawBorder(base::BitmapView target, base::PixelSize size, base::Pixel line) {
-  base::FillRect(target, {0, 0, size.width, 1}, line);
-  base::FillRect(target, {0, size.height - 1, size.width, 1}, line);
-  base::FillRect(target, {0, 0, 1, size.height}, line);
-  base::FillRect(target, {size.width - 1, 0, 1, size.height}, line);
+// A line inside the edge of `box`.
+void DrawBorder(base::BitmapView target, const base::PixelRect& box, base::Pixel line) {
+  base::FillRect(target, {box.left, box.top, box.width, 1}, line);
+  base::FillRect(target, {box.left, box.bottom() - 1, box.width, 1}, line);
+  base::FillRect(target, {box.left, box.top, 1, box.height}, line);
+  base::FillRect(target, {box.right() - 1, box.top, 1, box.height}, line);
 }
 
 }  // namespace
@@ -38,7 +39,6 @@ DrawnPeer::DrawnPeer(Control& control, PeerOwner& owner) : ControlPeer(control, 
 }
 
 void DrawnPeer::invalidate() {
-  drawn_ = false;
   if (window()) InvalidateRect(window(), nullptr, FALSE);
 }
 
@@ -49,20 +49,20 @@ void DrawnPeer::onChange(Change change) {
   }
 }
 
+// Through a buffer of what has to be painted, which is never more than the screen shows: a picture far larger
+// than the screen needs no second copy of its pixels.
 void DrawnPeer::paint() {
   RECT client{};
   GetClientRect(window(), &client);
-  const base::PixelSize size{static_cast<int>(client.right), static_cast<int>(client.bottom)};
   const os::PaintDc paintDc(window());
-  if (size.isEmpty()) return;
-  if (bufferSize_ != size) {
-    buffer_ = os::Dib(size);
-    bufferSize_ = size;
-    drawn_ = false;
-  }
-  if (!drawn_) draw(buffer_.view(), size);
-  drawn_ = true;
-  BitBlt(paintDc.get(), 0, 0, size.width, size.height, buffer_.dc(), 0, 0, SRCCOPY);
+  const RECT& stale = paintDc.area();
+  const base::PixelRect area{static_cast<int>(stale.left), static_cast<int>(stale.top),
+                             static_cast<int>(stale.right - stale.left),
+                             static_cast<int>(stale.bottom - stale.top)};
+  if (area.isEmpty()) return;
+  const os::Dib buffer(area.size());
+  draw(buffer.view(), area, {static_cast<int>(client.right), static_cast<int>(client.bottom)});
+  BitBlt(paintDc.get(), area.left, area.top, area.width, area.height, buffer.dc(), 0, 0, SRCCOPY);
 }
 
 std::optional<LRESULT> DrawnPeer::onMessage(UINT message, WPARAM, LPARAM) {
@@ -87,22 +87,32 @@ std::optional<LRESULT> DrawnPeer::onMessage(UINT message, WPARAM, LPARAM) {
   }
 }
 
-void PictureBoxPeer::draw(base::BitmapView target, base::PixelSize size) {
+void PictureBoxPeer::draw(base::BitmapView target, const base::PixelRect& area, base::PixelSize size) {
   const int line = box_.border ? 1 : 0;
-  base::FillRect(target, base::PixelRect::ofSize(size), SystemPixel(ToColorRef(box_.backColor())));
+  base::FillRect(target, base::PixelRect::ofSize(area.size()), SystemPixel(ToColorRef(box_.backColor())));
   const base::SharedBitmap shown = box_.image();
-  base::BlendRect(target, {line, line}, *shown, base::PixelRect::ofSize(shown->size()));
-  if (line) DrawBorder(target, size, SystemPixel(GetSysColor(COLOR_BTNSHADOW)));
+  base::BlendRect(target, {line - area.left, line - area.top}, *shown,
+                  base::PixelRect::ofSize(shown->size()));
+  if (line) {
+    DrawBorder(target, base::PixelRect::ofSize(size).movedBy(-area.left, -area.top),
+               SystemPixel(GetSysColor(COLOR_BTNSHADOW)));
+  }
 }
 
-void ImagePeer::draw(base::BitmapView target, base::PixelSize size) {
-  base::FillRect(target, base::PixelRect::ofSize(size), SystemPixel(owner().surfaceColor(image_)));
+void ImagePeer::onChange(Change change) {
+  if (change == Change::Picture || change == Change::Place) fitted_ = nullptr;
+  DrawnPeer::onChange(change);
+}
+
+void ImagePeer::draw(base::BitmapView target, const base::PixelRect& area, base::PixelSize size) {
+  base::FillRect(target, base::PixelRect::ofSize(area.size()), SystemPixel(owner().surfaceColor(image_)));
   if (!image_.picture()) return;
   const base::PixelSize fitted = FitInside(image_.picture()->size(), size);
-  const base::SharedBitmap shown = image_.picture()->drawnAt(fitted);
-  if (!shown) return;
-  base::BlendRect(target, {(size.width - fitted.width) / 2, (size.height - fitted.height) / 2}, *shown,
-                  base::PixelRect::ofSize(fitted));
+  if (!fitted_) fitted_ = image_.picture()->drawnAt(fitted);
+  if (!fitted_) return;
+  base::BlendRect(target,
+                  {(size.width - fitted.width) / 2 - area.left, (size.height - fitted.height) / 2 - area.top},
+                  *fitted_, base::PixelRect::ofSize(fitted));
 }
 
 }  // namespace forms

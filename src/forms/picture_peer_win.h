@@ -1,4 +1,4 @@
-// Picture boxes and images as real windows, drawn from a back buffer.
+// Picture boxes and images as real windows.
 #pragma once
 
 #include "forms/control_peer_win.h"
@@ -14,7 +14,7 @@ class DrawnPeer : public ControlPeer {
  public:
   DrawnPeer(Control& control, PeerOwner& owner);
 
-  // Draws anew with the next paint message.
+  // Everything is drawn anew with the next paint message.
   void invalidate();
 
  protected:
@@ -22,15 +22,12 @@ class DrawnPeer : public ControlPeer {
   void onChange(Change change) override;
   std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-  // Draws the whole window.
-  virtual void draw(base::BitmapView target, base::PixelSize size) = 0;
+  // Draws `area` of a window of `size` pixels; the target's top left corner is the area's.
+  virtual void draw(base::BitmapView target, const base::PixelRect& area, base::PixelSize size) = 0;
 
  private:
   void paint();
 
-  os::Dib buffer_;
-  base::PixelSize bufferSize_;
-  bool drawn_ = false;
   bool pressed_ = false;
 };
 
@@ -39,7 +36,7 @@ class PictureBoxPeer : public DrawnPeer {
   PictureBoxPeer(PictureBox& box, PeerOwner& owner) : DrawnPeer(box, owner), box_(box) {}
 
  protected:
-  void draw(base::BitmapView target, base::PixelSize size) override;
+  void draw(base::BitmapView target, const base::PixelRect& area, base::PixelSize size) override;
 
  private:
   PictureBox& box_;
@@ -50,10 +47,12 @@ class ImagePeer : public DrawnPeer {
   ImagePeer(Image& image, PeerOwner& owner) : DrawnPeer(image, owner), image_(image) {}
 
  protected:
-  void draw(base::BitmapView target, base::PixelSize size) override;
+  void onChange(Change change) override;
+  void draw(base::BitmapView target, const base::PixelRect& area, base::PixelSize size) override;
 
  private:
   Image& image_;
+  base::SharedBitmap fitted_;  // as it was drawn last; null = to be drawn anew
 };
 
 }  // namespace forms

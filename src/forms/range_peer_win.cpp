@@ -7,7 +7,7 @@
 namespace forms {
 
 WindowRecipe SliderPeer::recipe() const {
-  return {TRACKBAR_CLASSW, WS_TABSTOP | WS_GROUP | TBS_HORZ | TBS_AUTOTICKS, 0};
+  return {TRACKBAR_CLASSW, WS_TABSTOP | WS_GROUP | TBS_HORZ | TBS_AUTOTICKS, 0, true};
 }
 
 void SliderPeer::fill() {
@@ -29,7 +29,9 @@ void SliderPeer::onScroll(int, int) {
   owner().raise([this] { slider_.userSetValue(static_cast<int>(send(TBM_GETPOS))); });
 }
 
-WindowRecipe ScrollBarPeer::recipe() const { return {L"SCROLLBAR", WS_TABSTOP | WS_GROUP | SBS_VERT, 0}; }
+WindowRecipe ScrollBarPeer::recipe() const {
+  return {L"SCROLLBAR", WS_TABSTOP | WS_GROUP | SBS_VERT, 0, true};
+}
 
 // The window counts from its top, 0 to the distance of the limits.
 int ScrollBarPeer::positionOf(int value) const { return std::abs(value - bar_.min()); }

@@ -1,7 +1,11 @@
-// How dialogs look on this machine: fonts, colours behind controls, dots per inch.
+// How dialogs look on this machine: fonts, colours, dots per inch, visual style.
 #pragma once
 
 #include <windows.h>
+
+#include <uxtheme.h>
+
+#include <string>
 
 #include "base/color.h"
 #include "os/handles_win.h"
@@ -16,6 +20,36 @@ os::OwnedFont MakeMessageFont(int dpi);
 
 // A colour as the graphics system takes it; system colours are the user's.
 COLORREF ToColorRef(base::PackedColor color);
+
+// The style of one class of control, for a scope. The library behind it is none of those that the system
+// loads for every program from its own folder, so it is loaded from there by name and not by the import
+// table, which would look beside the program first.
+class Theme {
+ public:
+  Theme(HWND window, const wchar_t* controlClass);
+  ~Theme();
+  Theme(const Theme&) = delete;
+  Theme& operator=(const Theme&) = delete;
+
+  // False without a visual style.
+  explicit operator bool() const { return theme_ != nullptr; }
+
+  // False when it could not be drawn.
+  bool drawBackground(HDC dc, int part, int state, const RECT& area) const;
+
+ private:
+  HTHEME theme_;
+};
+
+// How one line of a list is drawn by its owner.
+struct ListLine {
+  std::wstring text;
+  bool takesInput = true;
+  COLORREF background = 0;  // where the line is not selected
+  int indent = 0;           // pixels
+  UINT ellipsis = 0;        // DrawText's way to shorten it
+};
+void DrawListLine(const DRAWITEMSTRUCT& item, const ListLine& line, int dpi);
 
 // What a tab page shows between its controls, as one colour.
 COLORREF TabPageColor(HWND tabControl);

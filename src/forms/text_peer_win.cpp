@@ -9,7 +9,7 @@
 namespace forms {
 
 WindowRecipe LabelPeer::recipe() const {
-  DWORD align = SS_LEFTNOWORDWRAP;
+  DWORD align = label_.wraps ? SS_LEFT : SS_LEFTNOWORDWRAP;
   if (label_.align == TextAlign::Right) align = SS_RIGHT;
   if (label_.align == TextAlign::Center) align = SS_CENTER;
   return {L"STATIC", WS_GROUP | SS_NOPREFIX | align, 0};
@@ -23,7 +23,7 @@ WindowRecipe TextBoxPeer::recipe() const {
   DWORD style = WS_TABSTOP | WS_GROUP | ES_AUTOHSCROLL;
   if (box_.locked) style |= ES_READONLY;
   if (box_.digitsOnly) style |= ES_NUMBER;
-  return {L"EDIT", style, WS_EX_CLIENTEDGE};
+  return {L"EDIT", style, WS_EX_CLIENTEDGE, true};
 }
 
 void TextBoxPeer::fill() {
@@ -57,6 +57,21 @@ void TextBoxPeer::onChange(Change change) {
 void TextBoxPeer::onCommand(int code) {
   if (code == EN_CHANGE && !deaf()) owner().raise([this] { box_.userTyped(shownText()); });
   if (code == EN_KILLFOCUS && box_.onLostFocus) owner().raise([this] { box_.onLostFocus(); });
+}
+
+std::optional<LRESULT> TextBoxPeer::onMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (!box_.onEnter) return std::nullopt;
+  if (message == WM_GETDLGCODE && lParam) {
+    const auto* key = reinterpret_cast<const MSG*>(lParam);
+    if (key->message == WM_KEYDOWN && key->wParam == VK_RETURN) return DLGC_WANTMESSAGE | DLGC_HASSETSEL;
+  }
+  if (message == WM_KEYDOWN && wParam == VK_RETURN) {
+    owner().raise([this] { box_.onEnter(); });
+    return 0;
+  }
+  // A field of one line would sound the bell.
+  if (message == WM_CHAR && wParam == VK_RETURN) return 0;
+  return std::nullopt;
 }
 
 HBRUSH TextBoxPeer::onColor(HDC dc, UINT) {

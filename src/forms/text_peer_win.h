@@ -31,6 +31,7 @@ class TextBoxPeer : public ControlPeer {
   void fill() override;
   void onChange(Change change) override;
   base::PixelRect windowPlace() const override;
+  std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
   std::string shownText() const;

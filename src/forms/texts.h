@@ -13,7 +13,7 @@ namespace forms {
 
 enum class TextAlign { Left, Right, Center };
 
-// One line of text that sizes itself to its text.
+// A text that can size itself to its one line.
 class Label : public Control {
  public:
   Label(Form& form, std::string name);
@@ -25,6 +25,7 @@ class Label : public Control {
 
   // Set once while building a form.
   TextAlign align = TextAlign::Left;
+  bool wraps = false;  // goes on in further lines at the end of its width
 
   const base::Font& font() const { return font_; }
   void setFont(base::Font font);
@@ -70,6 +71,7 @@ class TextBox : public Control {
   int maxLength = 0;        // characters that can be typed; 0 = no limit
 
   std::function<void()> onChange;
+  std::function<void()> onEnter;  // the Enter key; without a handler it presses the form's default button
 
  private:
   bool assign(std::string text) {
@@ -82,9 +84,9 @@ class TextBox : public Control {
   std::string text_;
 };
 
+// The first panel takes what the others leave; they are as wide as their texts, and gone without one.
 struct StatusPanel {
   std::string text;
-  float width = 0;  // twips; 0 = what the others leave
 };
 
 // A line of panels with texts at the bottom of a form.

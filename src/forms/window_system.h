@@ -15,10 +15,12 @@ class WindowSystem {
   // Shows a form; the others stay usable. A form that is shown comes to the front.
   virtual void show(Form& form) = 0;
 
-  // Shows a form over the others, which take no input, and returns when it has been unloaded.
+  // Shows a form over the others, which take no input, and returns when it has been unloaded. The end of the
+  // program unloads it too.
   virtual void showModal(Form& form) = 0;
 
-  // Takes a form's window away; onUnload runs. Nothing happens when it is not loaded.
+  // Takes a form's window away, and those that were opened over it; onUnload runs. Nothing happens when it is
+  // not loaded.
   virtual void unload(Form& form) = 0;
 
   // The primary screen, in twips of its forms.

@@ -85,6 +85,7 @@ void WindowSystemWin::showModal(Form& form) {
   }
   modals_.push_back(std::move(modal));
   while (find(form) && !loop_.isQuitting()) loop_.waitUntil(std::numeric_limits<std::int64_t>::max());
+  unload(form);
 }
 
 // The others take input again before the window goes, so that one of them is activated in its place.
@@ -96,9 +97,21 @@ void WindowSystemWin::endModal(const Form& form) {
   modals_.erase(at);
 }
 
+// The system takes the windows above a window away with it; their forms must hear of it.
+void WindowSystemWin::unloadOwnedBy(HWND owner) {
+  for (std::size_t i = loaded_.size(); i > 0; --i) {
+    if (i <= loaded_.size() && GetWindow(loaded_[i - 1]->handle(), GW_OWNER) == owner) {
+      unload(loaded_[i - 1]->form());
+    }
+  }
+}
+
 void WindowSystemWin::unload(Form& form) {
-  const auto at = std::find_if(loaded_.begin(), loaded_.end(),
-                               [&](const auto& window) { return &window->form() == &form; });
+  const auto isForm = [&form](const auto& window) { return &window->form() == &form; };
+  auto at = std::find_if(loaded_.begin(), loaded_.end(), isForm);
+  if (at == loaded_.end()) return;
+  unloadOwnedBy((*at)->handle());
+  at = std::find_if(loaded_.begin(), loaded_.end(), isForm);
   if (at == loaded_.end()) return;
   std::unique_ptr<FormWindow> window = std::move(*at);
   loaded_.erase(at);

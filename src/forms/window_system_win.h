@@ -45,6 +45,7 @@ class WindowSystemWin : public WindowSystem {
 
   FormWindow* find(const Form& form) const;
   void endModal(const Form& form);
+  void unloadOwnedBy(HWND owner);
 
   os::EventLoop& loop_;
   std::vector<std::unique_ptr<FormWindow>> loaded_;  // in the order of showing

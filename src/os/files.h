@@ -40,7 +40,16 @@ class Files {
 
   // The folder in which the program works: a file name without a folder means a file that lies there.
   virtual std::string currentFolder() = 0;
-  virtual void enterFolder(const std::string& folder) = 0;
+
+  // False when there is no such folder; the program then goes on working where it did.
+  virtual bool enterFolder(const std::string& folder) = 0;
+
+  // Where the user keeps pictures; empty when the system names no folder.
+  virtual std::string picturesFolder() = 0;
+
+  // Puts names into the order in which the system shows them: as people sort, 2 before 10, accents beside their
+  // letters.
+  virtual void sortNames(std::vector<std::string>& names) = 0;
 
   // The short (8.3) form of a path where the file system has one, else the path itself.
   virtual std::string shortPath(const std::string& path) = 0;

@@ -2,12 +2,16 @@
 
 #include <windows.h>
 
+#include <shlobj.h>
+
 #include <algorithm>
 #include <atomic>
 #include <cwchar>
 
+#include "base/natural_order.h"
 #include "os/open_file_win.h"
 #include "os/paths.h"
+#include "os/system_library_win.h"
 #include "os/utf16_win.h"
 
 namespace os {
@@ -180,7 +184,35 @@ std::string FilesWin::currentFolder() {
   return FromWide(folder);
 }
 
-void FilesWin::enterFolder(const std::string& folder) { SetCurrentDirectoryW(ToWide(folder).c_str()); }
+bool FilesWin::enterFolder(const std::string& folder) {
+  return !folder.empty() && SetCurrentDirectoryW(ToWide(folder).c_str()) != FALSE;
+}
+
+std::string FilesWin::picturesFolder() {
+  wchar_t* path = nullptr;
+  std::string folder;
+  if (SUCCEEDED(SHGetKnownFolderPath(FOLDERID_Pictures, 0, nullptr, &path))) folder = FromWide(path);
+  CoTaskMemFree(path);
+  return folder;
+}
+
+// The order of the system's own file windows.
+void FilesWin::sortNames(std::vector<std::string>& names) {
+  static const OwnedLibrary shell = LoadSystemLibrary(L"shlwapi.dll");
+  static const auto compare = FindFunction<int(WINAPI*)(PCWSTR, PCWSTR)>(shell.get(), "StrCmpLogicalW");
+  if (!compare) {
+    std::ranges::sort(names, [](const auto& a, const auto& b) { return base::CompareNaturally(a, b) < 0; });
+    return;
+  }
+  std::vector<std::wstring> wide;
+  wide.reserve(names.size());
+  for (const std::string& name : names) wide.push_back(ToWide(name));
+  std::ranges::sort(wide, [](const std::wstring& a, const std::wstring& b) {
+    const int order = compare(a.c_str(), b.c_str());
+    return order != 0 ? order < 0 : a < b;
+  });
+  std::ranges::transform(wide, names.begin(), [](const std::wstring& name) { return FromWide(name); });
+}
 
 std::string FilesWin::shortPath(const std::string& path) {
   const std::wstring wide = WidePath(path);

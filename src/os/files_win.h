@@ -24,7 +24,9 @@ class FilesWin : public Files {
   std::vector<std::string> filesIn(const std::string& folder) override;
   std::vector<std::string> drives() override;
   std::string currentFolder() override;
-  void enterFolder(const std::string& folder) override;
+  bool enterFolder(const std::string& folder) override;
+  std::string picturesFolder() override;
+  void sortNames(std::vector<std::string>& names) override;
   std::string shortPath(const std::string& path) override;
 
  private:

@@ -12,26 +12,33 @@ namespace {
 
 // The bitmap font of old has a few fixed sizes and no smooth edges; its outline successor has the same
 // shapes.
-std::wstring FaceName(const std::string& name) {
-  return name == "MS Sans Serif" ? L"Microsoft Sans Serif" : ToWide(name);
+std::string DrawnFace(const std::string& name) {
+  return name == "MS Sans Serif" ? "Microsoft Sans Serif" : name;
 }
 
 }  // namespace
 
-TextRendererWin::TextRendererWin(int dpi) : dpi_(dpi), dc_(CreateCompatibleDC(nullptr)) {}
-
-HFONT TextRendererWin::select(const base::Font& font) {
-  if (font_ && madeFor_ == font) return font_.get();
+LOGFONTW LogFontOf(const base::Font& font, int dpi) {
   LOGFONTW wanted{};
-  wanted.lfHeight = -static_cast<LONG>(std::lround(font.sizePoints * static_cast<float>(dpi_) / 72.0F));
+  wanted.lfHeight = -static_cast<LONG>(std::lround(font.sizePoints * static_cast<float>(dpi) / 72.0F));
   wanted.lfWeight = font.bold ? FW_BOLD : FW_NORMAL;
   wanted.lfItalic = font.italic;
   wanted.lfUnderline = font.underline;
   wanted.lfStrikeOut = font.strikethrough;
   wanted.lfCharSet = DEFAULT_CHARSET;
+  const std::wstring name = ToWide(font.name);
+  std::copy_n(name.begin(), std::min<std::size_t>(name.size(), LF_FACESIZE - 1), wanted.lfFaceName);
+  return wanted;
+}
+
+TextRendererWin::TextRendererWin(int dpi) : dpi_(dpi), dc_(CreateCompatibleDC(nullptr)) {}
+
+HFONT TextRendererWin::select(const base::Font& font) {
+  if (font_ && madeFor_ == font) return font_.get();
+  base::Font drawn = font;
+  drawn.name = DrawnFace(font.name);
+  LOGFONTW wanted = LogFontOf(drawn, dpi_);
   wanted.lfQuality = ANTIALIASED_QUALITY;  // grey, not coloured by sub-pixels: the background is unknown
-  const std::wstring face = FaceName(font.name);
-  std::copy_n(face.begin(), std::min<std::size_t>(face.size(), LF_FACESIZE - 1), wanted.lfFaceName);
   font_.reset(CreateFontIndirectW(&wanted));
   madeFor_ = font;
   return font_.get();

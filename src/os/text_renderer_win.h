@@ -6,6 +6,9 @@
 
 namespace os {
 
+// What the system makes a font from, for a device with this many dots per inch.
+LOGFONTW LogFontOf(const base::Font& font, int dpi);
+
 class TextRendererWin : public TextRenderer {
  public:
   // Font sizes are in points of a screen with this many dots per inch.

@@ -37,7 +37,8 @@ TEST_F(FrmAboutTest, TellsNameVersionAndPurpose) {
   EXPECT_EQ(about.lblTitle.caption(), "Lumora Screen Saver");
   EXPECT_EQ(about.lblVersion.caption(), "Version " + std::string(kProductVersion));
   EXPECT_EQ(std::string(kProductVersion).find_first_not_of("0123456789."), std::string::npos);
-  for (const forms::Label& line : about.lblAbout) EXPECT_FALSE(line.caption().empty());
+  EXPECT_FALSE(about.lblAbout.caption().empty());
+  EXPECT_TRUE(about.lblAbout.wraps);
 }
 
 TEST_F(FrmAboutTest, ShowsTheIconThatItIsGiven) {

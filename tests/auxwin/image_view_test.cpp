@@ -124,7 +124,7 @@ TEST_F(ImageViewTest, APictureLargerThanTheScreenCanBePulledToItsOtherCorner) {
   EXPECT_EQ(view.Picture1.left(), -1000);
   EXPECT_EQ(view.Picture1.top(), -2000);
   view.Picture1.onClick();
-  EXPECT_TRUE(windows.unloaded.empty()) << "the end of pulling is no click";
+  EXPECT_TRUE(windows.unloaded.empty()) << "letting go after a drag is no click";
   for (int i = 0; i < 5; ++i) {
     view.Picture1.onMouseDown({20000 - view.Picture1.left(), 12000 - view.Picture1.top()});
     view.userMovedMouse(15, 15, true);

@@ -71,6 +71,22 @@ TEST_F(MultiFilesTest, AnotherFolderShowsItsFilesAndAnotherDriveItsRoot) {
   EXPECT_EQ(opened.filFilenames.files(), Paths{"root.gif"});
 }
 
+TEST_F(MultiFilesTest, AFolderThatIsOnlySelectedShowsItsFilesAndThoseAreAdded) {
+  MultiFiles& opened = open();
+  opened.dirDirectories.userSelected(2);
+  EXPECT_EQ(opened.filFilenames.files(), Paths{"wave.gif"});
+  EXPECT_EQ(opened.dirDirectories.path(), "C:\\photos") << "it is not opened";
+  opened.Command1.userClicked();
+  EXPECT_EQ(List1.items(), Paths{"C:\\photos\\sea\\wave.gif"});
+}
+
+TEST_F(MultiFilesTest, SelectingTheOpenFolderAgainShowsItsOwnFiles) {
+  MultiFiles& opened = open();
+  opened.dirDirectories.userSelected(2);
+  opened.dirDirectories.userSelected(1);
+  EXPECT_EQ(opened.filFilenames.path(), "C:\\photos");
+}
+
 TEST_F(MultiFilesTest, AllListedFilesComeInTheirOrderWithEmptyCaptions) {
   List1.addItem("first.gif");
   photo_caption.addItem("First");

@@ -1,6 +1,8 @@
 // The windows that the dialog opens, as real windows under a person's hands.
 #include <windows.h>
 
+#include <psapi.h>
+
 #include <gtest/gtest.h>
 
 #include "os/files_win.h"
@@ -145,6 +147,38 @@ TEST_F(AuxWindows, AFolderIsImportedByTheDefaultButton) {
   EXPECT_EQ(SendMessageW(dialog->windowOf(list), LB_GETCOUNT, 0, 0), 3);
   EXPECT_EQ(dialog->form().Text3.text(), "3");
   EXPECT_TRUE(IsWindowEnabled(dialog->window()));
+}
+
+TEST_F(AuxWindows, TheViewerHoldsThePixelsOnce) {
+  constexpr base::PixelSize kSize{6000, 4000};
+  constexpr double kPictureBytes = 6000.0 * 4000 * 4;
+  const auto committed = [] {
+    PROCESS_MEMORY_COUNTERS counters{};
+    GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof(counters));
+    return static_cast<double>(counters.PagefileUsage);
+  };
+  open(kSize);
+  const double before = committed();
+  dialog->click(dialog->form().EnlargeCommand);
+  ASSERT_TRUE(viewerOpens());
+  UpdateWindow(viewerWindow());
+  letPass();
+  EXPECT_LT(committed() - before, 1.5 * kPictureBytes);
+}
+
+TEST_F(AuxWindows, WhatIsOpenOverTheDialogGoesWithIt) {
+  open({400, 300});
+  bool wasOpen = false;
+  const auto timer = dialog->loop().startTimer(50, [&] {
+    if (!dialog->program().windows().windowOf(dialog->program().dialog().about)) return;
+    wasOpen = true;
+    SendMessageW(dialog->window(), WM_CLOSE, 0, 0);
+  });
+  dialog->program().dialog().AboutLumora_Click();
+  dialog->loop().stopTimer(timer);
+  EXPECT_TRUE(wasOpen);
+  EXPECT_FALSE(dialog->program().dialog().about.host()) << "its form knows that the window has gone";
+  EXPECT_TRUE(dialog->loop().isQuitting());
 }
 
 }  // namespace

@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cctype>
+#include <map>
+
 #include "dialog/control_table.h"
 #include "support/dialog_machine.h"
 
@@ -94,6 +98,62 @@ TEST_F(DialogLayout, EveryControlThatTakesTheKeyboardHasAName) {
       EXPECT_NE(button->caption() + button->accessibleName(), "") << control->name();
     }
   }
+}
+
+// What stands on a page, however deep.
+int TabOf(const Form2& form, const forms::Control& control) {
+  for (const forms::Control* on = &control; on; on = on->container()) {
+    for (int tab = 0; tab < form.SSTab1.tabCount(); ++tab) {
+      if (on == &form.SSTab1.page(tab)) return tab;
+    }
+  }
+  return -1;
+}
+
+TEST_F(DialogLayout, NoPageHasAMnemonicTwice) {
+  std::map<int, std::string> taken;  // by tab
+  for (const forms::Control* control : form.controls()) {
+    const auto* captioned = dynamic_cast<const forms::CaptionedControl*>(control);
+    const std::size_t mark = captioned ? captioned->caption().find('&') : std::string::npos;
+    if (mark == std::string::npos || control == &form.pCenter)
+      continue;  // "&Center" beside "&Cancel" is given
+    const int letter = std::toupper(captioned->caption().at(mark + 1));
+    const int tab = TabOf(form, *control);
+    if (tab < 0) {
+      for (int each = 0; each < form.SSTab1.tabCount(); ++each) taken[each] += static_cast<char>(letter);
+      continue;
+    }
+    taken[tab] += static_cast<char>(letter);
+  }
+  for (auto& [tab, letters] : taken) {
+    std::ranges::sort(letters);
+    EXPECT_TRUE(std::ranges::adjacent_find(letters) == letters.end()) << "tab " << tab << ": " << letters;
+  }
+  EXPECT_EQ(taken[0], "ACDELOR");
+  EXPECT_EQ(taken[2], "CLOS");
+}
+
+TEST_F(DialogLayout, ASliderThatIsDisabledHasGreyLabels) {
+  form.pCenter.userClicked();
+  form.middleOption.userClicked();
+  for (const forms::Label* label :
+       {&form.Label11, &form.Label7, &form.scrollSlowLabel, &form.scrollFastLabel}) {
+    EXPECT_FALSE(label->enabled()) << label->name();
+  }
+  form.pRandom.userClicked();
+  form.scrollOption.userClicked();
+  for (const forms::Label* label :
+       {&form.Label11, &form.Label7, &form.scrollSlowLabel, &form.scrollFastLabel}) {
+    EXPECT_TRUE(label->enabled()) << label->name();
+  }
+}
+
+TEST_F(DialogLayout, TheSentenceAboutTheImageSizeHasNoGap) {
+  const auto end = [](const forms::Label& label) { return label.left() + label.width(); };
+  EXPECT_EQ(form.Label13.align, forms::TextAlign::Right);
+  EXPECT_LE(form.percentLabel.left() - end(form.Label13), 2 * 15);
+  EXPECT_LE(form.Label12.left() - end(form.percentLabel), 2 * 15);
+  EXPECT_LE(form.percentLabel.width(), 34 * 15) << "a hundred per cent, and no more";
 }
 
 }  // namespace

@@ -377,5 +377,18 @@ TEST_F(PictureListTest, AfterALoadingThatFailedPicturesCanBeAddedAllTheSame) {
   EXPECT_EQ(boxes(), "|Position: 1|Total: 1");
 }
 
+TEST_F(PictureListTest, EnterInTheCaptionGoesToTheNextPicture) {
+  openThree();
+  form().p_caption.userTyped("At the sea");
+  form().p_caption.onEnter();
+  EXPECT_EQ(form().List1.listIndex(), 1);
+  EXPECT_EQ(form().p_caption.text(), "B");
+  form().p_caption.onEnter();
+  form().p_caption.onEnter();
+  EXPECT_EQ(form().List1.listIndex(), 2) << "behind the last there is none";
+  EXPECT_EQ(listed(), "a.gif=At the sea;b.gif=B;c.gif=C;");
+  EXPECT_TRUE(machine.windows.unloaded.empty()) << "nothing is saved";
+}
+
 }  // namespace
 }  // namespace dialog

@@ -125,6 +125,64 @@ TEST_F(SettingsDialogTest, TheAboutBoxIsModalAndCanBeOpenedAgain) {
   EXPECT_EQ(machine.windows.unloaded, (Names{"frmAbout", "frmAbout"}));
 }
 
+// The task manager closes the main window, and the wait for the import ends with the program.
+TEST_F(SettingsDialogTest, AnImportThatIsOpenWhenTheProgramEndsLivesAsLongAsItsWindow) {
+  machine.windows.leavesModalOpen = true;
+  machine.files.listed["C:\\"] = {"z.bmp"};
+  {
+    SettingsDialog dialog({machine.files, machine.ansi, machine.pictures, machine.dialogs, machine.windows},
+                          machine.loop, machine.shell, "C:\\Lumora", nullptr);
+    dialog.show();
+    machine.windows.whileModal = [&](forms::Form&) { machine.windows.unload(dialog.form); };
+    dialog.FolderCommand_Click();
+    EXPECT_TRUE(machine.loop.isQuitting());
+    ASSERT_TRUE(dialog.import->host()) << "its window is still there";
+    // Its controls are still there as well.
+    dialog.import->filFilenames.setPath("C:\\elsewhere");
+    EXPECT_EQ(dialog.import->filFilenames.listCount(), 0);
+  }
+  EXPECT_EQ(machine.windows.unloaded.back(), "MultiFiles");
+}
+
+TEST_F(SettingsDialogTest, TheImportStartsWhereTheUserKeepsPicturesAndThenWhereTheyWereLast) {
+  SettingsDialog& dialog = open();
+  machine.files.current = "C:\\Windows\\System32";
+  machine.files.pictures = "C:\\Pictures";
+  machine.files.listed["D:\\sea"] = {"wave.gif"};
+  Names started;
+  machine.windows.whileModal = [&](forms::Form& form) {
+    auto& import = static_cast<auxwin::MultiFiles&>(form);
+    started.push_back(import.dirDirectories.path());
+    import.dirDirectories.setPath("D:\\sea");
+    if (started.size() > 1) {
+      import.Command1.userClicked();
+    } else {
+      import.cmdQuit.userClicked();
+    }
+  };
+  for (int i = 0; i < 3; ++i) dialog.form.FolderCommand.userClicked();
+  EXPECT_EQ(started, (Names{"C:\\Pictures", "C:\\Pictures", "D:\\sea"}));
+  EXPECT_EQ(machine.files.current, "C:\\Windows\\System32") << "the program works where it did";
+}
+
+TEST_F(SettingsDialogTest, WithoutAPicturesFolderTheImportStartsInTheProgramsOwn) {
+  SettingsDialog& dialog = open();
+  machine.files.current = "C:\\Windows\\System32";
+  machine.files.pictures = "";
+  std::string started;
+  machine.windows.whileModal = [&](forms::Form& form) {
+    started = static_cast<auxwin::MultiFiles&>(form).dirDirectories.path();
+  };
+  dialog.form.FolderCommand.userClicked();
+  EXPECT_EQ(started, "C:\\Lumora");
+}
+
+TEST_F(SettingsDialogTest, TheKeyForHelpOpensTheHelp) {
+  SettingsDialog& dialog = open();
+  dialog.form.onHelp();
+  EXPECT_EQ(machine.shell.opened, Names{"C:\\Lumora\\lumoraHelp.htm"});
+}
+
 TEST_F(SettingsDialogTest, NothingOfItStaysWhenItIsTakenDownWhileOpen) {
   {
     SettingsDialog dialog({machine.files, machine.ansi, machine.pictures, machine.dialogs, machine.windows},

@@ -192,7 +192,7 @@ TEST(TabControl, ShowsOnePageAtATime) {
 
 TEST(StatusBar, PanelsCountFromOne) {
   Form form("Form");
-  StatusBar bar(form, "bar", {{"a", 0}, {"b", 100}});
+  StatusBar bar(form, "bar", {{"a"}, {"b"}});
   bar.setPanelText(1, "hint");
   EXPECT_EQ(bar.panelText(1), "hint");
   EXPECT_EQ(bar.panelText(2), "b");

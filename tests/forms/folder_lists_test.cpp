@@ -58,7 +58,7 @@ TEST_F(FolderListsTest, AFolderListShowsTheWayAndWhatLiesBelow) {
   std::string shown;
   for (const FolderEntry& entry : list.entries()) shown += std::to_string(entry.depth) + entry.shown + " ";
   EXPECT_EQ(shown, "0C:\\ 1photos 2A 2b ");
-  EXPECT_EQ(list.pathIndex(), 1);
+  EXPECT_EQ(list.listIndex(), 1);
   int changes = 0;
   list.onChange = [&] { ++changes; };
   list.userOpened(3);

@@ -76,5 +76,12 @@ TEST_F(PictureBoxTest, ClearingDropsTheParts) {
   EXPECT_TRUE(box.painted().isEmpty());
 }
 
+TEST_F(PictureBoxTest, AnAssignedPictureOfItsSizeIsNotCopied) {
+  const auto pixels = std::make_shared<base::Bitmap>(base::PixelSize{40, 30});
+  box.setAutoSize(true);
+  box.setPicture(pictures::MakePicture(pixels));
+  EXPECT_EQ(box.image().get(), pixels.get());
+}
+
 }  // namespace
 }  // namespace forms

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/natural_order.h"
+
 namespace support {
 
 std::optional<std::string> FakeFiles::read(const std::string& path) {
@@ -48,6 +50,10 @@ std::vector<std::string> FakeFiles::filesIn(const std::string& folder) {
     }
   }
   return names;
+}
+
+void FakeFiles::sortNames(std::vector<std::string>& names) {
+  std::ranges::sort(names, [](const auto& a, const auto& b) { return base::CompareNaturally(a, b) < 0; });
 }
 
 std::string FakeFiles::shortPath(const std::string& path) {

@@ -22,7 +22,13 @@ class FakeFiles : public os::Files {
   std::vector<std::string> filesIn(const std::string& folder) override;
   std::vector<std::string> drives() override { return roots; }
   std::string currentFolder() override { return current; }
-  void enterFolder(const std::string& folder) override { current = folder; }
+  bool enterFolder(const std::string& folder) override {
+    if (folder.empty()) return false;
+    current = folder;
+    return true;
+  }
+  std::string picturesFolder() override { return pictures; }
+  void sortNames(std::vector<std::string>& names) override;
   std::string shortPath(const std::string& path) override;
 
   std::map<std::string, std::string> content;               // by path
@@ -30,6 +36,7 @@ class FakeFiles : public os::Files {
   std::map<std::string, std::vector<std::string>> listed;  // files of a folder in place of those in `content`
   std::vector<std::string> roots = {"C:\\"};
   std::string current = "C:\\";
+  std::string pictures = "C:\\";  // the user's folder of pictures; empty: the system names none
 
   bool writable = true;          // false: every write fails
   std::set<std::string> locked;  // paths that cannot be read or replaced

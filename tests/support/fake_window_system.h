@@ -21,21 +21,29 @@ class FakeWindowSystem : public forms::WindowSystem, public forms::FormHost {
   float screenWidth = 1920 * 15.0F;
   float screenHeight = 1080 * 15.0F;
   std::function<void(forms::Form&)> whileModal;  // what the user does while a form is shown modally
+  bool leavesModalOpen = false;  // the program ends while a form is shown modally: its window is still there
+
+  // As the window system at its own end, it writes to the forms whose windows are still there.
+  ~FakeWindowSystem() override {
+    for (forms::Form* form : loaded_) form->setHost(nullptr);
+  }
 
   void show(forms::Form& form) override {
     shown.push_back(form.name());
     if (form.host() == this) return;
     form.setHost(this);
+    loaded_.push_back(&form);
     if (form.onLoad) form.onLoad();
   }
   void showModal(forms::Form& form) override {
     show(form);
     if (whileModal) whileModal(form);
-    unload(form);
+    if (!leavesModalOpen) unload(form);
   }
   void unload(forms::Form& form) override {
     if (form.host() != this) return;
     form.setHost(nullptr);
+    std::erase(loaded_, &form);
     unloaded.push_back(form.name());
     if (form.onUnload) form.onUnload();
   }
@@ -53,6 +61,9 @@ class FakeWindowSystem : public forms::WindowSystem, public forms::FormHost {
     return {static_cast<int>(text.size()) * 6, 13};
   }
   int twipsPerPixel() const override { return 15; }
+
+ private:
+  std::vector<forms::Form*> loaded_;
 };
 
 }  // namespace support

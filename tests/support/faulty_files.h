@@ -45,7 +45,9 @@ class FaultyFiles : public os::Files {
   std::vector<std::string> foldersIn(const std::string& folder) override { return files_.foldersIn(folder); }
   std::vector<std::string> drives() override { return files_.drives(); }
   std::string currentFolder() override { return files_.currentFolder(); }
-  void enterFolder(const std::string& folder) override { files_.enterFolder(folder); }
+  bool enterFolder(const std::string& folder) override { return files_.enterFolder(folder); }
+  std::string picturesFolder() override { return files_.picturesFolder(); }
+  void sortNames(std::vector<std::string>& names) override { files_.sortNames(names); }
   std::string shortPath(const std::string& path) override { return files_.shortPath(path); }
 
  private:

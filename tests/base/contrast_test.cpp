@@ -1,0 +1,34 @@
+#include "base/contrast.h"
+
+#include <gtest/gtest.h>
+
+namespace base {
+namespace {
+
+TEST(Contrast, BlackAndWhiteAreFarthestApart) {
+  EXPECT_NEAR(ContrastRatio(kBlack, kWhite), 21, 0.01);
+  EXPECT_NEAR(ContrastRatio(kWhite, kBlack), 21, 0.01);
+  EXPECT_NEAR(ContrastRatio(kWhite, kWhite), 1, 0.01);
+}
+
+TEST(Contrast, PureBlueStaysAsItIsOnLightPages) {
+  for (const PackedColor page : {kWhite, Rgb(240, 240, 240), Rgb(249, 249, 249)}) {
+    EXPECT_EQ(ReadableOn(kHighlight, page), kHighlight);
+  }
+}
+
+TEST(Contrast, OnEveryPageTheColorCanBeRead) {
+  for (int level = 0; level <= 255; ++level) {
+    const PackedColor page = Rgb(level, level, level);
+    EXPECT_GE(ContrastRatio(ReadableOn(kHighlight, page), page), kReadableContrast) << level;
+  }
+}
+
+TEST(Contrast, ABlueOnBlackIsStillABlue) {
+  const PackedColor blue = ReadableOn(kHighlight, kBlack);
+  EXPECT_EQ(BlueOf(blue), 255);
+  EXPECT_LT(RedOf(blue), 160);
+}
+
+}  // namespace
+}  // namespace base
