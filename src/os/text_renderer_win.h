@@ -15,10 +15,12 @@ class TextRendererWin : public TextRenderer {
   explicit TextRendererWin(int dpi);
 
   base::PixelSize measure(const base::Font& font, const std::string& text) override;
+  int overhang(const base::Font& font) override;
   TextMask draw(const base::Font& font, const std::string& text) override;
 
  private:
   HFONT select(const base::Font& font);
+  int lineHeight(const base::Font& font);
 
   int dpi_;
   OwnedMemoryDc dc_;

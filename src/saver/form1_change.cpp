@@ -1,5 +1,7 @@
 // One picture replacing another: the order of steps of every change, and the effect that brings the new one.
+#include <algorithm>
 #include <cmath>
+#include <span>
 
 #include "base/errors.h"
 #include "saver/form1.h"
@@ -12,6 +14,22 @@ namespace {
 
 constexpr float kPauseSeconds = 0.3F;
 constexpr float kSecondsOfDay = 86400.0F;
+
+bool IsTransparent(const base::Bitmap& bitmap) {
+  if (bitmap.isOpaque()) return false;
+  for (int y = 0; y < bitmap.size().height; ++y) {
+    const std::span row(bitmap.row(y), static_cast<std::size_t>(bitmap.size().width));
+    if (std::ranges::any_of(row, [](base::Pixel pixel) { return pixel != base::kTransparent; })) return false;
+  }
+  return true;
+}
+
+// A missing picture, or one that could not be decoded.
+bool ShowsNothing(const pictures::SharedPicture& picture) {
+  if (!picture) return true;
+  const base::SharedBitmap pixels = picture->drawnAt(picture->size());
+  return !pixels || IsTransparent(*pixels);
+}
 
 }  // namespace
 
@@ -63,7 +81,7 @@ void Form1::RetireOldPicture() {
   IntialPicture.paintPicture(*pictures::MakePicture(under), under->size());
   PictureReduce.setPicture(pictures::MakePicture(IntialPicture.image()));
   IntialPicture.setPicture(PictureReduce.picture());
-  RunTransition();
+  if (!ShowsNothing(DisplayingPicture.picture())) RunTransition();
   if (isOver()) return;
   DisplayingPicture.setPicture(IntialPicture.picture());
   Label1.setVisible(false);
@@ -74,7 +92,7 @@ void Form1::RunTransition() {
   // An error in an effect is not reported: whoever asked for it goes on to show the new picture in full.
   try {
     const pictures::SharedPicture& next = IntialPicture.picture();
-    if (!next) return;
+    if (ShowsNothing(next)) return;  // nobody would see the effect, only wait for it
     const auto over = [this] { return isOver(); };
     const std::optional<int> number =
         ChooseEffect(FlagsOf(settings_.record), random_, services_.clock, services_.loop, over);

@@ -35,7 +35,8 @@ void Form1::ScalePicture() {
   const PictureLimit limit = PictureLimit::of(width(), height(), settings_.pictureScale);
   const ShownSize shown = ScalePictureSize(limit, {.width = base::ToInt32(IntialPicture.width()),
                                                    .height = base::ToInt32(IntialPicture.height()),
-                                                   .reduction = loadReduction_});
+                                                   .reduction = loadReduction_,
+                                                   .pixelTwips = twipsPerPixel()});
   PictureReduce.setPicture(nullptr);
   PictureReduce.setWidth(static_cast<float>(shown.width));
   PictureReduce.setHeight(static_cast<float>(shown.height));
@@ -58,7 +59,10 @@ void Form1::PlacePicture() {
 }
 
 void Form1::PickFloatDirection() {
-  floatStep_ = saver::PickFloatDirection(DisplayingPicture.width(), DisplayingPicture.scaleWidth(),
+  // A box that has never held a picture has no inner width to tell the size of a pixel by.
+  const bool empty = DisplayingPicture.scaleWidth() == 0;
+  const float boxWidth = empty ? static_cast<float>(twipsPerPixel()) : DisplayingPicture.width();
+  floatStep_ = saver::PickFloatDirection(boxWidth, empty ? 1 : DisplayingPicture.scaleWidth(),
                                          os::SecondsSinceMidnight(services_.clock.now()), random_);
 }
 

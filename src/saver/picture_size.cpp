@@ -1,5 +1,6 @@
 #include "saver/picture_size.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "base/rounding.h"
@@ -44,14 +45,18 @@ int ReductionFor(const PictureLimit& limit, std::int32_t width, std::int32_t hei
 }
 
 ShownSize ScalePictureSize(const PictureLimit& limit, const LoadedPicture& picture) {
+  if (picture.width == 0 || picture.height == 0) return {picture.width, picture.height};
+  const auto visible = [&picture](std::int32_t length) { return std::max(length, picture.pixelTwips); };
   if (picture.width < picture.height) {
     if (picture.height < limit.maxPictureHeight) return {picture.width, picture.height};
-    base::MultiplyInt32(picture.loadedWidth(), limit.maxPictureHeight);
-    return {Proportional(picture.width, picture.height, limit.maxPictureHeight), limit.maxPictureHeight};
+    const std::int32_t shown = visible(limit.maxPictureHeight);
+    base::MultiplyInt32(picture.loadedWidth(), shown);
+    return {visible(Proportional(picture.width, picture.height, shown)), shown};
   }
   if (picture.width < limit.maxPictureWidth) return {picture.width, picture.height};
-  base::MultiplyInt32(picture.loadedHeight(), limit.maxPictureWidth);
-  return {limit.maxPictureWidth, Proportional(picture.height, picture.width, limit.maxPictureWidth)};
+  const std::int32_t shown = visible(limit.maxPictureWidth);
+  base::MultiplyInt32(picture.loadedHeight(), shown);
+  return {shown, visible(Proportional(picture.height, picture.width, shown))};
 }
 
 }  // namespace saver

@@ -20,7 +20,8 @@ struct PictureLimit {
 struct LoadedPicture {
   std::int32_t width = 0;  // as the file has it
   std::int32_t height = 0;
-  int reduction = 1;  // a power of two by which both are divided before they are multiplied
+  int reduction = 1;   // a power of two by which both are divided before they are multiplied
+  int pixelTwips = 0;  // the least that a side is shown with
 
   // The divided sizes, rounded half to even.
   std::int32_t loadedWidth() const;
@@ -44,7 +45,7 @@ int ReductionFor(const PictureLimit& limit, std::int32_t width, std::int32_t hei
 // its other side; a square counts by its width; equal to the limit counts as too large. The other side
 // follows in proportion, from a product of 32 bits: throws base::Overflow when it does not fit. A reduction
 // keeps the product in range and changes nothing in the result, since the proportion is that of the whole
-// picture.
+// picture. No side of a picture is shown with less than one pixel; an empty picture stays empty.
 ShownSize ScalePictureSize(const PictureLimit& limit, const LoadedPicture& picture);
 
 }  // namespace saver

@@ -1,12 +1,10 @@
 #include "saver/stage.h"
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 #include "base/rect_difference.h"
 #include "base/system_colors.h"
-#include "saver/text_layer.h"
 
 namespace saver {
 
@@ -16,13 +14,6 @@ namespace {
 constexpr std::size_t kMostDirtyAreas = 8;
 
 }  // namespace
-
-// A label with the text that was drawn for it last.
-struct Stage::TextLayer {
-  forms::Label* label = nullptr;
-  base::PixelRect was;  // where it was composed last; empty while hidden
-  std::optional<os::TextMask> mask;
-};
 
 Stage::Stage(StageWindow& window, os::TextRenderer& text, int twipsPerPixel)
     : window_(window), text_(text), twipsPerPixel_(twipsPerPixel) {
@@ -37,10 +28,7 @@ void Stage::show(forms::Form& form, forms::PictureBox& background, forms::Pictur
   background_ = &background;
   picture_ = &picture;
   texts_.clear();
-  for (forms::Label* label : labels) {
-    texts_.push_back(std::make_unique<TextLayer>());
-    texts_.back()->label = label;
-  }
+  for (const forms::Label* label : labels) texts_.emplace_back(*label, text_);
   form.onBackColorChanged = [this] { invalidateAll(); };
   invalidateAll();
 }
@@ -112,27 +100,17 @@ void Stage::composePicture(const base::BitmapView& target, const base::PixelRect
 }
 
 void Stage::composeTexts(const base::BitmapView& target, const base::PixelRect& area) {
-  for (const auto& layer : texts_) {
-    const forms::Label& label = *layer->label;
-    const base::PixelRect place = shownPlace(label);
-    if (place.intersected(area).isEmpty()) continue;
-    if (!layer->mask) layer->mask = text_.draw(label.font(), label.caption());
-    if (!label.transparent()) {
-      base::FillRect(target, place.intersected(area), base::OpaquePixel(base::PlainColor(label.backColor())));
-    }
-    BlendText(target, {place.left, place.top}, *layer->mask, base::PlainColor(label.foreColor()),
-              place.intersected(area));
-  }
+  for (TextLayer& layer : texts_) layer.compose(target, area);
 }
 
 base::PixelRect Stage::shownPlace(const forms::Control& control) const {
   return control.visible() ? control.pixelRect() : base::PixelRect{};
 }
 
-Stage::TextLayer* Stage::textLayerOf(const forms::Control& control) {
+TextLayer* Stage::textLayerOf(const forms::Control& control) {
   const auto found =
-      std::find_if(texts_.begin(), texts_.end(), [&](const auto& layer) { return layer->label == &control; });
-  return found == texts_.end() ? nullptr : found->get();
+      std::ranges::find_if(texts_, [&](const TextLayer& layer) { return &layer.label() == &control; });
+  return found == texts_.end() ? nullptr : &*found;
 }
 
 void Stage::controlChanged(forms::Control& control, forms::Change change) {
@@ -145,10 +123,7 @@ void Stage::controlChanged(forms::Control& control, forms::Change change) {
   } else if (&control == picture_) {
     pictureBoxChanged(change);
   } else if (TextLayer* layer = textLayerOf(control)) {
-    if (change == forms::Change::Text || change == forms::Change::Font) layer->mask.reset();
-    const base::PixelRect place = shownPlace(control);
-    invalidate(layer->was.united(place));
-    layer->was = place;
+    invalidate(layer->labelChanged(change));
   }
 }
 
@@ -266,9 +241,9 @@ base::Bitmap Stage::backgroundUnder(const base::PixelRect& area) {
   return copy;
 }
 
-forms::Control* Stage::controlAt(base::PixelPoint place) const {
+const forms::Control* Stage::controlAt(base::PixelPoint place) const {
   for (auto it = texts_.rbegin(); it != texts_.rend(); ++it) {
-    if (shownPlace(*(*it)->label).contains(place)) return (*it)->label;
+    if (shownPlace(it->label()).contains(place)) return &it->label();
   }
   if (picture_ && shownPlace(*picture_).contains(place)) return picture_;
   return nullptr;

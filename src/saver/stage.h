@@ -2,7 +2,6 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <span>
 #include <vector>
 
@@ -12,6 +11,7 @@
 #include "forms/texts.h"
 #include "os/text_renderer.h"
 #include "saver/stage_window.h"
+#include "saver/text_layer.h"
 
 namespace saver {
 
@@ -38,7 +38,7 @@ class Stage : public forms::FormHost {
   base::Bitmap backgroundUnder(const base::PixelRect& area);
 
   // The topmost visible control of the show at a place, or null over the bare background.
-  forms::Control* controlAt(base::PixelPoint place) const;
+  const forms::Control* controlAt(base::PixelPoint place) const;
 
   // A control of the show has come to another place, appeared or gone; called by the flush() that shows it.
   std::function<void()> onPlacesChanged;
@@ -49,8 +49,6 @@ class Stage : public forms::FormHost {
   int twipsPerPixel() const override { return twipsPerPixel_; }
 
  private:
-  struct TextLayer;
-
   void invalidate(const base::PixelRect& area);
   void compose(const base::PixelRect& area);
   void composeBackground(const base::BitmapView& target, const base::PixelRect& area) const;
@@ -73,7 +71,7 @@ class Stage : public forms::FormHost {
   forms::Form* form_ = nullptr;
   forms::PictureBox* background_ = nullptr;
   forms::PictureBox* picture_ = nullptr;
-  std::vector<std::unique_ptr<TextLayer>> texts_;
+  std::vector<TextLayer> texts_;
   base::SharedBitmap backgroundPixels_;
   base::SharedBitmap assigned_;         // the picture box's assigned picture, as far as it shows
   base::SharedBitmap transitionTo_;     // the picture that was painted on the box last, and

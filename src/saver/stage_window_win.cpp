@@ -16,8 +16,13 @@ constexpr const wchar_t* kClassName = L"WindowsScreenSaverClass";
 StageWindowWin::StageWindowWin(os::EventLoop& loop) : loop_(loop) {
   // A device context of its own, so that a frame of a transition need not ask for one anew.
   os::RegisterWindowClass(kClassName, Procedure, CS_OWNDC);
-  window_.reset(CreateWindowExW(WS_EX_TOPMOST | WS_EX_TOOLWINDOW, kClassName, L"Lumora Screen Saver",
-                                WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, GetModuleHandleW(nullptr), this));
+  // A window with an owner has no button on the taskbar. The style of a tool window would do that too, but
+  // some window managers give such windows no keys.
+  const HINSTANCE instance = GetModuleHandleW(nullptr);
+  owner_.reset(
+      CreateWindowExW(0, L"STATIC", nullptr, WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, instance, nullptr));
+  window_.reset(CreateWindowExW(WS_EX_TOPMOST, kClassName, L"Lumora Screen Saver", WS_POPUP, 0, 0, 0, 0,
+                                owner_.get(), nullptr, instance, this));
 }
 
 StageWindowWin::~StageWindowWin() { close(); }
@@ -38,6 +43,7 @@ void StageWindowWin::activate() {
 void StageWindowWin::close() {
   if (window_) os::LeaveWindow(window_.get());
   window_.reset();
+  owner_.reset();
 }
 
 base::BitmapView StageWindowWin::backBuffer() {

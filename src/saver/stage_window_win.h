@@ -30,6 +30,7 @@ class StageWindowWin : public StageWindow {
   void paint();
 
   os::EventLoop& loop_;
+  os::OwnedWindow owner_;  // never shown
   os::OwnedWindow window_;
   std::optional<os::Dib> back_;
   base::PixelSize size_;

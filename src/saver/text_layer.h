@@ -1,15 +1,40 @@
-// Lays a text mask over a picture in one colour.
+// A label of the show, drawn over everything that lies behind it.
 #pragma once
+
+#include <optional>
 
 #include "base/bitmap.h"
 #include "base/color.h"
+#include "forms/texts.h"
 #include "os/text_renderer.h"
 
 namespace saver {
 
-// Blends `color` through the mask, whose top-left corner is at `origin`, over the pixels of `clip`. The
+class TextLayer {
+ public:
+  TextLayer(const forms::Label& label, os::TextRenderer& text) : label_(label), text_(text) {}
+
+  const forms::Label& label() const { return label_; }
+
+  // Takes note of what has changed of the label. Gives the area of the window that is to be composed anew.
+  base::PixelRect labelChanged(forms::Change change);
+
+  // Lays the label over `area` of the target. Its text is drawn once for any number of areas.
+  void compose(const base::BitmapView& target, const base::PixelRect& area);
+
+ private:
+  base::PixelRect inkPlace();
+
+  const forms::Label& label_;
+  os::TextRenderer& text_;
+  std::optional<int> overhang_;  // of the present font
+  std::optional<os::TextMask> mask_;
+  base::PixelRect was_;  // where the label's ink was composed last; empty while hidden
+};
+
+// Blends `color` through the mask, whose top left corner is at `corner`, over the pixels of `clip`. The
 // target is opaque and stays so.
-void BlendText(const base::BitmapView& target, base::PixelPoint origin, const os::TextMask& mask,
+void BlendText(const base::BitmapView& target, base::PixelPoint corner, const os::TextMask& mask,
                base::PackedColor color, const base::PixelRect& clip);
 
 }  // namespace saver

@@ -130,6 +130,83 @@ TEST(PictureCycle, RandomOrderDrawsWithNoMemory) {
   for (const auto& [path, count] : shown) EXPECT_GT(count, 90) << path;
 }
 
+TEST(PictureCycle, RandomOrderIsForTheNumberOneHoweverWritten) {
+  const auto firstTen = [](const char* text) {
+    ShowStage show;
+    for (int i = 0; i < 40; ++i) show.addPicture({10, 10}, kRed);
+    show.set("image/randomPick", text);
+    show.start();
+    show.runFor(500 + 9 * 1310);
+    return show.pictures.opened;
+  };
+  std::vector<std::string> inOrder;
+  for (int i = 0; i < 10; ++i) inOrder.push_back("C:\\pictures\\" + std::to_string(i) + ".jpg");
+  for (const char* text : {"0", "2", "-1", "0.5", "random"}) EXPECT_EQ(firstTen(text), inOrder) << text;
+  for (const char* text : {"1", "1.0", " 1", "1e0"}) EXPECT_NE(firstTen(text), inOrder) << text;
+}
+
+TEST(PictureCycle, AnIntervalIsRoundedToWholeMillisecondsWithHalvesToTheEvenOne) {
+  const auto interval = [](const char* seconds) {
+    ShowStage show;
+    AddThree(show);
+    show.set("image/timeInterval", seconds);
+    show.start();
+    show.runFor(501);
+    return show.form->ImageChangeTimer.interval();
+  };
+  EXPECT_EQ(interval("0.1875"), 188);
+  EXPECT_EQ(interval("0.3125"), 312);
+  EXPECT_EQ(interval("2.0006"), 2001);
+  EXPECT_EQ(interval("2.0004"), 2000);
+}
+
+TEST(PictureCycle, ANewPictureComesOverTheBackgroundOfItsOwnPlace) {
+  // Each pixel of the background has a colour of its own, so that any other part of it is seen.
+  ShowStage show({320, 240});
+  base::Bitmap ground({320, 240});
+  for (int y = 0; y < 240; ++y) {
+    for (int x = 0; x < 320; ++x)
+      ground.row(y)[x] = base::OpaquePixel(base::Rgb(x % 251, y, (x * 7 + y) % 256));
+  }
+  show.pictures.add("C:\\ground.bmp", ground);
+  show.set("background/backEffect", "2");
+  show.set("background/backgroundDisplay", "2");
+  show.set("background/backgroundImage", "C:\\ground.bmp");
+  show.set("transitions/bLeftWipe", "1");
+  show.set("extras/transitionTime", "1000");
+  show.addPicture({200, 60}, kRed);
+  show.addPicture({60, 200}, kRed);
+  show.start();
+  // The first picture stands from 1500 ms on; the second begins to come at 3800 ms, after retreat and pause.
+  base::Bitmap seen;
+  base::PixelRect place;
+  show.loop.postAfter(3850, [&] {
+    seen = show.window.screen;
+    place = show.form->DisplayingPicture.pixelRect();
+  });
+  show.runFor(3850);
+  ASSERT_EQ(place, (base::PixelRect{130, 20, 60, 200}));
+  EXPECT_EQ(seen.at(130, 100), kRedPixel) << "it has begun";
+  for (int y = 0; y < 240; ++y) {
+    for (int x = 140; x < 320; ++x) ASSERT_EQ(seen.at(x, y), ground.at(x, y)) << x << ' ' << y;
+  }
+}
+
+TEST(PictureCycle, AMissingPicturesTurnIsNotHeldByAnEffectThatNobodySees) {
+  ShowStage show;
+  AddThree(show);
+  for (int i = 0; i < 3; ++i) show.set("images/" + std::to_string(i), "C:\\gone.jpg");
+  show.set("transitions/bFade", "1");
+  show.set("extras/transitionTime", "5000");
+  const std::int64_t begin = show.clock.tickMs();
+  show.start();
+  show.runFor(500);
+  EXPECT_EQ(show.clock.tickMs() - begin, 500) << "the first turn took no time";
+  show.runFor(1000);
+  EXPECT_EQ(show.pictures.opened.size(), 2U);
+  EXPECT_LT(show.clock.tickMs() - begin, 1500 + 350) << "the second took no more than the pause";
+}
+
 TEST(PictureCycle, TwoDrawsWithinOneTickOfTheClockDiffer) {
   ShowStage show;
   for (int i = 0; i < 200; ++i) show.addPicture({10, 10}, kRed);

@@ -99,6 +99,43 @@ TEST(Caption, TextThatIsNoNumberEndsTheShowForEachKeyThatNeedsOne) {
   }
 }
 
+TEST(Caption, WithoutTextKeepsTheWidthThatEveryCaptionIsGiven) {
+  ShowStage show;
+  show.addPicture({100, 80}, kRed, "");
+  show.start();
+  show.runFor(600);
+  EXPECT_FLOAT_EQ(show.form->Label1.width(), 200);
+  EXPECT_TRUE(show.form->Label1.visible());
+}
+
+base::Font CaptionFont(const char* key, const char* value) {
+  ShowStage show;
+  show.set(std::string("font/") + key, value);
+  show.start();
+  return show.form->Label1.font();
+}
+
+TEST(Caption, TakesEachPropertyOfItsFontFromItsOwnSetting) {
+  const base::Font plain{.name = "Arial", .sizePoints = 10};
+  EXPECT_EQ(CaptionFont("scroll", "1"), plain);
+  EXPECT_EQ(CaptionFont("newFontName", "Georgia"), (base::Font{.name = "Georgia", .sizePoints = 10}));
+  EXPECT_EQ(CaptionFont("newFontSize", "12.75"), (base::Font{.name = "Arial", .sizePoints = 12.75F}));
+  for (const char* yes : {"True", "true", "-1", "1"}) {
+    EXPECT_EQ(CaptionFont("newFontBold", yes), (base::Font{.name = "Arial", .sizePoints = 10, .bold = true}));
+    EXPECT_EQ(CaptionFont("newFontItalic", yes),
+              (base::Font{.name = "Arial", .sizePoints = 10, .italic = true}));
+    EXPECT_EQ(CaptionFont("newFontUnderline", yes),
+              (base::Font{.name = "Arial", .sizePoints = 10, .underline = true}));
+    EXPECT_EQ(CaptionFont("newFontFontStrikethru", yes),
+              (base::Font{.name = "Arial", .sizePoints = 10, .strikethrough = true}));
+  }
+}
+
+TEST(Caption, AFontPropertyOfATextThatStandsForNoneStaysAsItWas) {
+  EXPECT_FALSE(CaptionFont("newFontBold", "perhaps").bold);
+  EXPECT_EQ(CaptionFont("newFontSize", "large").sizePoints, base::Font{}.sizePoints);
+}
+
 TEST(Floating, DriftsOnePixelATickAtItsSpeedAndKeepsItsDirectionAcrossAChange) {
   ShowStage show;
   show.addPicture({100, 80}, kRed);
@@ -156,6 +193,94 @@ TEST(Floating, ASpeedThatIsNoneOfTheTableLeavesAHundredMilliseconds) {
   }
 }
 
+TEST(Floating, ALaterChangeBeginsWithOneMoreMove) {
+  ShowStage show;
+  show.addPicture({100, 80}, kRed);
+  show.addPicture({100, 80}, kRed);
+  show.set("image/picRandom", "rand");
+  show.set("image/picSpeed", "2");
+  show.set("image/timeInterval", "1.05");  // half way between two moves
+  show.start();
+  show.runFor(500 + 1049);
+  const float left = show.form->DisplayingPicture.left();
+  float retiring = 0;
+  show.loop.postAfter(100, [&] { retiring = show.form->DisplayingPicture.left(); });
+  show.runFor(101);
+  EXPECT_FLOAT_EQ(std::abs(retiring - left), 15);
+}
+
+TEST(Floating, IsForEveryTextButCentInItsOwnLetters) {
+  for (const char* text : {"Cent", "CENT", "rand", "centre", "0"}) {
+    ShowStage show;
+    show.addPicture({100, 80}, kRed);
+    show.set("image/picRandom", text);
+    show.start();
+    show.runFor(600);
+    EXPECT_TRUE(show.form->FloatTimer.enabled()) << text;
+  }
+}
+
+// What a picture is that gives the box no width, or hardly any.
+struct Slip {
+  const char* what;
+  base::PixelSize size;
+  const char* percent;
+};
+
+class FloatingWithoutAPicture : public testing::TestWithParam<Slip> {};
+
+TEST_P(FloatingWithoutAPicture, NeverEndsTheShow) {
+  for (const int dpi : {96, 120}) {
+    ShowStage show({1024, 768}, dpi);
+    if (GetParam().size.isEmpty()) {
+      show.set("images/0", "C:\\gone.jpg");
+      show.set("total/total", "1");
+    } else {
+      show.addPicture(GetParam().size, kRed);
+    }
+    show.set("image/picturePercent", GetParam().percent);
+    show.set("image/picRandom", "rand");
+    show.set("image/picSpeed", "5");
+    show.start();
+    show.runFor(500);
+    const float left = show.form->DisplayingPicture.left();
+    show.runFor(100);
+    EXPECT_FLOAT_EQ(std::abs(show.form->DisplayingPicture.left() - left), dpi == 96 ? 150.0F : 120.0F);
+    show.runFor(10000);
+    EXPECT_EQ(show.errors, std::vector<std::string>{}) << GetParam().what;
+    EXPECT_FALSE(show.form->isOver());
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    EachKind, FloatingWithoutAPicture,
+    testing::Values(Slip{"a missing file", {}, "90"}, Slip{"a file missing at no size", {}, "0"},
+                    Slip{"a line upright", {1, 5000}, "90"}, Slip{"a line lying", {5000, 1}, "90"},
+                    Slip{"a dot", {1, 1}, "90"}, Slip{"no share of the screen", {300, 200}, "0"},
+                    Slip{"no share of the screen, upright", {200, 300}, "0"},
+                    Slip{"less than none", {300, 200}, "-10"}),
+    [](const auto& slip) {
+      std::string name = slip.param.what;
+      std::erase_if(name, [](char c) { return std::isalnum(static_cast<unsigned char>(c)) == 0; });
+      return name;
+    });
+
+TEST(Floating, APictureAfterAMissingOneStandsInTheMiddleOfNothingAndDrifts) {
+  ShowStage show;
+  show.addPicture({100, 80}, kRed);
+  show.addPicture({100, 80}, kRed);
+  show.set("images/0", "C:\\gone.jpg");
+  show.set("image/picRandom", "rand");
+  show.set("image/picSpeed", "5");
+  show.start();
+  show.runFor(500 + 1000 + 400);
+  const base::PixelRect place = show.form->DisplayingPicture.pixelRect();
+  EXPECT_EQ(place.size(), (base::PixelSize{100, 80}));
+  EXPECT_TRUE(show.errors.empty());
+  show.runFor(200);
+  EXPECT_NE(show.form->DisplayingPicture.pixelRect(), place);
+}
+
 TEST(Floating, ACentredPictureNeverFloats) {
   ShowStage show;
   show.addPicture({100, 80}, kRed);
@@ -209,6 +334,32 @@ TEST(Clock, RepaintsOnlyWhenItsTextChanges) {
   show.window.presented.clear();
   show.runFor(5000);
   EXPECT_EQ(show.window.presented.size(), 5U);
+}
+
+TEST(Clock, IsSetInItsOwnFontAndTheCaptionsColour) {
+  ShowStage show;
+  show.set("image/timeDisplay", "1");
+  show.set("font/newFontForeColor", "255");
+  show.set("font/newFontName", "Georgia");
+  show.start();
+  show.runFor(100);
+  EXPECT_EQ(show.form->time.font(), (base::Font{.name = "MS Sans Serif", .sizePoints = 13.5F}));
+  EXPECT_EQ(show.form->time.foreColor(), kRed);
+  const base::PixelRect place = show.form->time.pixelRect();
+  EXPECT_EQ(show.screenAt(place.left, place.top), 0xFFFF0000U);
+}
+
+TEST(Clock, IsOffForEveryNumberButOneAndTwo) {
+  for (const char* number : {"3", "-1", "0.4", "1000"}) {
+    ShowStage show;
+    show.set("image/timeDisplay", number);
+    show.start();
+    show.runFor(2000);
+    EXPECT_FALSE(show.form->time.visible()) << number;
+    EXPECT_FALSE(show.form->timeTimer.enabled()) << number;
+    EXPECT_FLOAT_EQ(show.form->time.width(), 0) << number;
+    EXPECT_TRUE(show.errors.empty()) << number;
+  }
 }
 
 TEST(Clock, OffMeansInvisibleWithoutSizeAndNothingUpdated) {

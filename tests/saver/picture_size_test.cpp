@@ -56,6 +56,24 @@ TEST(PictureSize, OfASquareIsTestedByItsWidth) {
   EXPECT_EQ(Shown({768, 1024}, {900, 900}), (Pixels{760, 760}));
 }
 
+TEST(PictureSize, IsNeverLessThanAPixelOnASide) {
+  const PictureLimit limit{15000, 9000};
+  EXPECT_EQ(ScalePictureSize(limit, {.width = 15, .height = 75000, .pixelTwips = 15}), (ShownSize{15, 9000}));
+  EXPECT_EQ(ScalePictureSize(limit, {.width = 75000, .height = 15, .pixelTwips = 15}),
+            (ShownSize{15000, 15}));
+  for (const int nothing : {0, -100}) {
+    const PictureLimit none{nothing, nothing};
+    EXPECT_EQ(ScalePictureSize(none, {.width = 3000, .height = 1500, .pixelTwips = 12}), (ShownSize{12, 12}));
+    EXPECT_EQ(ScalePictureSize(none, {.width = 15, .height = 30, .pixelTwips = 15}), (ShownSize{15, 15}));
+  }
+}
+
+TEST(PictureSize, OfNoPictureIsNothingWhateverTheLimit) {
+  for (const int limit : {-5, 0, 1, 15000}) {
+    EXPECT_EQ(ScalePictureSize({limit, limit}, {.pixelTwips = 15}), ShownSize{});
+  }
+}
+
 TEST(PictureSize, EqualToTheLimitIsRedrawnAtTheSameSize) {
   const PictureLimit limit{15000, 9000};
   EXPECT_EQ(ScalePictureSize(limit, {15000, 6000}), (ShownSize{15000, 6000}));

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 #include "support/fake_stage_window.h"
@@ -268,6 +269,45 @@ TEST_F(StageTest, ThePaintedTextStandsOverThePictureInItsColour) {
   EXPECT_EQ(screenAt(0, 0), 0xFFFFFFFFU);
   EXPECT_EQ(screenAt(5, 0), kRed) << "the gap between letters is transparent";
   EXPECT_EQ(screenAt(0, 12), kRed) << "below the text";
+}
+
+TEST_F(StageTest, LettersThatReachBeyondTheirLabelAreShownWholeAndLeaveNothingBehind) {
+  text.reach = 3;
+  label.setAutoSize(true);
+  label.setCaption("jQ");
+  label.setVisible(true);
+  for (int x = 0; x < 30; ++x) {
+    label.setLeft(static_cast<float>(x * 15));
+    if (x % 7 == 6) label.setCaption(x % 2 == 0 ? "jQ" : "j");
+    stage.flush();
+    const base::PixelRect place = label.pixelRect();
+    EXPECT_EQ(screenAt(std::max(place.left - 3, 0), 5), 0xFFFFFFFFU);
+    EXPECT_EQ(screenAt(std::min(place.right() + 2, 39), 5), 0xFFFFFFFFU);
+    const base::Bitmap shown = window.screen;
+    stage.invalidateAll();
+    stage.flush();
+    ASSERT_EQ(shown, window.screen) << x;
+  }
+  label.setVisible(false);
+  stage.flush();
+  EXPECT_EQ(window.screen, base::Bitmap({40, 30}, kBlackPixel));
+}
+
+TEST(BlendText, TakesTheCoverageOfTheGroundUnderEachComponent) {
+  const os::TextMask mask{{3, 1}, 0, {{0, 0}, {255, 255}, {100, 40}}};
+  const auto blended = [&](base::PackedColor ink, base::PackedColor ground) {
+    base::Bitmap target({3, 1}, base::OpaquePixel(ground));
+    saver::BlendText(target.view(), {0, 0}, mask, ink, {0, 0, 3, 1});
+    return target;
+  };
+  const base::Bitmap light = blended(base::kWhite, base::kBlack);
+  EXPECT_EQ(light.at(0, 0), kBlackPixel);
+  EXPECT_EQ(light.at(1, 0), 0xFFFFFFFFU);
+  EXPECT_EQ(light.at(2, 0), base::OpaquePixel(base::Rgb(100, 100, 100)));
+  const base::Bitmap dark = blended(base::kBlack, base::kWhite);
+  EXPECT_EQ(dark.at(2, 0), base::OpaquePixel(base::Rgb(215, 215, 215)));
+  const base::Bitmap both = blended(base::Rgb(255, 0, 0), base::Rgb(0, 0, 255));
+  EXPECT_EQ(both.at(2, 0), base::OpaquePixel(base::Rgb(100, 0, 215)));
 }
 
 TEST_F(StageTest, AnUnchangedTextIsDrawnOnceHoweverOftenItMoves) {

@@ -84,6 +84,8 @@ class MonkeyShow {
                         OneOf(random_, kCaptions));
       const std::string path = "C:\\pictures\\" + std::to_string(i) + ".jpg";
       if (Draw(random_, 0, 9) == 0) stage_.pictures.addBroken(path, DrawSize(random_, kMostPicture));
+      if (Draw(random_, 0, 9) == 0) stage_.set("images/" + std::to_string(i), "C:\\gone.jpg");
+      if (Draw(random_, 0, 9) == 0) stage_.pictures.add(path, {1, 5000}, base::Rgb(1, 2, 3));
     }
     lastIndex_ = std::max(0, count - 1);
   }
@@ -94,7 +96,7 @@ class MonkeyShow {
     static constexpr const char* kSpeed[] = {"0", "1", "2", "3", "4", "5", "6", "fast"};
     static constexpr const char* kSeconds[] = {"0", "0.2", "1", "3", "7"};
     static constexpr const char* kPlace[] = {"cent", "rand"};
-    static constexpr const char* kPercent[] = {"1", "30", "60", "90", "99"};
+    static constexpr const char* kPercent[] = {"0", "1", "30", "60", "90", "99"};
     static constexpr const char* kDisplay[] = {"0", "1", "2"};
     static constexpr const char* kBackground[] = {"0", "1", "2", "3", "7", "none"};
     static constexpr const char* kScrollSpeed[] = {"0", "150", "1000", "-40"};
@@ -109,6 +111,7 @@ class MonkeyShow {
     choose("font/scroll", kFlag);
     choose("font/scrollSpeed", kScrollSpeed);
     choose("extras/transitionTime", kTime);
+    stage_.set("extras/log", "1");  // in which a run-time error is to be read
     // Now and then an effect outlasts the hold of the picture's timer.
     if (Draw(random_, 0, 29) == 0) stage_.set("extras/transitionTime", "65000");
     stage_.set("image/mouseSensitivity", std::to_string(Draw(random_, 1, 30)));
@@ -200,7 +203,17 @@ class MonkeyShow {
     EXPECT_EQ(stage_.pictures.opened.size(), opened);
   }
 
+  // Whatever files there are and whatever happens, good settings give a show that only its user ends.
+  void checkErrors() const {
+    if (!settingsAreGood_) return;
+    const auto log =
+        stage_.files.content.find(std::string(support::ShowStage::programFolder()) + "\\lumora.log");
+    if (log == stage_.files.content.end()) return;
+    EXPECT_EQ(log->second.find("ended by an error"), std::string::npos) << log->second;
+  }
+
   void checkEnd() {
+    checkErrors();
     EXPECT_TRUE(stage_.loop.isQuitting());
     EXPECT_TRUE(stage_.window.closed);
     EXPECT_TRUE(machine_.desktop.taskbarVisible);

@@ -14,18 +14,26 @@ class FakeTextRenderer : public os::TextRenderer {
             static_cast<int>(std::lround(font.sizePoints * 1.2F))};
   }
 
+  int overhang(const base::Font&) override { return reach; }
+
   os::TextMask draw(const base::Font& font, const std::string& text) override {
-    os::TextMask mask{measure(font, text), {}};
+    const base::PixelSize size = measure(font, text);
+    os::TextMask mask{{size.width + 2 * reach, size.height}, reach, {}};
     const int cell = widthOf(font);
     for (int y = 0; y < mask.size.height; ++y) {
-      for (int x = 0; x < mask.size.width; ++x) {
-        const bool inked = x % cell != cell - 1 && text[static_cast<std::size_t>(x / cell)] != ' ';
-        mask.coverage.push_back(inked ? 255 : 0);
+      for (int x = -reach; x < size.width + reach; ++x) {
+        const bool beyond = x < 0 || x >= size.width;
+        const bool inked =
+            beyond || (x % cell != cell - 1 && text[static_cast<std::size_t>(x / cell)] != ' ');
+        const auto part = static_cast<std::uint8_t>(inked ? 255 : 0);
+        mask.coverage.push_back({part, part});
       }
     }
     ++drawn;
     return mask;
   }
+
+  int reach = 0;  // pixels that are inked beyond either end of every text
 
   int drawn = 0;  // how often text was drawn
 

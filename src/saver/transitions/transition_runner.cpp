@@ -16,15 +16,16 @@ constexpr int kFramesPerSecond = 60;
 constexpr int kShortestTimeMs = 100;
 constexpr int kLongestTimeMs = 5000;
 
+// The pixels that a box and a picture have in common.
+base::PixelRect Common(const forms::PictureBox& box, const base::Bitmap& source) {
+  return base::PixelRect::ofSize(source.size()).intersected(base::PixelRect::ofSize(box.pixelRect().size()));
+}
+
 // One picture on its way onto a box.
 class Canvas {
  public:
   Canvas(const TransitionPlan& plan, forms::PictureBox& box, const base::SharedBitmap& source)
-      : plan_(plan),
-        box_(box),
-        source_(source),
-        bounds_(base::PixelRect::ofSize(source->size())
-                    .intersected(base::PixelRect::ofSize(box.pixelRect().size()))) {}
+      : plan_(plan), box_(box), source_(source), bounds_(Common(box, *source)) {}
 
   // The step as it stands, every rectangle whole.
   void drawWhole(int step) {
@@ -78,6 +79,21 @@ class Canvas {
   std::vector<base::PixelRect> covered_;  // rectangles of the last of them
 };
 
+// An effect of which nobody would see a step.
+bool PaintsNothing(const TransitionPlan& plan, const base::PixelRect& bounds) {
+  const auto isUnseen = [&](int step) {
+    return std::ranges::all_of(plan.rectsOfStep(step), [&](const base::PixelRect& rect) {
+      return rect.intersected(bounds).isEmpty();
+    });
+  };
+  if (plan.stepCount == 0) return true;
+  if (plan.growth == Growth::Covering) return isUnseen(plan.stepCount - 1);
+  for (int step = 0; step < plan.stepCount; ++step) {
+    if (!isUnseen(step)) return false;
+  }
+  return true;
+}
+
 // The first moment of the frame grid that lies after `elapsedMs`.
 std::int64_t NextFrameMs(std::int64_t elapsedMs) {
   const std::int64_t frame = elapsedMs * kFramesPerSecond / 1000 + 1;
@@ -101,6 +117,7 @@ TransitionRunner::TransitionRunner(const os::Clock& clock, os::EventLoop& loop, 
 bool TransitionRunner::run(const TransitionPlan& plan, forms::PictureBox& destination,
                            const base::SharedBitmap& source, std::optional<int> transitionTimeMs) {
   if (hasEnded()) return false;
+  if (PaintsNothing(plan, Common(destination, *source))) return true;
   if (transitionTimeMs) return runPaced(plan, destination, source, *transitionTimeMs);
   return runTight(plan, destination, source);
 }

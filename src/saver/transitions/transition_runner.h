@@ -26,8 +26,8 @@ class TransitionRunner {
   TransitionRunner(const os::Clock& clock, os::EventLoop& loop, std::function<bool()> isOver);
 
   // Draws from `source` (not null), where every pixel goes to its own place in the box; rectangles are cut to
-  // both. With a time the steps are paced over it, without one they follow each other as fast as they can be
-  // drawn. False when the show ended on the way.
+  // both; an effect of which nothing can be seen takes no time. With a time the steps are paced over it,
+  // without one they follow each other as fast as they can be drawn. False when the show ended on the way.
   bool run(const TransitionPlan& plan, forms::PictureBox& destination, const base::SharedBitmap& source,
            std::optional<int> transitionTimeMs);
 

@@ -252,6 +252,33 @@ TEST_F(TransitionRunnerTest, CutsItsRectanglesToTheSmallerOfPictureAndBox) {
   EXPECT_EQ(scene.pixelsDrawn(), 30 * 20);
 }
 
+TEST_F(TransitionRunnerTest, AnEffectThatPaintsNothingTakesNoTime) {
+  support::TransitionScene scene({60, 48});
+  const TransitionPlan nothing[] = {
+      {Growth::Covering, 0, [](int) { return std::vector<PixelRect>{}; }},
+      {Growth::Covering, 5,
+       [](int) {
+         return std::vector<PixelRect>{{0, 0, 0, 48}};
+       }},
+      {Growth::Covering, 5,
+       [](int) {
+         return std::vector<PixelRect>{{60, 0, 60, 48}};
+       }},
+      {Growth::Accumulating, 9,
+       [](int step) {
+         return std::vector<PixelRect>{{step, step, 0, 0}};
+       }},
+  };
+  const std::int64_t start = clock.tickMs();
+  for (const TransitionPlan& plan : nothing) EXPECT_TRUE(run(scene, plan, 5000));
+  EXPECT_EQ(clock.tickMs(), start);
+  const TransitionPlan late{Growth::Accumulating, 9, [](int step) {
+                              return std::vector<PixelRect>{{0, 0, step == 8 ? 1 : 0, 1}};
+                            }};
+  EXPECT_TRUE(run(scene, late, 5000));
+  EXPECT_EQ(clock.tickMs(), start + 5000) << "one pixel is seen";
+}
+
 TEST(RectDifference, IsWhatTheHoleLeaves) {
   const PixelRect whole{10, 10, 10, 10};
   EXPECT_EQ(base::Difference(whole, {0, 0, 5, 5}), (std::vector{whole}));
