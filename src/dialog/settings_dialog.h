@@ -1,6 +1,7 @@
 // The settings dialog with everything that its buttons and menus lead to.
 #pragma once
 
+#include <exception>
 #include <string>
 
 #include "auxwin/frm_about.h"
@@ -46,10 +47,12 @@ class SettingsDialog {
   void save();
   void openViewer();
   void closed();
+  void tellError(const std::exception& error);
 
   DialogServices services_;
   os::EventLoop& loop_;
   os::Shell& shell_;
+  bool telling_ = false;  // of an error
 };
 
 }  // namespace dialog

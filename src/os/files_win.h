@@ -20,4 +20,7 @@ class FilesWin : public Files {
   std::string shortPath(const std::string& path) override;
 };
 
+// True for a file that is marked read-only, which can therefore not be replaced.
+bool IsReadOnlyFile(const std::string& path);
+
 }  // namespace os
