@@ -28,7 +28,7 @@ MultiFiles::MultiFiles(PictureTarget target, os::Files& disk, forms::Dialogs& di
       dialogs_(dialogs),
       windows_(windows) {
   layOut();
-  filFilenames.setPattern("*.bmp;*.gif;*.dib;*.jpeg;*.jpg");
+  filFilenames.setPattern(kImportedPatterns);
   onLoad = [this] { Form_Load(); };
   drvDrives.onChange = [this] { drvDrives_Change(); };
   dirDirectories.onChange = [this] { dirDirectories_Change(); };

@@ -14,6 +14,9 @@
 
 namespace auxwin {
 
+// The files of a folder that are taken for pictures.
+inline constexpr char kImportedPatterns[] = "*.bmp;*.gif;*.dib;*.jpeg;*.jpg";
+
 // Shown modally. The lists start on the current drive and folder.
 class MultiFiles : public forms::Form {
  public:

@@ -19,9 +19,9 @@ void BackgroundImage::addBackImg_Click() {
   if (!path) return;
   form_.record.backgroundImage = *path;
   form_.backgroundImageFile.setText(*path);
-  // A picture that cannot be loaded is reported when the dialog is opened again.
-  const pictures::SharedPicture file = services_.pictures.open(*path);
-  form_.Image1.setPicture(file);
+  const bool loads = form_.drawBackgroundPreview(*path) != nullptr;
+  form_.Image1.setPicture(loads ? services_.pictures.open(*path) : nullptr);
+  if (!loads) services_.dialogs.messageBox(kCouldNotLoadBackground, forms::kExclamation);
 }
 
 void BackgroundImage::removeBackImg_Click() {

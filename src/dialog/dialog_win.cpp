@@ -5,7 +5,12 @@
 #include <utility>
 
 #include "forms/surface_win.h"
+<<<<<<< HEAD
 #include "os/program_resources_win.h"
+=======
+#include "os/files_win.h"
+#include "os/program_icon_win.h"
+>>>>>>> settings
 
 namespace dialog {
 
@@ -26,8 +31,8 @@ SettingsDialogWin::SettingsDialogWin(const DialogMachineWin& machine, const std:
     : loop_(machine.loop),
       windows_(loop_),
       dialogs_([this] { return windows_.activeWindow(); }),
-      dialog_({machine.files, machine.ansi, machine.pictures, dialogs_, windows_}, loop_, *shell_,
-              programFolder, ProductIcon()),
+      dialog_({machine.files, machine.ansi, machine.pictures, dialogs_, windows_, os::IsReadOnlyFile}, loop_,
+              *shell_, programFolder, ProductIcon()),
       filter_(loop_.addMessageFilter([this](MSG& message) { return windows_.filterMessage(message); })) {
   dialog_.show();
 }

@@ -1,6 +1,7 @@
 // The settings dialog.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "base/font.h"
@@ -28,6 +29,7 @@ struct DialogServices {
   pictures::PictureLoader& pictures;
   forms::Dialogs& dialogs;
   forms::WindowSystem& windows;
+  std::function<bool(const std::string& path)> isReadOnly = nullptr;  // without it no file is
 };
 
 // What the font dialog starts with.
@@ -192,8 +194,9 @@ class Form2 : public forms::Form {
   // False after a loading that ended at a failure.
   bool loadedWell() const { return loadedWell_; }
 
-  // The settings file as the loading found it; empty when it found none.
+  // The settings file as the loading found it; empty when it found none. And what it read of it.
   const std::string& loadedFile() const { return loadedFile_; }
+  const settings::SettingsRecord& loaded() const { return loaded_; }
 
   const DialogServices& services() const { return services_; }
   const std::string& programFolder() const { return programFolder_; }
@@ -201,6 +204,14 @@ class Form2 : public forms::Form {
   // Loading.
   void Form_Load();
   void LoadBackgroundImagePreview(const settings::IniDocument& document);
+
+  // The background picture as small as its preview; null when it cannot be loaded.
+  base::SharedBitmap drawBackgroundPreview(const std::string& path) const;
+
+  // The second panel of the status bar: why a save cannot succeed, when it cannot; and that the list is
+  // longer than the show can use.
+  void setSavingNote(std::string note);
+  void showNotes();
 
   // What depends on a choice.
   void EnableSolidColorControls(bool enabled);
@@ -254,6 +265,8 @@ class Form2 : public forms::Form {
   std::string programFolder_;
   bool loadedWell_ = true;
   std::string loadedFile_;
+  settings::SettingsRecord loaded_;
+  std::string savingNote_;
 };
 
 }  // namespace dialog

@@ -19,6 +19,8 @@ namespace {
 
 using R = settings::SettingsRecord;
 
+constexpr int kBelieved = 1'000'000;
+
 std::vector<std::string> NumberedValues(const settings::IniDocument& document, std::string_view section,
                                         int count) {
   std::vector<std::string> values;
@@ -40,11 +42,13 @@ void Form2::Form_Load() {
     loadSettings(read);
     record = read;
     if (List1.listCount() > 0) List1.setListIndex(0);
-  } catch (const base::RunTimeError&) {
+  } catch (const std::exception&) {
     record = read;
     loadedWell_ = false;
     services_.dialogs.messageBox(kCouldNotLoad, forms::kExclamation);
   }
+  loaded_ = std::move(read);
+  showNotes();
 }
 
 void Form2::loadSettings(settings::SettingsRecord& read) {
@@ -62,10 +66,12 @@ void Form2::loadSettings(settings::SettingsRecord& read) {
   }
   loadPictureList(document, read);
   for (const OptionRow& row : OptionTable()) {
-    const std::string text = settings::ReadIniValue(document, settings::KeyOf(row.field));
+    const settings::Key& key = settings::KeyOf(row.field);
+    const std::string text = settings::ReadIniValue(document, key);
     read.*row.field = text;
     record.*row.field = text;
-    row.show(*this, text);
+    // A setting that an older file does not know has its default.
+    row.show(*this, text.empty() && settings::IsExtra(row.field) ? key.fallback : text);
   }
   LoadBackgroundImagePreview(document);
   read.backgroundImage = record.backgroundImage;
@@ -75,7 +81,10 @@ void Form2::loadPictureList(const settings::IniDocument& document, settings::Set
   read.total = settings::ReadIniValue(document, settings::kTotalKey);
   List1.clear();
   const int total = base::StrictInt32(read.total);
-  if (total > std::numeric_limits<std::int16_t>::max()) throw base::Overflow();
+  // A count that nothing in the file bears out is not believed at any price.
+  if (total > kBelieved && static_cast<std::size_t>(total) > document.keysIn(settings::kImagesSection)) {
+    throw base::Overflow();
+  }
   List1.setItems(NumberedValues(document, settings::kImagesSection, total));
   photo_caption.setItems(NumberedValues(document, settings::kCaptionSection, total));
   Text3.setText("Total: " + base::NumberText(std::int32_t{List1.listCount()}));
@@ -85,15 +94,36 @@ void Form2::LoadBackgroundImagePreview(const settings::IniDocument& document) {
   record.backgroundImage = settings::ReadIniValue(document, settings::KeyOf(&R::backgroundImage));
   if (record.backgroundImage.empty()) return;
   backgroundImageFile.setText(record.backgroundImage);
-  // Decoded once, at the size at which it is shown: a large photo stays cheap and a broken one is found now.
-  const pictures::SharedPicture file = services_.pictures.open(record.backgroundImage);
-  base::SharedBitmap drawn;
-  if (file) drawn = file->drawnAt(forms::FitInside(file->size(), Image1.pixelRect().size()));
+  base::SharedBitmap drawn = drawBackgroundPreview(record.backgroundImage);
   if (!drawn) {
     services_.dialogs.messageBox(kCouldNotLoadBackground, forms::kExclamation);
     return;
   }
   Image1.setPicture(pictures::MakePicture(std::move(drawn)));
+}
+
+// Decoded at the size at which it is shown: a large photo stays cheap, and a broken one is found.
+base::SharedBitmap Form2::drawBackgroundPreview(const std::string& path) const {
+  try {
+    const pictures::SharedPicture file = services_.pictures.open(path);
+    return file ? file->drawnAt(forms::FitInside(file->size(), Image1.pixelRect().size())) : nullptr;
+  } catch (const std::exception&) {  // such as for lack of memory
+    return nullptr;
+  }
+}
+
+void Form2::setSavingNote(std::string note) {
+  savingNote_ = std::move(note);
+  showNotes();
+}
+
+void Form2::showNotes() {
+  std::string notes = savingNote_;
+  if (List1.listCount() > std::numeric_limits<std::int16_t>::max()) {
+    if (!notes.empty()) notes += ' ';
+    notes += kMoreThanTheShowCanUse;
+  }
+  SS_StatusBar.setPanelText(2, notes);
 }
 
 }  // namespace dialog

@@ -27,5 +27,11 @@ inline constexpr char kNoBackgroundImage[] =
     "selection.";
 inline constexpr char kInvalidDate[] = "Countdown date is invalid. Please choose a different date.";
 inline constexpr char kFolderReadOnly[] = "Settings cannot be saved in this folder.";
+inline constexpr char kFileReadOnly[] = "Settings cannot be saved: zbfaone.ini is read-only.";
+inline constexpr char kMoreThanTheShowCanUse[] = "The show can use 32,767 pictures at most.";
+
+// What failed without a message of its own; the reason follows on the next line.
+inline constexpr char kCouldNotBeDone[] = "This could not be done.";
+inline constexpr char kNotEnoughMemory[] = "There is not enough memory.";
 
 }  // namespace dialog

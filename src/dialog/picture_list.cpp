@@ -2,15 +2,29 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <memory>
 #include <utility>
 
 #include "auxwin/image_view.h"
+#include "auxwin/multi_files.h"
 #include "base/number_text.h"
 #include "dialog/messages.h"
-#include "dialog/thumbnail.h"
+#include "forms/file_name.h"
+#include "forms/picture_boxes.h"
+#include "os/paths.h"
 #include "settings/settings_file.h"
 
 namespace dialog {
+
+base::SharedBitmap DrawThumbnail(const pictures::Picture& picture, base::PixelSize box) {
+  const base::PixelSize size = forms::FitInside(picture.size(), box);
+  const base::SharedBitmap drawn = picture.drawnAt(size);
+  if (!drawn) return nullptr;
+  auto thumbnail = std::make_shared<base::Bitmap>(box);
+  const base::PixelPoint corner{(box.width - size.width) / 2, (box.height - size.height) / 2};
+  base::CopyRect(thumbnail->view(), corner, *drawn, base::PixelRect::ofSize(size));
+  return thumbnail;
+}
 
 SelectionRest::SelectionRest(os::EventLoop& loop, std::function<void()> onRest)
     : timer_(loop, kRestMs), onRest_(std::move(onRest)) {
@@ -78,6 +92,16 @@ void PictureList::tellCannotLoad() {
 }
 
 bool PictureList::ShowPreview(const std::string& path) {
+  try {
+    return preview(path);
+  } catch (const std::exception&) {
+    form_.photo.setPicture(nullptr);
+    clearPreview();
+    return false;
+  }
+}
+
+bool PictureList::preview(const std::string& path) {
   if (form_.photo1.picture() && previewed_ == path) return true;
   const pictures::SharedPicture file = path.empty() ? nullptr : services_.pictures.open(path);
   form_.photo.setPicture(file);
@@ -99,6 +123,7 @@ void PictureList::clearPreview() {
 
 void PictureList::showTotal() {
   form_.Text3.setText("Total: " + base::NumberText(std::int32_t{form_.List1.listCount()}));
+  form_.showNotes();
 }
 
 // What the program selects is shown at once, however fast the user goes on.
@@ -109,8 +134,17 @@ void PictureList::select(int index) {
 }
 
 void PictureList::append(std::vector<std::string> paths) {
+  const int before = form_.List1.listCount();
   form_.photo_caption.addItems(std::vector<std::string>(paths.size()));
-  form_.List1.addItems(std::move(paths));
+  try {
+    form_.List1.addItems(std::move(paths));
+  } catch (...) {
+    // Both lists grow or neither does.
+    std::vector<std::string> captions = form_.photo_caption.items();
+    captions.resize(static_cast<std::size_t>(before));
+    form_.photo_caption.setItems(std::move(captions));
+    throw;
+  }
   select(form_.List1.listCount() - 1);
   showTotal();
   advice_.consider(form_.List1.listCount(), services_.dialogs);
@@ -121,29 +155,49 @@ void PictureList::add_Click() {
   if (const std::optional<std::string> path = paths_.ask()) append({*path});
 }
 
+// A name that says so is believed, as the add button believes it; any other file is looked into.
+bool PictureList::isPicture(const std::string& path) const {
+  return forms::MatchesPatterns(path, "*.bmp;*.gif;*.jpg;*.jpeg;*.jif;*.dib;*.png") ||
+         services_.pictures.open(path) != nullptr;
+}
+
+std::vector<std::string> PictureList::picturesOf(const std::string& dropped) const {
+  if (services_.files.exists(dropped)) {
+    return isPicture(dropped) ? std::vector{dropped} : std::vector<std::string>();
+  }
+  std::vector<std::string> pictures = services_.files.filesIn(dropped);
+  std::erase_if(pictures, [](const std::string& name) {
+    return !forms::MatchesPatterns(name, auxwin::kImportedPatterns);
+  });
+  forms::SortNames(pictures);
+  for (std::string& name : pictures) name = os::JoinPath(dropped, name);
+  return pictures;
+}
+
 void PictureList::userDropped(const std::vector<std::string>& paths) {
   std::vector<std::string> added;
   int leftOut = 0;
   for (const std::string& dropped : paths) {
-    if (!services_.files.exists(dropped)) continue;
-    if (std::optional<std::string> path = paths_.storable(dropped)) {
-      added.push_back(std::move(*path));
-    } else {
-      ++leftOut;
+    for (const std::string& picture : picturesOf(dropped)) {
+      if (std::optional<std::string> path = paths_.storable(picture)) {
+        added.push_back(std::move(*path));
+      } else {
+        ++leftOut;
+      }
     }
   }
   if (!added.empty()) append(std::move(added));
   paths_.tellLeftOut(leftOut);
 }
 
-bool PictureList::refusedWithoutSelection() {
-  if (!form_.List1.text().empty()) return false;
+bool PictureList::refused(bool nothingSelected) {
+  if (!nothingSelected) return false;
   services_.dialogs.messageBox(kNothingSelected, forms::kExclamation);
   return true;
 }
 
 void PictureList::remove_Click() {
-  if (refusedWithoutSelection()) return;
+  if (refused(form_.List1.text().empty())) return;
   const int index = form_.List1.listIndex();
   rest_.settle();
   form_.List1.removeItem(index);
@@ -176,8 +230,8 @@ void PictureList::up_Click() { swapWithNeighbour(-1); }
 void PictureList::down_Click() { swapWithNeighbour(+1); }
 
 void PictureList::swapWithNeighbour(int step) {
-  // The text that speaks of removing stands for moving as well.
-  if (refusedWithoutSelection()) return;
+  // The text that speaks of removing stands for moving as well. An entry without a path can be moved.
+  if (refused(form_.List1.listIndex() < 0)) return;
   const int index = form_.List1.listIndex();
   const int neighbour = index + step;
   if (neighbour < 0 || neighbour >= form_.List1.listCount()) return;

@@ -6,12 +6,19 @@
 #include <vector>
 
 #include "auxwin/picture_target.h"
+#include "base/bitmap.h"
 #include "dialog/form2.h"
 #include "dialog/picture_paths.h"
 #include "forms/timer.h"
 #include "os/event_loop.h"
+#include "pictures/picture.h"
 
 namespace dialog {
+
+// The whole picture in its proportions in the middle of a bitmap of `box` pixels that is transparent around
+// it. It is shrunk as far as needed and never enlarged; it is decoded at the size at which it is shown. Null
+// when it cannot be decoded.
+base::SharedBitmap DrawThumbnail(const pictures::Picture& picture, base::PixelSize box);
 
 // Whether a list's selection rests or is running over rows. While an arrow key is held down the selection
 // moves many times a second, faster than large photos can be decoded. What is shown of the selected row waits
@@ -53,8 +60,12 @@ class PictureList {
   void p_caption_Enter();
   void caption_clear_Click();
 
-  // Files were dropped on the list; they are added as the add button adds one, folders are not.
+  // Files and folders were dropped on the list. Pictures are added as the add button adds one, a folder's as
+  // the folder import adds them; other files are left out.
   void userDropped(const std::vector<std::string>& paths);
+
+  // The list was changed by somebody else.
+  void listChanged() { form_.showNotes(); }
 
   // Shows a picture file as a thumbnail in photo1; no path shows nothing. False when there is a path and its
   // picture cannot be loaded; photo1 is then empty.
@@ -67,7 +78,10 @@ class PictureList {
   void append(std::vector<std::string> paths);
   void select(int index);
   void swapWithNeighbour(int step);
-  bool refusedWithoutSelection();
+  bool refused(bool nothingSelected);
+  bool isPicture(const std::string& path) const;
+  std::vector<std::string> picturesOf(const std::string& dropped) const;
+  bool preview(const std::string& path);
   void selectionRested();
   void tellCannotLoad();
   void clearPreview();

@@ -6,6 +6,7 @@
 #include "base/calendar.h"
 #include "base/errors.h"
 #include "base/number_text.h"
+#include "dialog/kept_files.h"
 #include "dialog/messages.h"
 #include "os/paths.h"
 #include "settings/ini_document.h"
@@ -16,7 +17,18 @@ namespace dialog {
 namespace {
 
 constexpr double kCountdown = 2;
-constexpr int kFolderPanel = 2;
+
+// The wait's pointer, for as long as it lives.
+class Hourglass {
+ public:
+  explicit Hourglass(Form2& form) : form_(form) { form_.setMousePointer(forms::MousePointer::Hourglass); }
+  ~Hourglass() { form_.setMousePointer(forms::MousePointer::Default); }
+  Hourglass(const Hourglass&) = delete;
+  Hourglass& operator=(const Hourglass&) = delete;
+
+ private:
+  Form2& form_;
+};
 
 bool IsDateUsable(const settings::SettingsRecord& record) {
   try {
@@ -32,14 +44,20 @@ bool IsDateUsable(const settings::SettingsRecord& record) {
 
 // What speaks against saving; null when nothing does.
 const char* FaultOf(const Form2& form) {
-  if (form.List1.item(0).empty()) {
-    return kNoImages;
-  }
-  if (form.record.backEffect == "2" && form.record.backgroundImage.empty()) {
-    return kNoBackgroundImage;
-  }
+  if (form.List1.item(0).empty()) return kNoImages;
+  if (form.record.backEffect == "2" && form.record.backgroundImage.empty()) return kNoBackgroundImage;
   if (!IsDateUsable(form.record)) return kInvalidDate;
   return nullptr;
+}
+
+// What a failed loading did not read has its default.
+settings::SettingsRecord RecordToWrite(const Form2& form) {
+  settings::SettingsRecord record = form.record;
+  if (form.loadedWell()) return record;
+  for (const settings::Key& key : settings::kWrittenKeys) {
+    if ((record.*key.field).empty()) record.*key.field = key.fallback;
+  }
+  return record;
 }
 
 // A write that fails leaves the old file as it was.
@@ -53,33 +71,36 @@ void WriteFile(const Form2& form) {
   // that this dialog knows nothing of.
   const std::string& old = found ? *found : form.loadedFile();
   // What a failed loading did not read is not in the record and would be lost with the old file.
-  if (!old.empty() && !form.loadedWell() &&
-      !files.replace(os::JoinPath(form.programFolder(), "zbfaone.bak"), old)) {
-    return;
-  }
+  if (!old.empty() && !form.loadedWell() && !KeepOldFile(form, old)) return;
   settings::IniDocument document(old, form.services().ansi);
-  settings::WriteSettings(document, form.record, form.List1.items(), form.photo_caption.items());
+  settings::WriteSettings(document, RecordToWrite(form), form.List1.items(), form.photo_caption.items());
+  settings::WriteExtras(document, form.record, form.loaded());
   files.replace(path, document.serialise());
+}
+
+const char* CheckAndWrite(Form2& form) {
+  const Hourglass wait(form);
+  const char* const fault = FaultOf(form);
+  if (!fault) WriteFile(form);
+  return fault;
 }
 
 }  // namespace
 
 bool SaveSettings(Form2& form) {
-  form.setMousePointer(forms::MousePointer::Hourglass);
-  if (const char* fault = FaultOf(form)) {
-    form.setMousePointer(forms::MousePointer::Default);
+  if (const char* const fault = CheckAndWrite(form)) {
     form.services().dialogs.messageBox(fault, forms::kExclamation);
     return false;
   }
-  WriteFile(form);
-  form.setMousePointer(forms::MousePointer::Default);
   form.services().windows.unload(form);
   return true;
 }
 
 void ShowWhetherSettingsCanBeSaved(Form2& form) {
-  const bool writable = form.services().files.canWriteIn(form.programFolder());
-  form.SS_StatusBar.setPanelText(kFolderPanel, writable ? "" : kFolderReadOnly);
+  const DialogServices& services = form.services();
+  const bool readOnly = services.isReadOnly && services.isReadOnly(settings::IniPath(form.programFolder()));
+  const char* const inReadOnlyFile = readOnly ? kFileReadOnly : "";
+  form.setSavingNote(services.files.canWriteIn(form.programFolder()) ? inReadOnlyFile : kFolderReadOnly);
 }
 
 }  // namespace dialog

@@ -10,7 +10,7 @@ namespace dialog {
 // step and takes the dialog away, also where the file cannot be written. True when the dialog has gone.
 bool SaveSettings(Form2& form);
 
-// Says in the status bar's second panel when the program's folder cannot be written.
+// Says in the status bar's second panel when the program's folder or the settings file cannot be written.
 void ShowWhetherSettingsCanBeSaved(Form2& form);
 
 }  // namespace dialog

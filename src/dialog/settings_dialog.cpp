@@ -1,7 +1,13 @@
 #include "dialog/settings_dialog.h"
 
+#include <new>
 #include <utility>
 
+<<<<<<< HEAD
+=======
+#include "auxwin/multi_files.h"
+#include "dialog/messages.h"
+>>>>>>> settings
 #include "dialog/save_settings.h"
 #include "os/paths.h"
 
@@ -18,10 +24,12 @@ SettingsDialog::SettingsDialog(const DialogServices& services, os::EventLoop& lo
       loop_(loop),
       shell_(shell) {
   connect();
+  loop_.setErrorHandler([this](const std::exception& error) { tellError(error); });
 }
 
 SettingsDialog::~SettingsDialog() {
   // Nothing of a window may outlive its form, whatever ended the program.
+  loop_.setErrorHandler(nullptr);
   form.onUnload = nullptr;
   if (import) services_.windows.unload(*import);
   services_.windows.unload(about);
@@ -54,6 +62,18 @@ void SettingsDialog::closed() {
   loop_.quit();
 }
 
+// What a handler could not do leaves the dialog as it was. An error that comes while one is being told, such
+// as of a window that cannot paint itself, adds nothing.
+void SettingsDialog::tellError(const std::exception& error) {
+  if (telling_) return;
+  telling_ = true;
+  const bool memory = dynamic_cast<const std::bad_alloc*>(&error) != nullptr;
+  services_.dialogs.messageBox(
+      std::string(kCouldNotBeDone) + "\r\n" + (memory ? kNotEnoughMemory : error.what()),
+      forms::kExclamation);
+  telling_ = false;
+}
+
 void SettingsDialog::save() {
   // A user who was refused may have mended the folder's rights as well as his choices.
   if (!SaveSettings(form)) ShowWhetherSettingsCanBeSaved(form);
@@ -64,6 +84,7 @@ void SettingsDialog::Ok_Click() { save(); }
 void SettingsDialog::Save_Click() { save(); }
 
 void SettingsDialog::FolderCommand_Click() {
+<<<<<<< HEAD
   const std::string workingFolder = services_.files.currentFolder();
   enterPicturesFolder();
   import.emplace(pictures.target(), services_.files, services_.dialogs, services_.windows);
@@ -77,6 +98,11 @@ void SettingsDialog::enterPicturesFolder() {
   for (const std::string& folder : {lastFolder_, services_.files.picturesFolder(), form.programFolder()}) {
     if (services_.files.enterFolder(folder)) return;
   }
+=======
+  auxwin::MultiFiles import(pictures.target(), services_.files, services_.dialogs, services_.windows);
+  services_.windows.showModal(import);
+  pictures.listChanged();
+>>>>>>> settings
 }
 
 // One viewer at a time; another picture takes the place of the one that it shows.

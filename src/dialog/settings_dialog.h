@@ -1,7 +1,11 @@
 // The settings dialog with everything that its buttons and menus lead to.
 #pragma once
 
+<<<<<<< HEAD
 #include <optional>
+=======
+#include <exception>
+>>>>>>> settings
 #include <string>
 
 #include "auxwin/frm_about.h"
@@ -51,11 +55,16 @@ class SettingsDialog {
   void openViewer();
   void enterPicturesFolder();
   void closed();
+  void tellError(const std::exception& error);
 
   DialogServices services_;
   os::EventLoop& loop_;
   os::Shell& shell_;
+<<<<<<< HEAD
   std::string lastFolder_;  // from which pictures were added last
+=======
+  bool telling_ = false;  // of an error
+>>>>>>> settings
 };
 
 }  // namespace dialog

@@ -40,6 +40,11 @@ void OptionButton::setValue(bool value) {
   if (assign(value) && value && onClick) onClick();
 }
 
+void OptionButton::userClicked() {
+  assign(true);
+  if (onClick) onClick();
+}
+
 void OptionButton::setDesignValue(bool value) { assign(value); }
 
 }  // namespace forms

@@ -65,7 +65,8 @@ class OptionButton : public CaptionedControl {
   // Takes the state that the form starts with: as setValue, without an event.
   void setDesignValue(bool value);
 
-  void userClicked() { setValue(true); }
+  // The user's click raises the click also where the option is chosen already.
+  void userClicked();
 
  private:
   bool assign(bool value);

@@ -222,4 +222,9 @@ std::string FilesWin::shortPath(const std::string& path) {
   return shorter.empty() ? path : FromWide(PlainPath(shorter));
 }
 
+bool IsReadOnlyFile(const std::string& path) {
+  const DWORD attributes = GetFileAttributesW(WidePath(path).c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
 }  // namespace os

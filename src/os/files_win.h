@@ -33,4 +33,7 @@ class FilesWin : public Files {
   int patienceMs_;
 };
 
+// True for a file that is marked read-only, which can therefore not be replaced.
+bool IsReadOnlyFile(const std::string& path);
+
 }  // namespace os

@@ -105,6 +105,11 @@ bool IniDocument::has(std::string_view section, std::string_view key) const {
   return find(section, key) != nullptr;
 }
 
+std::size_t IniDocument::keysIn(std::string_view section) const {
+  const auto found = index_.find(base::AsciiLower(section));
+  return found == index_.end() ? 0 : found->second->keys.size();
+}
+
 std::string IniDocument::value(std::string_view section, std::string_view key, std::size_t longest) const {
   const Line* line = find(section, key);
   if (line == nullptr) return {};
@@ -167,6 +172,23 @@ void IniDocument::appendKey(Section& section, std::string_view key, std::string_
   section.keys.emplace(base::AsciiLower(key), section.lastKey);
 }
 
+void IniDocument::erase(std::string_view section, std::string_view key) {
+  const auto found = index_.find(base::AsciiLower(section));
+  const std::string name = base::AsciiLower(key);
+  if (found == index_.end() || found->second->keys.erase(name) == 0) return;
+  Section& place = *found->second;
+  for (auto line = std::next(place.lines.begin()); line != place.lines.end();) {
+    const IniLine parsed = ParseIniLine(line->text);
+    if (parsed.kind != IniLine::Kind::Key || base::AsciiLower(parsed.name) != name) {
+      ++line;
+      continue;
+    }
+    const bool last = line == place.lastKey;
+    line = place.lines.erase(line);
+    if (last) place.lastKey = std::prev(line);
+  }
+}
+
 void IniDocument::eraseSection(std::string_view section) {
   const auto found = index_.find(base::AsciiLower(section));
   if (found == index_.end() || found->second->keys.empty()) return;
@@ -203,7 +225,7 @@ std::string IniDocument::serialise() const {
     for (const Line& line : section.lines) fits = fits && appendAnsi(ansi, line);
   }
   // ANSI text that begins like the mark would be taken for UTF-16.
-  if (fits && !ansi.starts_with(kUtf16Mark)) return ansi;
+  if (fits && !writeAsUtf16_ && !ansi.starts_with(kUtf16Mark)) return ansi;
   std::string utf16(kUtf16Mark);
   for (const Section& section : sections_) {
     for (const Line& line : section.lines) {

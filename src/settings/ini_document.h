@@ -30,6 +30,8 @@ class IniDocument {
   IniDocument& operator=(const IniDocument&) = delete;
   ~IniDocument() = default;
 
+  const os::AnsiCodePage& ansi() const { return *ansi_; }
+
   static constexpr std::size_t kNoLimit = static_cast<std::size_t>(-1);
 
   // The key's value, or empty text when the section or key is absent. Longer ones are cut to `longest`
@@ -39,14 +41,23 @@ class IniDocument {
 
   bool has(std::string_view section, std::string_view key) const;
 
+  // The number of keys with different names in the section.
+  std::size_t keysIn(std::string_view section) const;
+
   // Gives the key a value that reads back as `value` (a line break reads back as a blank). An existing line
   // keeps its spelling and spacing, and is untouched when it reads so already. A new key goes behind the last
   // key of its section, or to the place of the keys that eraseSection() took out; a new section goes to the
   // end of the file.
   void set(std::string_view section, std::string_view key, std::string_view value);
 
+  // Takes every line of the key out of the section.
+  void erase(std::string_view section, std::string_view key);
+
   // Takes every key line out of the section. The header, comments and blank lines stay where they are.
   void eraseSection(std::string_view section);
+
+  // The file is written as UTF-16 even where every character fits the code page.
+  void writeAsUtf16() { writeAsUtf16_ = true; }
 
   // The bytes of the file: ANSI while every character fits the code page, else UTF-16 with its mark. Lines
   // of an ANSI file that were not changed keep their bytes.
@@ -81,7 +92,8 @@ class IniDocument {
   bool appendAnsi(std::string& bytes, const Line& line) const;
 
   const os::AnsiCodePage* ansi_;
-  bool utf16_ = false;           // the file was read as UTF-16
+  bool utf16_ = false;  // the file was read as UTF-16
+  bool writeAsUtf16_ = false;
   std::list<Section> sections_;  // in the order of the file; the first is the part before any section
   std::unordered_map<std::string, Section*> index_;  // by small letters; the first section of each name
 };

@@ -12,6 +12,14 @@ std::string_view TrimmedPart(std::string_view text) {
   return text.substr(first, text.find_last_not_of(kBlanks) + 1 - first);
 }
 
+// The key's name without the blanks at its ends. A number keeps those before it, so that the numbered keys of
+// a list are only found where they begin their line.
+std::string_view NameIn(std::string_view text, std::string_view beforeEquals) {
+  const std::string_view name = TrimmedPart(beforeEquals);
+  if (name.empty() || name.find_first_not_of("0123456789") != std::string_view::npos) return name;
+  return {text.data(), static_cast<std::size_t>(name.data() - text.data()) + name.size()};
+}
+
 bool IsEnclosedInQuotes(std::string_view text) {
   return text.size() >= 2 && (text.front() == '"' || text.front() == '\'') && text.front() == text.back();
 }
@@ -47,9 +55,10 @@ IniLine ParseIniLine(std::string_view text) {
   }
   const std::size_t equals = line.find('=');
   if (equals == std::string_view::npos) return {};
+  const std::string_view name = NameIn(text, line.substr(0, equals));
   const std::string_view value = TrimmedPart(line.substr(equals + 1));
   const std::size_t begin = static_cast<std::size_t>(value.data() - text.data());
-  return {IniLine::Kind::Key, TrimmedPart(line.substr(0, equals)), begin, begin + value.size()};
+  return {IniLine::Kind::Key, name, begin, begin + value.size()};
 }
 
 std::string_view ReadableValue(std::string_view value) {

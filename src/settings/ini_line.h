@@ -15,7 +15,8 @@ struct IniLine {
   };
 
   Kind kind = Kind::Text;
-  std::string_view name;       // of the section or key, without the blanks at its ends
+  std::string_view name;       // of the section or key, without the blanks at its ends; a number as a key's
+                               // name keeps those before it
   std::size_t valueBegin = 0;  // of a key: where its value stands in the line, without the blanks at its ends
   std::size_t valueEnd = 0;
 };

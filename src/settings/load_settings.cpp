@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <limits>
 
 #include "base/errors.h"
@@ -30,6 +31,9 @@ constexpr Field kUpToTimeDisplay[] = {
     &R::bUpAndDown,  &R::bCenter,        &R::bHorizontalBlinds, &R::bVerticalBlinds, &R::bFade,
     &R::timeDisplay, &R::countdownMonth, &R::countdownDay,      &R::countdownYear};
 
+// What is converted while it is loaded.
+constexpr Field kNumbersAtLoad[] = {&R::total, &R::mouseSensitivity, &R::picturePercent, &R::timeDisplay};
+
 // [total] as a number. More pictures than a 16-bit index can count are refused before room is made for them.
 double CheckedTotal(std::string_view text) {
   const double total = base::StrictDouble(text);
@@ -44,6 +48,8 @@ class Loader {
 
   void load() {
     into_.mended.clear();
+    // Whether there is a log stands among these: it hears of whatever fails from here on.
+    for (const Key& key : kExtraKeys) read(key);
     record_.mouseSensitivity = "23";
     readPictures();
     for (const Field field : kUpToSensitivity) read(KeyOf(field));
@@ -52,16 +58,23 @@ class Loader {
     readPictureScale();
     for (const Field field : kUpToTimeDisplay) read(KeyOf(field));
     setCountdownTarget();
-    for (const Key& key : kExtraKeys) read(key);
   }
 
  private:
-  void read(const Key& key) { record_.*key.field = ReadIniValue(document_, key); }
+  // A value that is absent or empty is the key's default, except where the reading is strict.
+  void read(const Key& key) {
+    record_.*key.field = ReadIniValue(document_, key);
+    if (!(record_.*key.field).empty() || conversion_ == Conversion::Strict) return;
+    record_.*key.field = key.fallback;
+    if (std::ranges::find(kNumbersAtLoad, key.field) != std::end(kNumbersAtLoad)) report(key);
+  }
+
+  void report(const Key& key) { into_.mended.emplace_back(key.name); }
 
   void mend(const Key& key) {
     if (conversion_ == Conversion::Strict) throw;
     record_.*key.field = key.fallback;
-    into_.mended.emplace_back(key.name);
+    report(key);
   }
 
   // The field's text by a strict conversion; the default's when that refuses it.

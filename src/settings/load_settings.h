@@ -22,19 +22,20 @@ struct SaverSettings {
   float pictureScale = 0;            // picturePercent divided by 100
   std::string countdownTarget;       // "month/day/year 12:00:00 AM", only with a countdown
 
-  // Names of the keys whose text was no number and was replaced by the default, in the order of reading.
+  // Names of the keys without a number where there must be one, for which the default was taken, in the order
+  // of reading.
   std::vector<std::string> mended;
 };
 
-// What to do with text that a strict conversion refuses.
+// What to do with text that a strict conversion refuses, and with a value that is absent or empty.
 enum class Conversion {
   Mend,    // go on with the key's default, whose text replaces the field, and report the key
   Strict,  // throw at the first (base::TypeMismatch, or base::Overflow for a number that its type cannot
-           // hold), with the fields read so far set and the rest untouched
+           // hold), with the fields read so far set and the rest untouched; absent values are empty text
 };
 
-// Reads an opened settings file into `into`. A missing section or key reads as empty text. Throws
-// base::Overflow for more than 32767 pictures in either mode.
+// Reads an opened settings file into `into`. Throws base::Overflow for more than 32767 pictures in either
+// mode; [extras] is in the record then.
 void LoadSettings(SaverSettings& into, const IniDocument& document, Conversion conversion = Conversion::Mend);
 
 }  // namespace settings

@@ -22,8 +22,10 @@ void ClearFirstRunMarker(IniDocument& document) {
 // True when it changed the document, which is then worth writing.
 bool SeedFirstRun(IniDocument& document, const std::string& programFolder) {
   if (ReadIniValue(document, kFirstRunSection, kSamples) != kStillToSeed) return false;
-  document.set(kImagesSection, "0", os::JoinPath(programFolder, "image1.gif"));
-  document.set(kImagesSection, "1", os::JoinPath(programFolder, "image2.gif"));
+  if (!document.has(kImagesSection, "0")) {
+    document.set(kImagesSection, "0", os::JoinPath(programFolder, "image1.gif"));
+    document.set(kImagesSection, "1", os::JoinPath(programFolder, "image2.gif"));
+  }
   ClearFirstRunMarker(document);
   return true;
 }
@@ -32,6 +34,11 @@ void WriteList(IniDocument& document, std::string_view section, const std::vecto
   document.eraseSection(section);
   for (std::size_t i = 0; i < list.size(); ++i) document.set(section, std::to_string(i), list[i]);
   document.set(section, std::to_string(list.size()), "");
+}
+
+// A text of few enough UTF-16 units can still have too many bytes in a code page of two to a character.
+bool IsCutInAnsi(std::string_view text, const os::AnsiCodePage& ansi) {
+  return !base::IsAscii(text) && StoredLength(text, ansi) > kLongestValue;
 }
 
 }  // namespace
@@ -70,6 +77,21 @@ void WriteSettings(IniDocument& document, const SettingsRecord& record, const st
   WriteList(document, kCaptionSection, captions);
   for (const Key& key : kWrittenKeys) document.set(key.section, key.name, record.*key.field);
   ClearFirstRunMarker(document);
+  for (const std::string& caption : captions) {
+    if (IsCutInAnsi(caption, document.ansi())) document.writeAsUtf16();
+  }
+}
+
+void WriteExtras(IniDocument& document, const SettingsRecord& record, const SettingsRecord& loaded) {
+  for (const Key& key : kExtraKeys) {
+    const std::string& text = record.*key.field;
+    if (text == loaded.*key.field) continue;
+    if (text.empty() || text == key.fallback) {
+      document.erase(key.section, key.name);
+    } else {
+      document.set(key.section, key.name, text);
+    }
+  }
 }
 
 }  // namespace settings

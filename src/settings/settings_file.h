@@ -33,17 +33,22 @@ bool FitsSettings(std::string_view text, const os::AnsiCodePage& ansi);
 
 // Reads `zbfaone.ini` in `programFolder`; a file that is missing or cannot be read is an empty document. On
 // the first run after installation, which the file tells by [firstrun] samples=1, the two sample pictures of
-// the program folder are put into [images] "0" and "1", the marker is cleared and the file is replaced at
-// once; [total] and [caption] stay as they are. Where it cannot be written the document holds them all the
-// same. `ansi` must outlive the document.
+// the program folder are put into [images] "0" and "1" unless it has a "0" of its own, the marker is cleared
+// and the file is replaced at once; [total] and [caption] stay as they are. Where it cannot be written the
+// document holds them all the same. `ansi` must outlive the document.
 IniDocument OpenSettings(os::Files& files, const os::AnsiCodePage& ansi, const std::string& programFolder);
 
 // Rebuilds [images] from `paths` and [caption] from `captions`, each with one more empty key numbered with
 // its count; sets [total] to the number of paths; and writes every documented key with the record's text as
 // it stands (record.total does not count). [extras], comments and unknown keys stay as they are. The
-// first-run marker is cleared, for the list is the user's from now on. Changes the document only; the caller
+// first-run marker is cleared, for the list is the user's from now on. Where the code page would need more
+// bytes for a caption than are read back, the file becomes UTF-16. Changes the document only; the caller
 // writes its bytes.
 void WriteSettings(IniDocument& document, const SettingsRecord& record, const std::vector<std::string>& paths,
                    const std::vector<std::string>& captions);
+
+// Writes those settings of [extras] that differ from what was loaded. One whose text is that of its absence
+// is taken out of the file.
+void WriteExtras(IniDocument& document, const SettingsRecord& record, const SettingsRecord& loaded);
 
 }  // namespace settings

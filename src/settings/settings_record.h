@@ -39,7 +39,7 @@ struct Key {
   const char* section;
   const char* name;
   Field field;
-  const char* fallback;  // stands in for a value that is absent, empty or unusable where there must be one
+  const char* fallback;  // stands in for a value that is absent or empty, and for a number that is none
 };
 
 // Written between the picture list and the captions.
@@ -106,6 +106,14 @@ constexpr const Key& KeyOf(Field field) {
   }
   if (field != kTotalKey.field) throw std::logic_error("a setting without a row");
   return kTotalKey;
+}
+
+// True for a setting beyond the documented file.
+constexpr bool IsExtra(Field field) {
+  for (const Key& key : kExtraKeys) {
+    if (key.field == field) return true;
+  }
+  return false;
 }
 
 // Sections that hold one numbered key per picture.

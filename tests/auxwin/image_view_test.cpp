@@ -48,6 +48,19 @@ TEST_F(ImageViewTest, ANarrowPictureOpensInAWindow2000TwipsWide) {
   EXPECT_EQ(view.Picture1.left(), 0);
 }
 
+TEST_F(ImageViewTest, APictureOfExactly2000TwipsOpensInAWindowAsWide) {
+  struct Finer : support::FakeWindowSystem {
+    int twipsPerPixel() const override { return 10; }
+  } finer;
+  ImageView fine(List1, pictures, dialogs, finer);
+  pictures.add("C:\\sea\\p.gif", {200, 50}, base::kBlack);
+  List1.setListIndex(0);
+  finer.show(fine);
+  ASSERT_EQ(fine.Picture1.width(), 2000);
+  EXPECT_EQ(fine.width(), 2000);
+  finer.unload(fine);
+}
+
 TEST_F(ImageViewTest, JustAbove2000TwipsTheBordersAreAdded) {
   open({134, 50});  // 2010 twips
   EXPECT_EQ(view.width(), 2010 + 120);

@@ -119,6 +119,29 @@ TEST_F(AddingPaths, DroppedFoldersAndNothingDroppedChangeNothing) {
   EXPECT_TRUE(messages().empty());
 }
 
+TEST_F(AddingPaths, ADroppedFolderBringsItsPicturesAsTheFolderImportDoes) {
+  for (const char* name : {"z.bmp", "notes.txt", "Y.JPG", "x.png", "b.jpeg"}) {
+    addFile(std::string("C:\\folder\\") + name);
+  }
+  addFile("C:\\folder\\below\\c.gif");
+  drop({"C:\\folder"});
+  EXPECT_EQ(Listed(*dialog), "a.gif=A;C:\\folder\\b.jpeg=;C:\\folder\\Y.JPG=;C:\\folder\\z.bmp=;");
+  EXPECT_EQ(dialog->form.Text3.text(), "Total: 4");
+  EXPECT_EQ(dialog->form.List1.listIndex(), 3);
+}
+
+TEST_F(AddingPaths, DroppedFilesThatAreNoPicturesAreLeftOut) {
+  machine.files.content["C:\\notes.txt"] = "words";
+  machine.files.content["C:\\broken.jpg"] = "no pixels";
+  addFile("C:\\scan.tif");
+  addFile("C:\\p.PNG");
+  drop({"C:\\notes.txt", "C:\\scan.tif", "C:\\broken.jpg", "C:\\p.PNG"});
+  EXPECT_EQ(Listed(*dialog), "a.gif=A;C:\\scan.tif=;C:\\broken.jpg=;C:\\p.PNG=;");
+  drop({"C:\\notes.txt"});
+  EXPECT_EQ(dialog->form.List1.listCount(), 4);
+  EXPECT_TRUE(messages().empty()) << "what a name promises is not looked into here";
+}
+
 TEST_F(AddingPaths, OneMessageTellsOfAllDroppedFilesThatWereLeftOut) {
   drop({pathOf(255), pathOf(100), pathOf(256)});
   EXPECT_EQ(dialog->form.List1.listCount(), 2);

@@ -61,13 +61,26 @@ TEST_F(BackgroundImageTest, ACancelChangesNothing) {
   EXPECT_TRUE(machine.dialogs.messages.empty());
 }
 
-TEST_F(BackgroundImageTest, AFileThatCannotBeLoadedIsKeptWithoutAPreview) {
+TEST_F(BackgroundImageTest, AFileThatCannotBeLoadedIsKeptWithoutAPreviewAndReported) {
   Form2& form = open().form;
   machine.dialogs.files.push_back("broken.jpg");
   form.addBackImg.userClicked();
   EXPECT_EQ(form.record.backgroundImage, "broken.jpg");
+  EXPECT_EQ(form.backgroundImageFile.text(), "broken.jpg");
   EXPECT_EQ(form.Image1.picture(), nullptr);
-  EXPECT_TRUE(machine.dialogs.messages.empty());
+  EXPECT_EQ(
+      machine.dialogs.messages,
+      (std::vector<Message>{{"Could not load Background Image correctly. Please reload a new image.", 48}}));
+}
+
+TEST_F(BackgroundImageTest, PixelsThatCannotBeDecodedAreReportedToo) {
+  Form2& form = open().form;
+  machine.pictures.addBroken("broken.jpg", {40, 30});
+  machine.dialogs.files.push_back("broken.jpg");
+  form.addBackImg.userClicked();
+  EXPECT_EQ(form.record.backgroundImage, "broken.jpg");
+  EXPECT_EQ(form.Image1.picture(), nullptr);
+  EXPECT_EQ(machine.dialogs.messages.size(), 1U);
 }
 
 }  // namespace

@@ -54,6 +54,62 @@ TEST_F(Form2Hints, EveryRowShowsItsHintOverItsControl) {
   EXPECT_EQ(hints, 39);
 }
 
+TEST_F(Form2Hints, EveryHintWordForWord) {
+  struct Row {
+    forms::Control& control;
+    std::string_view hint;
+  };
+  // clang-format off
+  const Row rows[] = {
+      {form.Cancel, "Cancel Settings: Cancel and do not save screen saver settings"},
+      {form.Ok, "Save Settings: Save all screen saver settings"},
+      {form.middleOption, "Caption: Center the caption in the middle of the screen"},
+      {form.scrollOption, "Caption: Scroll the caption across the screen"},
+      {form.scrollSlider, "Scrolling Speed: Speed of caption scrolling across the screen"},
+      {form.Picture2, "Font: Color of caption font"},
+      {form.p_caption, "Caption: Caption to be displayed with image below"},
+      {form.caption_clear, "Caption: Clear the caption to be displayed with image below"},
+      {form.font, "Caption: Change the caption's size, color, and font"},
+      {form.photo1, "Image: Thumbnail size of image that will be displayed in screen saver"},
+      {form.EnlargeCommand, "Image: Actual size of Image that will be displayed in screen saver"},
+      {form.ImagePosition, "Image Postion: Position of image within a group of images to be displayed"},
+      {form.Text3, "Image Total: Total amount of images to be displayed in screen saver"},
+      {form.add, "Add: Load an image to be displayed in screen saver"},
+      {form.remove, "Remove: Remove a selected loaded image from the screen saver"},
+      {form.RemoveAll, "Remove All: Remove all loaded images from the screen saver"},
+      {form.FolderCommand, "Multiple Images: Add several images from a selected folder"},
+      {form.up, "File Up: Move a selected image file up in the group"},
+      {form.down, "File Down: Move a selected image file down in the group"},
+      {form.List1, "Images: Loaded images to be displayed in screen saver"},
+      {form.Label13, "Image Size: Display all loaded images less than a percentage of the screen"},
+      {form.PercentSlider, "Image Size: Display all loaded images less than a percentage of the screen"},
+      {form.pCenter, "Image Movement: Center all loaded images"},
+      {form.pRandom, "Image Movement: Float all loaded images around the screen"},
+      {form.floatSlider, "Image Movement: Float speed of loaded images"},
+      {form.Frame4, "Image transitions: Image effects on loaded images"},
+      {form.aChange, "Change Image: Display next image after a selected amount of time"},
+      {form.nChange, "Change Image: Always display the first image. Never Display the next image"},
+      {form.Random_select, "Change Image: Randomly display all loaded images"},
+      {form.Text2, "Change Image: Display loaded image after (x) amount of seconds"},
+      {form.backgroundDesktop, "Background Selection: Display your desktop as a background"},
+      {form.backgroundColor, "Background Selection: Display a color as a background"},
+      {form.backgroundCustomImage, "Background Selection: Display an image as a background"},
+      {form.backgroundColorGradient, "Background Selection: Display a gradient color as a background"},
+      {form.frameBackgroundColor, "Background Color: Display your favorite color as a background"},
+      {form.frameCustomImage, "Custom Background Image: Display a loaded image as a background"},
+      {form.frameColorGradient, "Gradient Background Color: Display a gradient color as a background"},
+      {form.Frame5, "Mouse Sensitivity: Close screen saver based upon mouse sensitivity"},
+      {form.Frame2, "Countdown: Countdown to a special date in your screen saver"},
+  };
+  // clang-format on
+  EXPECT_EQ(std::size(rows), 39U);
+  for (const Row& row : rows) {
+    SCOPED_TRACE(row.control.name());
+    for (forms::Control* on = &row.control; on; on = on->container()) on->setEnabled(true);
+    EXPECT_EQ(over(row.control), row.hint);
+  }
+}
+
 TEST_F(Form2Hints, SomeHintsWordForWord) {
   EXPECT_EQ(over(form.Ok), "Save Settings: Save all screen saver settings");
   EXPECT_EQ(over(form.ImagePosition),

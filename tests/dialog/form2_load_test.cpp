@@ -317,7 +317,7 @@ TEST_F(Form2Load, WithoutATotalNothingIsLoaded) {
 }
 
 TEST_F(Form2Load, ATotalThatIsNoCountEndsLoading) {
-  for (const char* total : {"", "many", "40000"}) {
+  for (const char* total : {"", "many", "2000000000", "99999999999"}) {
     SCOPED_TRACE(total);
     support::DialogMachine other;
     other.set("total", "total", total);
@@ -327,6 +327,30 @@ TEST_F(Form2Load, ATotalThatIsNoCountEndsLoading) {
     EXPECT_EQ(form.record.total, total);
     EXPECT_EQ(form.record.randomPick, "");
   }
+}
+
+TEST_F(Form2Load, BothMessagesWordForWord) {
+  machine.set("background", "backgroundImage", "C:\\missing.bmp");
+  machine.open();
+  support::DialogMachine other;
+  other.drop("image", "randomPick");
+  other.open();
+  EXPECT_EQ(machine.dialogs.messages,
+            (std::vector<FakeDialogs::Message>{
+                {"Could not load Background Image correctly. Please reload a new image.", 48}}));
+  EXPECT_EQ(
+      other.dialogs.messages,
+      (std::vector<FakeDialogs::Message>{
+          {"Could not load screen saver properly. Please check all background and regular loaded images. "
+           "If problem persists, please reinstall screen saver.",
+           48}}));
+}
+
+TEST_F(Form2Load, BeforeAnythingIsReadTheCombosShowWhatTheyAreFor) {
+  const std::unique_ptr<Form2> design = untouched();
+  EXPECT_EQ(design->monthCombo.text(), "Month");
+  EXPECT_EQ(design->dayCombo.text(), "Day");
+  EXPECT_EQ(design->yearCombo.text(), "Year");
 }
 
 TEST_F(Form2Load, ThePictureListComesWithItsCaptions) {
@@ -470,6 +494,33 @@ TEST_F(Form2Load, ThirtyThousandPicturesCostOneStep) {
   EXPECT_EQ(form.List1.listCount(), 30000);
   EXPECT_EQ(form.List1.item(29999), "C:\\photos\\29999");
   EXPECT_LE(machine.windows.listEdits, 4);
+  EXPECT_EQ(form.SS_StatusBar.panelText(2), "");
+}
+
+TEST_F(Form2Load, ALongerListThanTheShowCanUseIsShownAndSaid) {
+  for (const int count : {32767, 32768, 100000}) {
+    SCOPED_TRACE(count);
+    support::DialogMachine other;
+    other.set("total", "total", std::to_string(count));
+    other.set("images", std::to_string(count - 1), "C:\\last.gif");
+    Form2& form = other.open();
+    EXPECT_TRUE(other.dialogs.messages.empty());
+    EXPECT_EQ(form.List1.listCount(), count);
+    EXPECT_EQ(form.List1.item(count - 1), "C:\\last.gif");
+    EXPECT_EQ(form.Text3.text(), "Total: " + std::to_string(count));
+    EXPECT_LE(other.windows.listEdits, 4);
+    EXPECT_EQ(form.SS_StatusBar.panelText(2),
+              count > 32767 ? "The show can use 32,767 pictures at most." : "");
+  }
+}
+
+// A setting of today that yesterday's file does not know would be the last row of the table.
+TEST_F(Form2Load, SettingsBeyondTheDocumentedOnesAreReadAndNotMissed) {
+  machine.set("extras", "transitionTime", "250");
+  Form2& form = machine.open();
+  EXPECT_TRUE(form.loadedWell());
+  EXPECT_EQ(form.loaded().transitionTime, "250");
+  EXPECT_EQ(form.loaded().log, "");
 }
 
 }  // namespace

@@ -55,6 +55,35 @@ TEST_F(Form2Options, EachBackgroundEnablesItsOwnControlsAndColoursItsFrame) {
   }
 }
 
+TEST_F(Form2Options, TheGroupsAreEnabledInTheOrderSolidColourCustomImageGradient) {
+  const auto order = [this](forms::OptionButton& option) {
+    machine.windows.changes.clear();
+    option.userClicked();
+    std::string names;
+    for (const auto& [name, change] : machine.windows.changes) {
+      if (change == forms::Change::Enabled && name.starts_with("frame")) names += name + " ";
+    }
+    return names;
+  };
+  form.backgroundDesktop.userClicked();
+  EXPECT_EQ(order(form.backgroundColorGradient), "frameColorGradient ");
+  EXPECT_EQ(order(form.backgroundCustomImage), "frameCustomImage frameColorGradient ");
+  EXPECT_EQ(order(form.backgroundColor), "frameBackgroundColor frameCustomImage ");
+  EXPECT_EQ(order(form.backgroundColorGradient), "frameBackgroundColor frameColorGradient ");
+}
+
+TEST_F(Form2Options, AClickOnWhatIsChosenRunsItsHandler) {
+  form.record.picRandom = form.record.picChange = form.record.scroll = form.record.backEffect = "";
+  form.record.timeDisplay = form.record.backgroundDisplay = "";
+  for (forms::OptionButton* chosen : {&form.pRandom, &form.aChange, &form.scrollOption, &form.backgroundColor,
+                                      &form.yearOption, &form.TileOption}) {
+    ASSERT_TRUE(chosen->value()) << chosen->name();
+    chosen->userClicked();
+  }
+  EXPECT_EQ(form.record.picRandom + form.record.picChange + form.record.scroll, "randch0");
+  EXPECT_EQ(form.record.backEffect + form.record.timeDisplay + form.record.backgroundDisplay, "022");
+}
+
 TEST_F(Form2Options, TheCustomImageIsLaidOutAsChosen) {
   form.CenterOption.userClicked();
   EXPECT_EQ(form.record.backgroundDisplay, "0");

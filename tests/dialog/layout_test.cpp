@@ -86,6 +86,27 @@ TEST_F(DialogLayout, EveryCaptionHasRoom) {
   }
 }
 
+TEST_F(DialogLayout, TheSlidersHaveTheirLimitsStepsAndTicks) {
+  struct Row {
+    forms::Slider& slider;
+    int min, max, largeChange, ticks;
+  };
+  for (const Row& row : {Row{form.floatSlider, 0, 5, 5, 1},
+                         {form.redSlider, 0, 255, 1, 20},
+                         {form.greenSlider, 0, 255, 1, 20},
+                         {form.blueSlider, 0, 255, 1, 20},
+                         {form.MouseSensitiveSlider, 1, 30, 5, 1},
+                         {form.PercentSlider, 10, 100, 5, 5},
+                         {form.scrollSlider, 100, 300, 5, 20}}) {
+    SCOPED_TRACE(row.slider.name());
+    EXPECT_EQ(row.slider.min(), row.min);
+    EXPECT_EQ(row.slider.max(), row.max);
+    EXPECT_EQ(row.slider.smallChange(), 1);
+    EXPECT_EQ(row.slider.largeChange(), row.largeChange);
+    EXPECT_EQ(row.slider.tickFrequency(), row.ticks);
+  }
+}
+
 TEST_F(DialogLayout, EveryControlThatTakesTheKeyboardHasAName) {
   using enum forms::ControlKind;
   for (const forms::Control* control : form.controls()) {

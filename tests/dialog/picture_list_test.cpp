@@ -228,6 +228,38 @@ TEST_F(PictureListTest, ThePictureThatMakesItMoreThan700BringsTheAdviceOnce) {
   EXPECT_EQ(messages().size(), 1U);
 }
 
+// What stands when somebody is told something, or a picture is selected.
+TEST_F(PictureListTest, AnAddedPictureIsSelectedThenCountedThenAdvisedOn) {
+  struct Watching : support::FakeDialogs {
+    std::function<void(const std::string&)> onMessage;
+    forms::Answer messageBox(const std::string& text, std::uint32_t style) override {
+      onMessage(text);
+      return FakeDialogs::messageBox(text, style);
+    }
+  } dialogs;
+  machine.set("total", "total", "700");
+  machine.writeSettings();
+  SettingsDialog watched({machine.files, machine.ansi, machine.pictures, dialogs, machine.windows},
+                         machine.loop, machine.shell, machine.kProgramFolder, nullptr);
+  Form2& form = watched.form;
+  watched.show();
+  machine.pictures.add("new.gif", {4, 3}, base::kBlack);
+  std::vector<std::string> steps;
+  const auto note = [&](const std::string& what) {
+    steps.push_back(what + ": entry " + std::to_string(form.List1.listIndex() + 1) + ", " +
+                    form.Text3.text());
+  };
+  form.List1.onClick = [&, click = form.List1.onClick] {
+    note("selected");
+    click();
+  };
+  dialogs.onMessage = [&](const std::string&) { note("advised"); };
+  dialogs.files.push_back("new.gif");
+  form.add.userClicked();
+  EXPECT_EQ(steps,
+            (std::vector<std::string>{"selected: entry 701, Total: 700", "advised: entry 701, Total: 701"}));
+}
+
 TEST_F(PictureListTest, TheAdviceComesForTheFirstAddedPictureOfAListThatWasLong) {
   openMany(900);
   EXPECT_TRUE(messages().empty());
@@ -282,6 +314,30 @@ TEST_F(PictureListTest, AnEntryWithoutAPathCountsAsNothingSelected) {
   form().remove.userClicked();
   EXPECT_EQ(messages(), std::vector<Message>{kNothingSelected});
   EXPECT_EQ(form().List1.listCount(), 2);
+}
+
+TEST_F(PictureListTest, AnEntryWithoutAPathCanBeMoved) {
+  machine.setPictures({{"a.gif", "A"}});
+  machine.set("total", "total", "2");
+  machine.set("caption", "1", "B");
+  open();
+  selectByUser(1);
+  form().up.userClicked();
+  EXPECT_EQ(listed(), "=B;a.gif=A;");
+  EXPECT_EQ(form().List1.listIndex(), 0);
+  form().down.userClicked();
+  EXPECT_EQ(listed(), "a.gif=A;=B;");
+  EXPECT_TRUE(messages().empty());
+}
+
+TEST_F(PictureListTest, TheStatusBarSaysFromWhereOnTheShowCannotUseThem) {
+  openMany(32767);
+  EXPECT_EQ(form().SS_StatusBar.panelText(2), "");
+  machine.dialogs.files.push_back("p.gif");
+  form().add.userClicked();
+  EXPECT_EQ(form().SS_StatusBar.panelText(2), "The show can use 32,767 pictures at most.");
+  form().remove.userClicked();
+  EXPECT_EQ(form().SS_StatusBar.panelText(2), "");
 }
 
 TEST_F(PictureListTest, RemovingAllAsksFirst) {

@@ -169,7 +169,6 @@ TEST_F(SaveFaults, AFileThatCouldNotBeReadIsNotOverwrittenWithDefaults) {
   EXPECT_EQ(file(), old);
   machine.dialogs.files.push_back("a.gif");
   opened.add.userClicked();
-  opened.noneOption.setDesignValue(false);
   opened.noneOption.userClicked();
   opened.Ok.userClicked();
   EXPECT_TRUE(machine.loop.isQuitting());
@@ -185,7 +184,6 @@ TEST_F(SaveFaults, OneThatCanBeReadAgainByThenIsKeptBesideTheNewOne) {
   Form2& opened = machine.openDialogOnFile().form;
   machine.dialogs.files.push_back("a.gif");
   opened.add.userClicked();
-  opened.noneOption.setDesignValue(false);
   opened.noneOption.userClicked();
   machine.files.locked.clear();
   opened.Ok.userClicked();
@@ -219,6 +217,24 @@ TEST_F(SaveFaults, TheStatusBarSaysNothingOfAFolderThatCanBeWritten) {
   EXPECT_EQ(opened.SS_StatusBar.panelText(2), "");
   opened.Ok.onMouseMove({});
   EXPECT_EQ(opened.SS_StatusBar.panelText(2), "") << "hints go to the first panel";
+}
+
+TEST_F(SaveFaults, TheStatusBarSaysWhenTheFileIsReadOnly) {
+  machine.setPictures({{"a.gif", ""}});
+  machine.writeSettings();
+  std::string asked;
+  Form2 opened({machine.files, machine.ansi, machine.pictures, machine.dialogs, machine.windows,
+                [&](const std::string& path) {
+                  asked = path;
+                  return true;
+                }},
+               machine.kProgramFolder);
+  ShowWhetherSettingsCanBeSaved(opened);
+  EXPECT_EQ(opened.SS_StatusBar.panelText(2), "Settings cannot be saved: zbfaone.ini is read-only.");
+  EXPECT_EQ(asked, machine.kIniPath);
+  machine.files.writable = false;
+  ShowWhetherSettingsCanBeSaved(opened);
+  EXPECT_EQ(opened.SS_StatusBar.panelText(2), kSaveHint);
 }
 
 TEST_F(SaveFaults, TheStatusBarKeepsUpWithTheFolderAtEachRefusedSave) {

@@ -131,7 +131,6 @@ TEST_F(SaveSettingsTest, WithoutANumberForTheClockTheDateIsReported) {
   Form2& form = machine.openDialog().form;
   ASSERT_FALSE(form.loadedWell());
   expectRefused(form, kBadDate);
-  form.noneOption.setDesignValue(false);
   form.noneOption.userClicked();
   machine.dialogs.messages.clear();
   form.Ok.userClicked();
@@ -154,6 +153,32 @@ TEST_F(SaveSettingsTest, TheHourglassIsShownWhileTheDialogChecksAndWrites) {
   EXPECT_EQ(windows.pointers,
             (std::vector<forms::MousePointer>{forms::MousePointer::Hourglass, forms::MousePointer::Default}));
   EXPECT_EQ(static_cast<int>(windows.pointers[0]), 11);
+}
+
+TEST_F(SaveSettingsTest, TheDefaultPointerIsBackBeforeTheMessage) {
+  struct Watching : support::FakeDialogs {
+    const Form2* form = nullptr;
+    std::vector<forms::MousePointer> pointers;
+    forms::Answer messageBox(const std::string& text, std::uint32_t style) override {
+      pointers.push_back(form->mousePointer());
+      return FakeDialogs::messageBox(text, style);
+    }
+  } dialogs;
+  machine.set("total", "total", "1");
+  machine.writeSettings();
+  Form2 form({machine.files, machine.ansi, machine.pictures, dialogs, machine.windows},
+             machine.kProgramFolder);
+  dialogs.form = &form;
+  machine.windows.show(form);
+  EXPECT_FALSE(SaveSettings(form)) << "no image";
+  form.List1.setItem(0, "a.gif");
+  form.record.backEffect = "2";
+  EXPECT_FALSE(SaveSettings(form)) << "no background image";
+  form.record.backEffect = "0";
+  form.record.countdownDay = "31";
+  EXPECT_FALSE(SaveSettings(form)) << "no such date";
+  EXPECT_EQ(dialogs.pointers, std::vector<forms::MousePointer>(3, forms::MousePointer::Default));
+  machine.windows.unload(form);
 }
 
 TEST_F(SaveSettingsTest, OkAndTheMenuSaveAlikeAndEndTheProgram) {
@@ -322,15 +347,16 @@ TEST_F(SaveSettingsTest, WithoutAFileAWholeOneIsWrittenInTheOrderOfTheKeys) {
   expectSaved(form);
   EXPECT_EQ(file(),
             "[images]\r\n0=C:\\a.gif\r\n1=\r\n[total]\r\ntotal=1\r\n[caption]\r\n0=\r\n1=\r\n"
-            "[image]\r\nrandomPick=\r\npicSpeed=\r\ntimeInterval=\r\npicRandom=\r\npicChange=\r\n"
-            "mouseSensitivity=\r\npicturePercent=\r\ntimeDisplay=1\r\n"
-            "[background]\r\nnewBackColor=\r\nbackEffect=\r\nbackgroundImage=\r\nbackgroundDisplay=\r\n"
-            "redBackground=\r\ngreenBackground=\r\nblueBackground=\r\n"
-            "[font]\r\nscroll=\r\nscrollSpeed=\r\nnewFontName=\r\nnewFontSize=\r\nnewFontBold=\r\n"
-            "newFontItalic=\r\nnewFontUnderline=\r\nnewFontFontStrikethru=\r\nnewFontForeColor=\r\n"
-            "[transitions]\r\nbStandard=\r\nbLeftWipe=\r\nbRightWipe=\r\nbRightandLeftWipe=\r\n"
-            "bUpAndDown=\r\nbCenter=\r\nbHorizontalBlinds=\r\nbVerticalBlinds=\r\nbFade=\r\n"
-            "[date]\r\ncountdownMonth=\r\ncountdownDay=\r\ncountdownYear=\r\n");
+            "[image]\r\nrandomPick=0\r\npicSpeed=2\r\ntimeInterval=10\r\npicRandom=cent\r\npicChange=ch\r\n"
+            "mouseSensitivity=23\r\npicturePercent=99\r\ntimeDisplay=1\r\n"
+            "[background]\r\nnewBackColor=0\r\nbackEffect=3\r\nbackgroundImage=\r\nbackgroundDisplay=1\r\n"
+            "redBackground=0\r\ngreenBackground=0\r\nblueBackground=128\r\n"
+            "[font]\r\nscroll=1\r\nscrollSpeed=200\r\nnewFontName=Arial\r\nnewFontSize=20\r\n"
+            "newFontBold=False\r\nnewFontItalic=False\r\nnewFontUnderline=False\r\n"
+            "newFontFontStrikethru=False\r\nnewFontForeColor=16777215\r\n"
+            "[transitions]\r\nbStandard=1\r\nbLeftWipe=1\r\nbRightWipe=1\r\nbRightandLeftWipe=1\r\n"
+            "bUpAndDown=1\r\nbCenter=1\r\nbHorizontalBlinds=1\r\nbVerticalBlinds=1\r\nbFade=1\r\n"
+            "[date]\r\ncountdownMonth=01\r\ncountdownDay=01\r\ncountdownYear=2030\r\n");
   EXPECT_FALSE(machine.files.content.contains(machine.kBakPath)) << "there was nothing to keep";
 }
 
@@ -343,6 +369,16 @@ TEST_F(SaveSettingsTest, ACharacterOutsideTheCodePageMakesTheFileUtf16AndComesBa
   again.files.content = machine.files.content;
   again.pictures.add("a.gif", {4, 3}, 0);
   EXPECT_EQ(again.openDialogOnFile().form.p_caption.text(), "\xD0\xBB\xD0\xB5\xD1\x82\xD0\xBE");
+}
+
+TEST_F(SaveSettingsTest, AChangedExtraIsWrittenAndTheOthersStay) {
+  file() = kBefore;
+  for (const char* path : {"C:\\a.gif", "C:\\b.gif"}) machine.pictures.add(path, {4, 3}, 0);
+  Form2& form = machine.openDialogOnFile().form;
+  form.record.otherScreens = "black";
+  expectSaved(form);
+  EXPECT_EQ(file(),
+            Replaced(kBefore, "transitionTime=700\r\n", "transitionTime=700\r\notherScreens=black\r\n"));
 }
 
 TEST_F(SaveSettingsTest, TheShowReadsWhatTheDialogSaved) {

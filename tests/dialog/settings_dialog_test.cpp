@@ -98,6 +98,62 @@ TEST_F(SettingsDialogTest, TheAdviceIsGivenOnceWhetherByFolderOrByFile) {
   EXPECT_TRUE(machine.dialogs.messages.empty());
 }
 
+TEST_F(SettingsDialogTest, WhatCannotBeDoneIsSaidWithItsReasonAndChangesNothing) {
+  SettingsDialog& dialog = open();
+  machine.loop.post([] { throw std::runtime_error("The printer is on fire."); });
+  machine.loop.post([] { throw std::bad_alloc(); });
+  machine.loop.runPending();
+  EXPECT_EQ(machine.dialogs.messages, (std::vector<support::FakeDialogs::Message>{
+                                          {"This could not be done.\r\nThe printer is on fire.", 48},
+                                          {"This could not be done.\r\nThere is not enough memory.", 48}}));
+  EXPECT_EQ(Listed(dialog), "a.gif=A;b.gif=B;");
+  EXPECT_FALSE(machine.loop.isQuitting());
+}
+
+TEST_F(SettingsDialogTest, AnErrorWhileOneIsToldAddsNothing) {
+  struct Failing : support::FakeDialogs {
+    support::FakeEventLoop* loop = nullptr;
+    forms::Answer messageBox(const std::string& text, std::uint32_t style) override {
+      const forms::Answer answer = FakeDialogs::messageBox(text, style);
+      loop->post([] { throw std::runtime_error("again"); });
+      loop->runPending();
+      return answer;
+    }
+  } dialogs;
+  dialogs.loop = &machine.loop;
+  SettingsDialog dialog({machine.files, machine.ansi, machine.pictures, dialogs, machine.windows},
+                        machine.loop, machine.shell, "C:\\Lumora", nullptr);
+  machine.loop.post([] { throw std::runtime_error("first"); });
+  machine.loop.runPending();
+  EXPECT_EQ(dialogs.messages.size(), 1U);
+}
+
+TEST_F(SettingsDialogTest, APictureTooLargeForTheMemoryIsOneThatCannotBeLoaded) {
+  struct Huge : pictures::PictureLoader {
+    pictures::PictureLoader* others = nullptr;
+    std::shared_ptr<const pictures::PictureFile> open(const std::string& path) override {
+      if (path == "huge.png") throw std::bad_alloc();
+      return others->open(path);
+    }
+  } huge;
+  huge.others = &machine.pictures;
+  machine.setPictures({{"a.gif", "A"}});
+  machine.writeSettings();
+  SettingsDialog dialog({machine.files, machine.ansi, huge, machine.dialogs, machine.windows}, machine.loop,
+                        machine.shell, "C:\\Lumora", nullptr);
+  dialog.show();
+  machine.rest();
+  machine.dialogs.files = {"huge.png", "huge.png"};
+  dialog.form.add.userClicked();
+  EXPECT_EQ(Listed(dialog), "a.gif=A;huge.png=;");
+  EXPECT_EQ(dialog.form.photo1.picture(), nullptr);
+  dialog.form.addBackImg.userClicked();
+  EXPECT_EQ(machine.dialogs.messages,
+            (std::vector<support::FakeDialogs::Message>{
+                {"Cannot load image file properly.\r\nYou need to reload a new one.", 48},
+                {"Could not load Background Image correctly. Please reload a new image.", 48}}));
+}
+
 TEST_F(SettingsDialogTest, HelpIsThePageInTheProgramFolder) {
   SettingsDialog& dialog = open();
   dialog.form.LumoraHelp.userClicked();

@@ -1,4 +1,4 @@
-#include "dialog/thumbnail.h"
+#include "dialog/picture_list.h"
 
 #include <gtest/gtest.h>
 

@@ -41,8 +41,14 @@ TEST_F(Options, ChoosingFromCodeRaisesTheClickOfTheChosenAlone) {
 TEST_F(Options, ChoosingWhatIsChosenRaisesNothing) {
   a.setValue(true);
   a.setValue(true);
-  a.userClicked();
   EXPECT_EQ(clicks, "a");
+}
+
+TEST_F(Options, TheUsersClickIsOneAlsoOnWhatIsChosen) {
+  a.setValue(true);
+  a.userClicked();
+  EXPECT_EQ(clicks, "aa");
+  EXPECT_TRUE(a.value());
 }
 
 TEST_F(Options, TakingAChoiceAwayRaisesNothing) {

@@ -241,6 +241,43 @@ TEST(IniDocument, ErasingTakesTheKeysAndLeavesTheRest) {
   EXPECT_EQ(document.value("b", "0"), "w");
 }
 
+TEST(IniDocument, ErasingAKeyTakesEveryLineOfIt) {
+  IniDocument document = Read("[a]\r\nx=1\r\n; of x\r\nX = 2\r\ny=3\r\nx=4\r\n[b]\r\nx=5\r\n");
+  document.erase("A", "x");
+  EXPECT_FALSE(document.has("a", "x"));
+  EXPECT_EQ(document.serialise(), "[a]\r\n; of x\r\ny=3\r\n[b]\r\nx=5\r\n");
+  document.erase("a", "x");
+  document.erase("missing", "x");
+  document.erase("b", "x");
+  document.set("a", "z", "6");
+  document.set("b", "w", "7");
+  EXPECT_EQ(document.serialise(), "[a]\r\n; of x\r\ny=3\r\nz=6\r\n[b]\r\nw=7\r\n");
+}
+
+TEST(IniDocument, CountsTheKeysOfASection) {
+  const IniDocument document = Read("[a]\nx=1\n; c\nX=2\ny\ny=3\n[a]\nz=4\n");
+  EXPECT_EQ(document.keysIn("A"), 2U);
+  EXPECT_EQ(document.keysIn("b"), 0U);
+}
+
+TEST(IniDocument, ANumberIsAKeyOnlyWhereItBeginsItsLine) {
+  IniDocument document = Read("[images]\r\n 0=a\r\n\t1 = b\r\n2 \t= c\r\n  name=d\r\n");
+  EXPECT_EQ(document.value("images", "0"), "");
+  EXPECT_EQ(document.value("images", "1"), "");
+  EXPECT_EQ(document.value("images", "2"), "c");
+  EXPECT_EQ(document.value("images", "name"), "d");
+  document.set("images", "0", "e");
+  EXPECT_EQ(Read(document.serialise()).value("images", "0"), "e");
+  document.eraseSection("images");
+  EXPECT_EQ(document.serialise(), "[images]\r\n");
+}
+
+TEST(IniDocument, CanBeWrittenAsUtf16ThoughItFitsTheCodePage) {
+  IniDocument document = Read("[a]\nx=1\n");
+  document.writeAsUtf16();
+  EXPECT_EQ(document.serialise(), Utf16File(u"[a]\nx=1\n"));
+}
+
 TEST(IniDocument, ErasingTheFirstOfTwoSectionsDoesNotBringTheSecondForward) {
   IniDocument document = Read("[a]\nx=1\n[a]\nx=2\n");
   document.eraseSection("a");

@@ -71,6 +71,11 @@ TEST(LoadSettings, KeysWithLeadingZerosAreNeverFound) {
   EXPECT_EQ(folder.load().imageFiles, (std::vector<std::string>{"", "", ""}));
 }
 
+TEST(LoadSettings, KeysWithABlankBeforeThemAreNeverFound) {
+  Folder folder(Ini("2") + "[images]\r\n 0=a.jpg\r\n\t1=b.jpg\r\n1 = c.jpg\r\n");
+  EXPECT_EQ(folder.load().imageFiles, (std::vector<std::string>{"", "c.jpg", ""}));
+}
+
 TEST(LoadSettings, ANegativeTotalIsNone) {
   Folder folder(Ini("-5"));
   folder.load();
@@ -98,6 +103,9 @@ TEST(LoadSettings, ThePicturesAreCountedWith16Bits) {
     EXPECT_THROW(folder.load(Conversion::Strict), base::Overflow) << total;
     EXPECT_THROW(folder.load(Conversion::Mend), base::Overflow) << total;
     EXPECT_TRUE(folder.settings.imageFiles.empty()) << total;
+    Folder logged(Ini(total) + "[extras]\r\nlog=1\r\n");
+    EXPECT_THROW(logged.load(Conversion::Mend), base::Overflow) << total;
+    EXPECT_EQ(logged.settings.record.log, "1") << "so that the log hears of it";
   }
 }
 
@@ -216,7 +224,7 @@ TEST(LoadSettings, StrictlyTheFieldsReadSoFarAreSetAndTheRestUntouched) {
   EXPECT_THROW(display.load(), base::TypeMismatch);
   EXPECT_EQ(display.settings.record.countdownYear, "2030");
   EXPECT_EQ(display.settings.countdownTarget, "");
-  EXPECT_EQ(display.settings.record.log, "");
+  EXPECT_EQ(display.settings.record.log, "x") << "read before anything that can fail";
 }
 
 TEST(LoadSettings, MendingPutsTheDefaultInPlaceAndNamesTheKeyInTheOrderOfReading) {
@@ -249,6 +257,36 @@ TEST(LoadSettings, MendingAMissingFileGivesAShowWithoutPictures) {
   EXPECT_EQ(folder.settings.mended.size(), 4U);
   EXPECT_EQ(folder.settings.lastImageIndex, -1);
   EXPECT_TRUE(folder.files.writes.empty());
+}
+
+TEST(LoadSettings, AKeyThatIsAbsentOrEmptyHasItsDefault) {
+  Folder none("");
+  Folder empty("");
+  for (const settings::Key& key : settings::kWrittenKeys) {
+    empty.files.content[kPath] += "[" + std::string(key.section) + "]\r\n" + key.name + "=\r\n";
+  }
+  for (Folder* folder : {&none, &empty}) {
+    const settings::SettingsRecord& record = folder->load(Conversion::Mend).record;
+    for (const settings::Key& key : settings::kWrittenKeys) {
+      const std::string name = key.name;
+      const char* expected = name == "picChange" ? "" : name == "mouseSensitivity" ? "7" : key.fallback;
+      EXPECT_EQ(record.*key.field, expected) << key.name;
+    }
+    for (const settings::Key& key : settings::kExtraKeys) EXPECT_EQ(record.*key.field, key.fallback);
+  }
+}
+
+TEST(LoadSettings, TextThatIsThereIsKeptWhateverItSays) {
+  Folder folder(Ini("0") + "[transitions]\r\nbFade=perhaps\r\n[image]\r\ntimeInterval=soon\r\n");
+  folder.load(Conversion::Mend);
+  EXPECT_EQ(folder.settings.record.bFade, "perhaps");
+  EXPECT_TRUE(folder.settings.mended.empty()) << "who uses it converts it";
+}
+
+TEST(LoadSettings, StrictlyAnAbsentKeyIsEmptyText) {
+  Folder folder(Ini("0"));
+  EXPECT_EQ(folder.load(Conversion::Strict).record.bFade, "");
+  EXPECT_EQ(folder.settings.record.newFontName, "");
 }
 
 TEST(LoadSettings, AGoodFileReportsNothingAfterABadOne) {
@@ -312,6 +350,13 @@ TEST(FirstRun, WritesNeitherTheTotalNorCaptions) {
   EXPECT_EQ(folder.load().imageFiles, std::vector<std::string>{""});
   EXPECT_EQ(folder.files.content[kPath].find("[caption]"), std::string::npos);
   EXPECT_NE(folder.files.content[kPath].find("total=0"), std::string::npos);
+}
+
+TEST(FirstRun, LeavesAListThatHasAFirstPictureAlone) {
+  Folder folder("[firstrun]\r\nsamples=1\r\n[images]\r\n0=C:\\mine.jpg\r\n" + Ini("1"));
+  EXPECT_EQ(folder.load().imageFiles[0], "C:\\mine.jpg");
+  EXPECT_EQ(folder.files.content[kPath],
+            "[firstrun]\r\nsamples=0\r\n[images]\r\n0=C:\\mine.jpg\r\n" + Ini("1"));
 }
 
 TEST(FirstRun, WithoutItsMarkerWritesNothing) {

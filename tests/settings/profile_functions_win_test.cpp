@@ -81,11 +81,30 @@ class ProfileFunctions : public testing::Test {
         const std::string ours = ourValue(document, section, key);
         const std::string theirs = systemValue(section, key);
         found += theirs.empty() ? 0 : 1;
+        // The one difference: the numbered keys of a list must begin their line.
+        if (ours != theirs && IsIndented(key, bytes)) continue;
         if (ours.size() == 254 && theirs == ours.substr(0, 253) && StandsInQuotes(ours, bytes)) continue;
         ASSERT_EQ(ours, theirs) << "file " << seed << " [" << section << "] " << key << "\n"
                                 << testing::PrintToString(bytes);
       }
     }
+  }
+
+  // True for a number that stands as a key behind blanks in one of the lines.
+  static bool IsIndented(const std::string& key, const std::string& bytes) {
+    if (key.find_first_not_of("0123456789") != std::string::npos) return false;
+    constexpr const char* kBlank = " \t\v";
+    for (std::size_t at = bytes.find(key); at != std::string::npos; at = bytes.find(key, at + 1)) {
+      const std::size_t before = at == 0 ? std::string::npos : bytes.find_last_not_of(kBlank, at - 1);
+      const bool startsLine = before == std::string::npos || bytes[before] == '\r' || bytes[before] == '\n';
+      const std::size_t behind = bytes.find_first_not_of(kBlank, at + key.size());
+      const bool isKey = behind != std::string::npos && bytes[behind] == '=';
+      if (startsLine && isKey && at > 0 &&
+          std::string_view(kBlank).find(bytes[at - 1]) != std::string::npos) {
+        return true;
+      }
+    }
+    return false;
   }
 
   static bool StandsInQuotes(const std::string& value, const std::string& bytes) {
@@ -204,6 +223,15 @@ TEST_F(ProfileFunctions, FiveThousandFilesReadAlike) {
     ASSERT_NO_FATAL_FAILURE(compare(bytes, seed, found));
   }
   EXPECT_GT(found, 5000);  // the files are not all empty
+}
+
+TEST_F(ProfileFunctions, FindANumberBehindABlankWhichIsNeverFoundHere) {
+  const std::string bytes = "[images]\r\n 0=a.jpg\r\n1 =b.jpg\r\n";
+  ASSERT_NO_FATAL_FAILURE(write(bytes));
+  const IniDocument document(bytes, ansi_);
+  EXPECT_EQ(systemValue("images", "0"), "a.jpg");
+  EXPECT_EQ(ourValue(document, "images", "0"), "");
+  EXPECT_EQ(ourValue(document, "images", "1"), "b.jpg") << "blanks behind a key do not count";
 }
 
 TEST_F(ProfileFunctions, AFileThatWeChangedReadsThereAsItReadsHere) {

@@ -11,6 +11,7 @@ namespace {
 
 using settings::IniDocument;
 using settings::SettingsRecord;
+using settings::WriteExtras;
 using settings::WriteSettings;
 
 const support::Windows1252 kWestern;
@@ -129,6 +130,58 @@ TEST(WriteSettings, ThirtyThousandPicturesAreWrittenAndReadBack) {
   EXPECT_EQ(again.value("total", "total"), "30000");
   EXPECT_EQ(again.value("images", "29999"), "C:\\Pictures\\one.jpg");
   EXPECT_TRUE(again.has("caption", "30000"));
+}
+
+// A code page in which this letter takes two bytes.
+constexpr char kLetter[] = "\xD0\xBB";
+
+class TwoBytes : public os::AnsiCodePage {
+ public:
+  std::string decode(std::string_view ansi) const override { return exchanged(ansi, "\x81\x82", kLetter); }
+  std::optional<std::string> encode(std::string_view utf8) const override {
+    return exchanged(utf8, kLetter, "\x81\x82");
+  }
+
+ private:
+  static std::string exchanged(std::string_view text, std::string_view from, std::string_view to) {
+    std::string result;
+    for (std::size_t i = 0; i < text.size();) {
+      const bool found = text.substr(i).starts_with(from);
+      result += found ? to : text.substr(i, 1);
+      i += found ? from.size() : 1;
+    }
+    return result;
+  }
+};
+
+TEST(WriteSettings, ACaptionThatWouldBeCutInTheCodePageMakesTheFileUtf16) {
+  static const TwoBytes kTwoBytes;
+  for (const std::size_t letters : {127U, 128U, 254U}) {
+    SCOPED_TRACE(letters);
+    std::string caption;
+    for (std::size_t i = 0; i < letters; ++i) caption += kLetter;
+    IniDocument document("", kTwoBytes);
+    WriteSettings(document, {}, {"a"}, {caption});
+    const std::string bytes = document.serialise();
+    EXPECT_EQ(bytes.starts_with("\xFF\xFE"), letters > 127);
+    EXPECT_EQ(settings::ReadIniValue(IniDocument(bytes, kTwoBytes), "caption", "0"), caption);
+  }
+}
+
+TEST(WriteExtras, WritesWhatChangedAloneAndTakesAnAbsenceOut) {
+  IniDocument document("[extras]\r\n; mine\r\ntransitionTime = 700\r\nlog=1\r\nother=x\r\n", kWestern);
+  SettingsRecord loaded;
+  loaded.transitionTime = "700";
+  loaded.log = "1";
+  SettingsRecord record = loaded;
+  WriteExtras(document, record, loaded);
+  EXPECT_EQ(document.serialise(), "[extras]\r\n; mine\r\ntransitionTime = 700\r\nlog=1\r\nother=x\r\n");
+  record.log.clear();
+  record.livePreview = "1";
+  record.transitionTime = "900";
+  WriteExtras(document, record, loaded);
+  EXPECT_EQ(document.serialise(),
+            "[extras]\r\n; mine\r\ntransitionTime = 900\r\nother=x\r\nlivePreview=1\r\n");
 }
 
 }  // namespace

@@ -18,10 +18,10 @@ constexpr int kReportMs = 500;
 
 RealDialog::RealDialog(DialogMachine& machine) {
   const std::int64_t start = clock_.tickMs();
-  loop_.setErrorHandler([](const std::exception&) { std::abort(); });
   dialog_ = std::make_unique<dialog::SettingsDialogWin>(
       dialog::DialogMachineWin{loop_, machine.files, machine.ansi, machine.pictures},
       DialogMachine::kProgramFolder);
+  loop_.setErrorHandler([](const std::exception&) { std::abort(); });
   waitFor([this] { return GetForegroundWindow() == window() && GetFocus() != nullptr; });
   openedInMs_ = clock_.tickMs() - start;
   settleKeyboard();

@@ -15,19 +15,27 @@ std::string Trimmed(std::string text) {
   return text;
 }
 
-// The name of the section that a trimmed line opens.
-std::optional<std::string> Header(const std::string& line) {
+// The name of the section that a line opens.
+std::optional<std::string> Header(const std::string& whole) {
+  const std::string line = Trimmed(whole);
   if (!line.starts_with('[')) return std::nullopt;
   std::string name = line.substr(1);
   if (const std::size_t end = name.find(']'); end != std::string::npos) name.resize(end);
   return base::AsciiLower(Trimmed(name));
 }
 
-// The key's name and value, still with its quotes, of a trimmed line.
-std::optional<std::pair<std::string, std::string>> Key(const std::string& line) {
+bool IsNumber(const std::string& text) {
+  return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+// The key's name and value, still with its quotes. A number with blanks before it is called by both.
+std::optional<std::pair<std::string, std::string>> Key(const std::string& whole) {
+  const std::string line = Trimmed(whole);
   const std::size_t equals = line.find('=');
   if (line.starts_with(';') || line.starts_with('[') || equals == std::string::npos) return std::nullopt;
-  return std::pair(base::AsciiLower(Trimmed(line.substr(0, equals))), Trimmed(line.substr(equals + 1)));
+  std::string name = Trimmed(line.substr(0, equals));
+  if (IsNumber(name)) name.insert(0, whole, 0, whole.find_first_of("0123456789"));
+  return std::pair(base::AsciiLower(name), Trimmed(line.substr(equals + 1)));
 }
 
 std::string Unquoted(std::string value) {
@@ -53,7 +61,7 @@ NaiveIni::NaiveIni(std::string_view file, const os::AnsiCodePage& ansi) {
   const std::string text = isUtf16 ? Utf16ToUtf8(file.substr(2)) : std::string(file);
   std::string line;
   const auto close = [&] {
-    lines_.push_back(Trimmed(isUtf16 ? line : ansi.decode(line)));
+    lines_.push_back(isUtf16 ? line : ansi.decode(line));
     line.clear();
   };
   for (const char c : text) {
@@ -99,7 +107,7 @@ std::vector<std::pair<std::string, std::string>> NaiveIni::names() const {
 std::vector<std::string> NaiveIni::otherLines() const {
   std::vector<std::string> others;
   for (const std::string& line : lines_) {
-    if (!line.empty() && !Header(line) && !Key(line)) others.push_back(line);
+    if (!Trimmed(line).empty() && !Header(line) && !Key(line)) others.push_back(Trimmed(line));
   }
   return others;
 }
