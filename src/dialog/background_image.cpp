@@ -19,6 +19,10 @@ void BackgroundImage::addBackImg_Click() {
   if (!path) return;
   form_.record.backgroundImage = *path;
   form_.backgroundImageFile.setText(*path);
+  if (form_.ahead()) {
+    form_.wishBackgroundPreview(*path);
+    return;
+  }
   // A picture that cannot be loaded is reported when the dialog is opened again.
   const pictures::SharedPicture file = services_.pictures.open(*path);
   form_.Image1.setPicture(file);
@@ -31,6 +35,7 @@ void BackgroundImage::removeBackImg_Click() {
   }
   form_.backgroundImageFile.setText({});
   form_.record.backgroundImage.clear();
+  form_.dropBackgroundPreview();
   form_.Image1.setPicture(nullptr);
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/font.h"
+#include "dialog/awaited_picture.h"
 #include "forms/buttons.h"
 #include "forms/containers.h"
 #include "forms/dialogs.h"
@@ -28,6 +29,7 @@ struct DialogServices {
   pictures::PictureLoader& pictures;
   forms::Dialogs& dialogs;
   forms::WindowSystem& windows;
+  pictures::AheadLoader* ahead = nullptr;  // used where the settings ask for it; null: there is none
 };
 
 // What the font dialog starts with.
@@ -202,6 +204,13 @@ class Form2 : public forms::Form {
   void Form_Load();
   void LoadBackgroundImagePreview(const settings::IniDocument& document);
 
+  // The loader of previews where the settings ask for one, else null: then they are loaded on the spot.
+  pictures::AheadLoader* ahead() const { return loadsAhead_ ? services_.ahead : nullptr; }
+
+  // Shows the background's picture when ahead() has it, and tells when it cannot be had. Needs ahead().
+  void wishBackgroundPreview(const std::string& path);
+  void dropBackgroundPreview() { awaitedBackground_.drop(); }
+
   // What depends on a choice.
   void EnableSolidColorControls(bool enabled);
   void EnableCustomImageControls(bool enabled);
@@ -253,6 +262,8 @@ class Form2 : public forms::Form {
   std::string programFolder_;
   bool loadedWell_ = true;
   std::string loadedFile_;
+  bool loadsAhead_ = false;
+  AwaitedPicture awaitedBackground_;
 };
 
 }  // namespace dialog

@@ -57,6 +57,7 @@ void Form2::loadSettings(settings::SettingsRecord& read) {
   const settings::IniDocument document =
       settings::OpenSettings(services_.files, services_.ansi, programFolder_);
   loadedFile_ = document.serialise();
+  loadsAhead_ = settings::ReadIniValue(document, "extras", "loadAhead") == "1";
   for (const settings::Key& key : settings::kExtraKeys) {
     read.*key.field = settings::ReadIniValue(document, key);
   }
@@ -85,6 +86,10 @@ void Form2::LoadBackgroundImagePreview(const settings::IniDocument& document) {
   record.backgroundImage = settings::ReadIniValue(document, settings::KeyOf(&R::backgroundImage));
   if (record.backgroundImage.empty()) return;
   backgroundImageFile.setText(record.backgroundImage);
+  if (ahead()) {
+    wishBackgroundPreview(record.backgroundImage);
+    return;
+  }
   // Decoded once, at the size at which it is shown: a large photo stays cheap and a broken one is found now.
   const pictures::SharedPicture file = services_.pictures.open(record.backgroundImage);
   base::SharedBitmap drawn;
@@ -94,6 +99,20 @@ void Form2::LoadBackgroundImagePreview(const settings::IniDocument& document) {
     return;
   }
   Image1.setPicture(pictures::MakePicture(std::move(drawn)));
+}
+
+void Form2::wishBackgroundPreview(const std::string& path) {
+  const base::PixelSize box = Image1.pixelRect().size();
+  const auto drawn = [box](const pictures::Picture& file) {
+    base::SharedBitmap bitmap = file.drawnAt(forms::FitInside(file.size(), box));
+    return bitmap ? pictures::MakePicture(std::move(bitmap)) : nullptr;
+  };
+  awaitedBackground_.wish(*ahead(), {.path = path, .box = box, .prepare = drawn},
+                          [this](pictures::SharedPicture picture) {
+                            Image1.setPicture(picture);
+                            if (!picture)
+                              services_.dialogs.messageBox(kCouldNotLoadBackground, forms::kExclamation);
+                          });
 }
 
 }  // namespace dialog

@@ -101,19 +101,19 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
   const startup::CrashGuard guard(restore);
   std::unique_ptr<SaverMode> saver;
   std::unique_ptr<dialog::SettingsDialogWin> settings;
-  const startup::RunModes modes{
-      .showSaver =
-          [&](const os::SystemFacts& facts) {
-            machine.files.enterFolder(machine.programFolder);
-            saver = std::make_unique<SaverMode>(machine, restore, facts);
-          },
-      .showDialog =
-          [&] {
-            settings = std::make_unique<dialog::SettingsDialogWin>(
-                dialog::DialogMachineWin{machine.loop, machine.files, machine.ansi, machine.pictures},
-                machine.programFolder);
-          },
-      .drawPreview = [&](const std::string& text) { DrawPreview(machine, text); }};
+  const startup::RunModes modes{.showSaver =
+                                    [&](const os::SystemFacts& facts) {
+                                      machine.files.enterFolder(machine.programFolder);
+                                      saver = std::make_unique<SaverMode>(machine, restore, facts);
+                                    },
+                                .showDialog =
+                                    [&] {
+                                      settings = std::make_unique<dialog::SettingsDialogWin>(
+                                          dialog::DialogMachineWin{machine.loop, machine.files, machine.ansi,
+                                                                   machine.pictures, machine.ahead.get()},
+                                          machine.programFolder);
+                                    },
+                                .drawPreview = [&](const std::string& text) { DrawPreview(machine, text); }};
   startup::Main(startup::TextAfterProgramName(machine.facts->commandLine(), machine.facts->programPath()),
                 {*machine.facts, *machine.only, *machine.passwords, restore, machine.screen}, modes);
   if (saver || settings) machine.loop.run();
