@@ -11,6 +11,16 @@ if(LUMORA_TESTS)
   list(FILTER long_computations INCLUDE REGEX "_(monkey|random)_test\\.cpp$")
   set_source_files_properties(${long_computations} PROPERTIES
     COMPILE_OPTIONS -O1 SKIP_PRECOMPILE_HEADERS ON)
+
+  # What runs on two threads and what it stands on: a program of its own, so that the thread sanitizer's build
+  # stays small.
+  file(GLOB threaded_sources CONFIGURE_DEPENDS
+       src/base/area_average.cpp src/base/average_row.cpp src/base/bitmap.cpp src/base/premultiply.cpp
+       src/base/resample.cpp src/base/rounding.cpp src/os/worker_thread.cpp src/pictures/ahead_loader.cpp
+       src/pictures/picture.cpp tests/os/worker_thread_test.cpp tests/pictures/ahead_loader_threads_test.cpp)
+  add_executable(lumora_thread_tests EXCLUDE_FROM_ALL ${threaded_sources})
+  target_include_directories(lumora_thread_tests PRIVATE tests)
+  target_link_libraries(lumora_thread_tests PRIVATE lumora_flags gtest_main)
 endif()
 
 file(GLOB picture_sources CONFIGURE_DEPENDS tools/pictures/*.cpp)

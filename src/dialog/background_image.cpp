@@ -19,6 +19,10 @@ void BackgroundImage::addBackImg_Click() {
   if (!path) return;
   form_.record.backgroundImage = *path;
   form_.backgroundImageFile.setText(*path);
+  if (form_.ahead()) {
+    form_.wishBackgroundPreview(*path);
+    return;
+  }
   const bool loads = form_.drawBackgroundPreview(*path) != nullptr;
   form_.Image1.setPicture(loads ? services_.pictures.open(*path) : nullptr);
   if (!loads) services_.dialogs.messageBox(kCouldNotLoadBackground, forms::kExclamation);
@@ -31,6 +35,7 @@ void BackgroundImage::removeBackImg_Click() {
   }
   form_.backgroundImageFile.setText({});
   form_.record.backgroundImage.clear();
+  form_.dropBackgroundPreview();
   form_.Image1.setPicture(nullptr);
 }
 

@@ -5,12 +5,8 @@
 #include <utility>
 
 #include "forms/surface_win.h"
-<<<<<<< HEAD
-#include "os/program_resources_win.h"
-=======
 #include "os/files_win.h"
-#include "os/program_icon_win.h"
->>>>>>> settings
+#include "os/program_resources_win.h"
 
 namespace dialog {
 
@@ -31,7 +27,8 @@ SettingsDialogWin::SettingsDialogWin(const DialogMachineWin& machine, const std:
     : loop_(machine.loop),
       windows_(loop_),
       dialogs_([this] { return windows_.activeWindow(); }),
-      dialog_({machine.files, machine.ansi, machine.pictures, dialogs_, windows_, os::IsReadOnlyFile}, loop_,
+      dialog_({machine.files, machine.ansi, machine.pictures, dialogs_, windows_, os::IsReadOnlyFile, machine.ahead},
+              loop_,
               *shell_, programFolder, ProductIcon()),
       filter_(loop_.addMessageFilter([this](MSG& message) { return windows_.filterMessage(message); })) {
   dialog_.show();

@@ -21,6 +21,7 @@ struct DialogMachineWin {
   os::Files& files;
   const os::AnsiCodePage& ansi;
   pictures::PictureLoader& pictures;
+  pictures::AheadLoader* ahead = nullptr;
 };
 
 class SettingsDialogWin {

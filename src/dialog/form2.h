@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/font.h"
+#include "dialog/awaited_picture.h"
 #include "forms/buttons.h"
 #include "forms/containers.h"
 #include "forms/dialogs.h"
@@ -30,6 +31,7 @@ struct DialogServices {
   forms::Dialogs& dialogs;
   forms::WindowSystem& windows;
   std::function<bool(const std::string& path)> isReadOnly = nullptr;  // without it no file is
+  pictures::AheadLoader* ahead = nullptr;  // used where the settings ask for it; null: there is none
 };
 
 // What the font dialog starts with.
@@ -213,6 +215,13 @@ class Form2 : public forms::Form {
   void setSavingNote(std::string note);
   void showNotes();
 
+  // The loader of previews where the settings ask for one, else null: then they are loaded on the spot.
+  pictures::AheadLoader* ahead() const { return loadsAhead_ ? services_.ahead : nullptr; }
+
+  // Shows the background's picture when ahead() has it, and tells when it cannot be had. Needs ahead().
+  void wishBackgroundPreview(const std::string& path);
+  void dropBackgroundPreview() { awaitedBackground_.drop(); }
+
   // What depends on a choice.
   void EnableSolidColorControls(bool enabled);
   void EnableCustomImageControls(bool enabled);
@@ -267,6 +276,8 @@ class Form2 : public forms::Form {
   std::string loadedFile_;
   settings::SettingsRecord loaded_;
   std::string savingNote_;
+  bool loadsAhead_ = false;
+  AwaitedPicture awaitedBackground_;
 };
 
 }  // namespace dialog

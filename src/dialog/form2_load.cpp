@@ -61,6 +61,7 @@ void Form2::loadSettings(settings::SettingsRecord& read) {
   const settings::IniDocument document =
       settings::OpenSettings(services_.files, services_.ansi, programFolder_);
   loadedFile_ = document.serialise();
+  loadsAhead_ = settings::ReadIniValue(document, "extras", "loadAhead") == "1";
   for (const settings::Key& key : settings::kExtraKeys) {
     read.*key.field = settings::ReadIniValue(document, key);
   }
@@ -94,6 +95,10 @@ void Form2::LoadBackgroundImagePreview(const settings::IniDocument& document) {
   record.backgroundImage = settings::ReadIniValue(document, settings::KeyOf(&R::backgroundImage));
   if (record.backgroundImage.empty()) return;
   backgroundImageFile.setText(record.backgroundImage);
+  if (ahead()) {
+    wishBackgroundPreview(record.backgroundImage);
+    return;
+  }
   base::SharedBitmap drawn = drawBackgroundPreview(record.backgroundImage);
   if (!drawn) {
     services_.dialogs.messageBox(kCouldNotLoadBackground, forms::kExclamation);
@@ -124,6 +129,20 @@ void Form2::showNotes() {
     notes += kMoreThanTheShowCanUse;
   }
   SS_StatusBar.setPanelText(2, notes);
+}
+
+void Form2::wishBackgroundPreview(const std::string& path) {
+  const base::PixelSize box = Image1.pixelRect().size();
+  const auto drawn = [box](const pictures::Picture& file) {
+    base::SharedBitmap bitmap = file.drawnAt(forms::FitInside(file.size(), box));
+    return bitmap ? pictures::MakePicture(std::move(bitmap)) : nullptr;
+  };
+  awaitedBackground_.wish(*ahead(), {.path = path, .box = box, .prepare = drawn},
+                          [this](pictures::SharedPicture picture) {
+                            Image1.setPicture(picture);
+                            if (!picture)
+                              services_.dialogs.messageBox(kCouldNotLoadBackground, forms::kExclamation);
+                          });
 }
 
 }  // namespace dialog

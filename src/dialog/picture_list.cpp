@@ -102,7 +102,14 @@ bool PictureList::ShowPreview(const std::string& path) {
 }
 
 bool PictureList::preview(const std::string& path) {
-  if (form_.photo1.picture() && previewed_ == path) return true;
+  if (form_.photo1.picture() && previewed_ == path) {
+    awaited_.drop();
+    return true;
+  }
+  if (pictures::AheadLoader* ahead = form_.ahead(); ahead && !path.empty()) {
+    wishPreview(*ahead, path);
+    return true;
+  }
   const pictures::SharedPicture file = path.empty() ? nullptr : services_.pictures.open(path);
   form_.photo.setPicture(file);
   base::SharedBitmap thumbnail =
@@ -116,7 +123,28 @@ bool PictureList::preview(const std::string& path) {
   return true;
 }
 
+// The row before stays in sight until this one's picture is there; a row that was passed is forgotten.
+void PictureList::wishPreview(pictures::AheadLoader& loader, const std::string& path) {
+  if (awaited_.isFor(path)) return;
+  const base::PixelSize box = form_.photo1.scaleSize();
+  const auto thumbnail = [box](const pictures::Picture& file) {
+    base::SharedBitmap drawn = DrawThumbnail(file, box);
+    return drawn ? pictures::MakePicture(std::move(drawn)) : nullptr;
+  };
+  awaited_.wish(loader, {.path = path, .box = box, .prepare = thumbnail},
+                [this, path](const pictures::SharedPicture& picture) {
+                  if (!picture) {
+                    clearPreview();
+                    tellCannotLoad();
+                    return;
+                  }
+                  form_.photo1.setPicture(picture);
+                  previewed_ = path;
+                });
+}
+
 void PictureList::clearPreview() {
+  awaited_.drop();
   if (form_.photo1.picture()) form_.photo1.setPicture(nullptr);
   previewed_.clear();
 }

@@ -68,7 +68,8 @@ class PictureList {
   void listChanged() { form_.showNotes(); }
 
   // Shows a picture file as a thumbnail in photo1; no path shows nothing. False when there is a path and its
-  // picture cannot be loaded; photo1 is then empty.
+  // picture cannot be loaded; photo1 is then empty. Where pictures are loaded ahead it returns at once with
+  // true: photo1 follows when the picture is there, and what cannot be loaded is told then.
   bool ShowPreview(const std::string& path);
 
   // The list for whoever else adds to it; refers to this object.
@@ -84,6 +85,7 @@ class PictureList {
   bool preview(const std::string& path);
   void selectionRested();
   void tellCannotLoad();
+  void wishPreview(pictures::AheadLoader& loader, const std::string& path);
   void clearPreview();
   void showTotal();
 
@@ -92,6 +94,7 @@ class PictureList {
   PicturePaths paths_;
   SelectionRest rest_;
   auxwin::ManyImagesAdvice advice_;
+  AwaitedPicture awaited_;
   std::string previewed_;  // the path whose thumbnail photo1 shows
 };
 

@@ -3,11 +3,7 @@
 #include <new>
 #include <utility>
 
-<<<<<<< HEAD
-=======
-#include "auxwin/multi_files.h"
 #include "dialog/messages.h"
->>>>>>> settings
 #include "dialog/save_settings.h"
 #include "os/paths.h"
 
@@ -84,12 +80,12 @@ void SettingsDialog::Ok_Click() { save(); }
 void SettingsDialog::Save_Click() { save(); }
 
 void SettingsDialog::FolderCommand_Click() {
-<<<<<<< HEAD
   const std::string workingFolder = services_.files.currentFolder();
   enterPicturesFolder();
   import.emplace(pictures.target(), services_.files, services_.dialogs, services_.windows);
   services_.files.enterFolder(workingFolder);
   services_.windows.showModal(*import);
+  pictures.listChanged();
   if (!import->addedFolder().empty()) lastFolder_ = import->addedFolder();
 }
 
@@ -98,11 +94,6 @@ void SettingsDialog::enterPicturesFolder() {
   for (const std::string& folder : {lastFolder_, services_.files.picturesFolder(), form.programFolder()}) {
     if (services_.files.enterFolder(folder)) return;
   }
-=======
-  auxwin::MultiFiles import(pictures.target(), services_.files, services_.dialogs, services_.windows);
-  services_.windows.showModal(import);
-  pictures.listChanged();
->>>>>>> settings
 }
 
 // One viewer at a time; another picture takes the place of the one that it shows.

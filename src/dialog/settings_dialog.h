@@ -1,11 +1,8 @@
 // The settings dialog with everything that its buttons and menus lead to.
 #pragma once
 
-<<<<<<< HEAD
-#include <optional>
-=======
 #include <exception>
->>>>>>> settings
+#include <optional>
 #include <string>
 
 #include "auxwin/frm_about.h"
@@ -60,11 +57,8 @@ class SettingsDialog {
   DialogServices services_;
   os::EventLoop& loop_;
   os::Shell& shell_;
-<<<<<<< HEAD
   std::string lastFolder_;  // from which pictures were added last
-=======
   bool telling_ = false;  // of an error
->>>>>>> settings
 };
 
 }  // namespace dialog

@@ -70,6 +70,8 @@ void Form1::wireTimers() {
 
 void Form1::unload() {
   unloaded_ = true;
+  next_.forget();
+  dropBackgroundWish();
   for (forms::Timer* timer : {&StartSaver, &ImageChangeTimer, &FloatTimer, &ScrollerTimer, &timeTimer}) {
     timer->setEnabled(false);
   }
@@ -82,6 +84,7 @@ void Form1::Form_Load() {
   coverScreen();
   if (facts_.guardsPassword()) services_.desktop.setScreenSaverRunning(true);
   settings::LoadSettings(settings_, document);
+  loadsAhead_ = settings::ReadIniValue(document, "extras", "loadAhead") == "1";
   PrepareDisplay();
   services_.stage.flush();
 }
@@ -100,14 +103,19 @@ void Form1::PrepareDisplay() {
   timeDisplay_.prepare();
   StartSaver.setInterval(kStartDelayMs);
   StartSaver.setEnabled(true);
+  if (loadsAhead_) chooseFirst();  // made ready while the background stands alone
+}
+
+void Form1::chooseFirst() {
+  reseed();
+  currentImageIndex_ = -1;
+  AdvancePictureIndex();
 }
 
 void Form1::StartSaver_Timer() {
   // The first change yields to events, and this timer is still enabled then.
   if (change_ != ChangeState::None) return;
-  reseed();
-  currentImageIndex_ = -1;
-  AdvancePictureIndex();
+  if (!loadsAhead_) chooseFirst();
   if (floats()) {
     setFloatInterval();
   } else if (base::StrictDouble(settings_.record.timeInterval) == 0) {
@@ -163,6 +171,7 @@ void Form1::AdvancePictureIndex() {
   } else {
     currentImageIndex_ = base::ToInt16(currentImageIndex_ + 1);
   }
+  if (loadsAhead_) prepareNext();
 }
 
 bool Form1::floats() const { return settings_.record.picRandom != "cent"; }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "base/random.h"
@@ -21,6 +22,7 @@
 #include "saver/background.h"
 #include "saver/caption.h"
 #include "saver/floating.h"
+#include "saver/next_picture.h"
 #include "saver/stage.h"
 #include "saver/stage_window.h"
 #include "saver/time_display.h"
@@ -35,6 +37,7 @@ struct ShowServices {
   os::Files& files;
   const os::AnsiCodePage& ansi;
   pictures::PictureLoader& pictures;
+  pictures::AheadLoader& ahead;  // used in the place of `pictures` where the settings ask for it
   const os::Clock& clock;
   os::EventLoop& loop;
   const os::Screen& screen;
@@ -50,6 +53,7 @@ struct ShowServices {
 class Form1 : public forms::Form {
  public:
   Form1(const ShowServices& services, const os::SystemFacts& facts, std::string programFolder);
+  ~Form1() { dropBackgroundWish(); }
 
   forms::PictureBox BgrImage;           // the composed background
   forms::PictureBox PreBgrImage;        // the user's background picture as loaded
@@ -117,7 +121,13 @@ class Form1 : public forms::Form {
   bool floats() const;
   int changeIntervalMs() const;
   void clearBoxes();
-  void loadPicture(std::int16_t number);
+  void chooseFirst();
+  std::optional<pictures::Wish> wishFor(std::int16_t number) const;
+  void prepareNext();
+  void awaitPicture();
+  void useLoadedPicture();
+  void wishBackground(ImageLayout layout);
+  void dropBackgroundWish();
   void PlacePicture();
   void runEffect(const Effect& effect, const base::SharedBitmap& pixels);
   void pauseAfterRetiring();
@@ -135,8 +145,11 @@ class Form1 : public forms::Form {
   base::SharedBitmap desktop_;  // as it was before the window covered it; null where it is not wanted
   base::PixelSize screenSize_;
   std::int16_t currentImageIndex_ = 0;
-  std::int16_t loadedImageIndex_ = 0;  // of the picture that LoadCurrentPicture took last
-  int loadReduction_ = 1;              // by which power of two LoadCurrentPicture divided the picture's size
+  bool loadsAhead_ = false;  // pictures come from services_.ahead, and nothing waits for a disk
+  NextPicture next_{services_.ahead, services_.loop, services_.clock};
+  std::optional<pictures::AheadLoader::Ticket> backgroundWish_;
+  pictures::SharedPicture loadedPicture_;  // as LoadCurrentPicture took it last, or null
+  int loadReduction_ = 1;  // by which power of two LoadCurrentPicture divided the picture's size
   FloatStep floatStep_;
   bool pictureShown_ = false;
   ChangeState change_ = ChangeState::None;

@@ -47,13 +47,40 @@ base::SharedBitmap Form1::composeGradient() {
 base::SharedBitmap Form1::composeCustomImage() {
   const std::optional<ImageLayout> layout =
       ImageLayoutNumbered(base::StrictDouble(settings_.record.backgroundDisplay));
+  if (layout && loadsAhead_) {
+    wishBackground(*layout);
+    return nullptr;
+  }
   const pictures::SharedPicture file = services_.pictures.open(settings_.record.backgroundImage);
   if (!layout || !file) return nullptr;
   PreBgrImage.setPicture(file);
-  std::optional<base::Bitmap> composed = ComposeImage(*PreBgrImage.picture(), *layout, screenSize_,
-                                                      twipsPerPixel(), base::OpaquePixel(backColor()));
+  std::optional<base::Bitmap> composed =
+      ComposeImage(*file, *layout, screenSize_, twipsPerPixel(), base::OpaquePixel(backColor()));
   if (!composed) return nullptr;
   return std::make_shared<base::Bitmap>(std::move(*composed));
+}
+
+// The show begins over the window's own colour; the picture comes under it when it is ready.
+void Form1::wishBackground(ImageLayout layout) {
+  dropBackgroundWish();
+  const auto compose = [layout, screen = screenSize_, perPixel = twipsPerPixel(),
+                        color = base::OpaquePixel(backColor())](const pictures::Picture& file) {
+    std::optional<base::Bitmap> composed = ComposeImage(file, layout, screen, perPixel, color);
+    return composed ? pictures::MakePicture(std::make_shared<base::Bitmap>(std::move(*composed))) : nullptr;
+  };
+  backgroundWish_ =
+      services_.ahead.wish({.path = settings_.record.backgroundImage, .box = screenSize_, .prepare = compose},
+                           [this](const pictures::SharedPicture& composed) {
+                             backgroundWish_.reset();
+                             if (isOver() || !composed) return;
+                             BgrImage.setPicture(composed);
+                             services_.stage.flush();
+                           });
+}
+
+void Form1::dropBackgroundWish() {
+  if (backgroundWish_) services_.ahead.drop(*backgroundWish_);
+  backgroundWish_.reset();
 }
 
 }  // namespace saver

@@ -47,6 +47,8 @@ class Form1::ChangeScope {
 
 void Form1::ShowNextPicture() {
   const ChangeScope change(change_);
+  awaitPicture();
+  if (isOver()) return;
   Label1.setVisible(false);
   clearBoxes();
   if (pictureShown_) {
@@ -56,6 +58,7 @@ void Form1::ShowNextPicture() {
   DisplayingPicture.setVisible(false);
   change_ = ChangeState::UnderWay;  // from here on everything is for the screen as it is now
   LoadCurrentPicture();
+  if (isOver()) return;
   ScalePicture();
   PlacePicture();
   DisplayingPicture.setVisible(true);

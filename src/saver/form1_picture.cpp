@@ -8,24 +8,50 @@
 
 namespace saver {
 
-void Form1::LoadCurrentPicture() {
-  loadedImageIndex_ = currentImageIndex_;
-  loadPicture(loadedImageIndex_);
+std::optional<pictures::Wish> Form1::wishFor(std::int16_t number) const {
+  const auto index = static_cast<std::size_t>(number);
+  if (number < 0 || index >= settings_.imageFiles.size() || settings_.imageFiles[index].empty()) {
+    return std::nullopt;
+  }
+  const PictureLimit limit = PictureLimit::of(width(), height(), settings_.pictureScale);
+  return pictures::Wish{.path = settings_.imageFiles[index],
+                        .box = {limit.maxPictureWidth, limit.maxPictureHeight},
+                        .prepare = [limit, perPixel = twipsPerPixel()](const pictures::Picture& file) {
+                          return pictures::DrawAhead(file, ShownPixels(limit, file.size(), perPixel));
+                        }};
 }
 
-void Form1::loadPicture(std::int16_t number) {
+// Behind the last picture comes the first, as soon as its turn is there.
+void Form1::prepareNext() {
+  const bool isBehindLast = currentImageIndex_ > settings_.lastImageIndex;
+  if (const auto wish = wishFor(isBehindLast ? std::int16_t{0} : currentImageIndex_)) next_.prepare(*wish);
+}
+
+// The old picture stands until the new one is there, or is known not to come.
+void Form1::awaitPicture() {
+  const auto wish = loadsAhead_ ? wishFor(currentImageIndex_) : std::nullopt;
+  if (wish) next_.wait(*wish, [this] { return isOver(); });
+}
+
+void Form1::LoadCurrentPicture() {
+  const auto wish = wishFor(currentImageIndex_);
+  if (!wish) {
+    loadedPicture_ = nullptr;
+  } else if (loadsAhead_) {
+    loadedPicture_ = next_.take(*wish, [this] { return isOver(); });
+    if (isOver()) return;
+  } else {
+    loadedPicture_ = services_.pictures.open(wish->path);
+  }
+  useLoadedPicture();
+}
+
+void Form1::useLoadedPicture() {
   loadReduction_ = 1;
-  const auto index = static_cast<std::size_t>(number);
-  pictures::SharedPicture file;
-  if (number >= 0 && index < settings_.imageFiles.size() && !settings_.imageFiles[index].empty()) {
-    file = services_.pictures.open(settings_.imageFiles[index]);
-  }
-  if (!file) {
-    // Passed over in silence: an empty picture of the box's present size, through which the background shows.
-    IntialPicture.setPicture(nullptr);
-    return;
-  }
-  IntialPicture.setPicture(std::move(file));
+  // None is passed over in silence: an empty picture of the box's present size, through which the background
+  // shows.
+  IntialPicture.setPicture(loadedPicture_);
+  if (!loadedPicture_) return;
   const PictureLimit limit = PictureLimit::of(width(), height(), settings_.pictureScale);
   loadReduction_ =
       ReductionFor(limit, base::ToInt32(IntialPicture.width()), base::ToInt32(IntialPicture.height()));

@@ -34,6 +34,7 @@ void Form1::layOutAgain() {
     DisplayingPicture.setVisible(false);
     return;
   }
+  if (loadsAhead_) prepareNext();
   if (!pictureShown_) return;
   refitPicture();
   caption_.screenChanged();
@@ -42,7 +43,7 @@ void Form1::layOutAgain() {
 void Form1::refitPicture() {
   clearBoxes();
   DisplayingPicture.setVisible(false);
-  loadPicture(loadedImageIndex_);
+  useLoadedPicture();
   ScalePicture();
   PlacePicture();
   DisplayingPicture.setVisible(true);

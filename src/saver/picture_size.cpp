@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "base/rounding.h"
+#include "base/twips.h"
 
 namespace saver {
 
@@ -57,6 +58,21 @@ ShownSize ScalePictureSize(const PictureLimit& limit, const LoadedPicture& pictu
   const std::int32_t shown = visible(limit.maxPictureWidth);
   base::MultiplyInt32(picture.loadedHeight(), shown);
   return {shown, visible(Proportional(picture.height, picture.width, shown))};
+}
+
+base::PixelSize ShownPixels(const PictureLimit& limit, base::PixelSize picture, int twipsPerPixel) {
+  // A box with a picture has single-precision sides.
+  const auto twips = [twipsPerPixel](int pixels) {
+    return base::ToInt32(static_cast<double>(static_cast<float>(pixels) * static_cast<float>(twipsPerPixel)));
+  };
+  const auto pixels = [twipsPerPixel](std::int32_t length) {
+    return base::TwipsToPixels(static_cast<double>(static_cast<float>(length)), twipsPerPixel);
+  };
+  const std::int32_t width = twips(picture.width);
+  const std::int32_t height = twips(picture.height);
+  const ShownSize shown = ScalePictureSize(
+      limit, {.width = width, .height = height, .reduction = ReductionFor(limit, width, height)});
+  return {pixels(shown.width), pixels(shown.height)};
 }
 
 }  // namespace saver

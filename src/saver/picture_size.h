@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+#include "base/geometry.h"
+
 namespace saver {
 
 // The share of the screen that a picture may take, in whole twips.
@@ -47,5 +49,8 @@ int ReductionFor(const PictureLimit& limit, std::int32_t width, std::int32_t hei
 // keeps the product in range and changes nothing in the result, since the proportion is that of the whole
 // picture. No side of a picture is shown with less than one pixel; an empty picture stays empty.
 ShownSize ScalePictureSize(const PictureLimit& limit, const LoadedPicture& picture);
+
+// The pixels at which a picture of a size in pixels is shown by these rules, known before any control has it.
+base::PixelSize ShownPixels(const PictureLimit& limit, base::PixelSize picture, int twipsPerPixel);
 
 }  // namespace saver

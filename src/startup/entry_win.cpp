@@ -26,6 +26,7 @@
 #include "saver/stage_window_win.h"
 #include "startup/command_line.h"
 #include "startup/crash_guard_win.h"
+#include "startup/loading_win.h"
 #include "startup/main.h"
 #include "startup/preview.h"
 #include "startup/show.h"
@@ -57,6 +58,7 @@ struct Machine {
   std::unique_ptr<os::DateText> dates = os::MakeDateText();
   os::PictureDecoderWin decoder;
   pictures::FilePictureLoader pictures{files, decoder};
+  std::unique_ptr<pictures::AheadLoader> ahead = startup::MakeAheadLoader(loop);
   std::string programFolder = os::FolderOf(facts->programPath());
 };
 
@@ -67,8 +69,8 @@ class SaverMode {
       : window_(machine.loop),
         text_(machine.screen.dpi()),
         stage_(window_, text_, base::TwipsPerPixelForDpi(machine.screen.dpi())),
-        show_({machine.files, machine.ansi, machine.pictures, machine.clock, machine.loop, machine.screen,
-               restore, *machine.dates, stage_, window_},
+        show_({machine.files, machine.ansi, machine.pictures, *machine.ahead, machine.clock, machine.loop,
+               machine.screen, restore, *machine.dates, stage_, window_},
               {*machine.passwords, restore, machine.screen}, restore, facts, machine.programFolder,
               [&machine] { return std::make_unique<saver::StageWindowWin>(machine.loop); }) {
     show_.start();
@@ -106,12 +108,17 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
       .showDialog =
           [&] {
             settings = std::make_unique<dialog::SettingsDialogWin>(
-                dialog::DialogMachineWin{machine.loop, machine.savedFiles, machine.ansi, machine.pictures},
+                dialog::DialogMachineWin{machine.loop, machine.savedFiles, machine.ansi, machine.pictures,
+                                         machine.ahead.get()},
                 machine.programFolder);
           },
       .drawPreview = [&](const std::string& text) { DrawPreview(machine, text); }};
   startup::Main(startup::TextAfterProgramName(machine.facts->commandLine(), machine.facts->programPath()),
                 {*machine.facts, *machine.only, *machine.passwords, restore, machine.screen}, modes);
   if (saver || settings) machine.loop.run();
+  saver.reset();
+  settings.reset();
+  restore.restore();
+  startup::EndLoading(std::move(machine.ahead));
   return 0;
 }

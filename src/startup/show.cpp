@@ -45,10 +45,12 @@ Show::Show(const saver::ShowServices& services, const SaverExit::Services& exit,
   services_.pictures.onFailure = [this](const std::string& path, pictures::PictureFailure failure) {
     notePicture(path, failure);
   };
+  services_.ahead.onFailure = services_.pictures.onFailure;
 }
 
 Show::~Show() {
   services_.pictures.onFailure = nullptr;
+  services_.ahead.onFailure = nullptr;
   services_.stage.onPlacesChanged = nullptr;
   services_.loop.setErrorHandler(nullptr);
 }

@@ -48,8 +48,8 @@ class MonkeyShow {
     drawSettings();
     stage_.writeSettings();
     const saver::ShowServices s = stage_.services();
-    show_.emplace(saver::ShowServices{s.files, s.ansi, s.pictures, s.clock, s.loop, s.screen, restore_,
-                                      s.dates, s.stage, s.window},
+    show_.emplace(saver::ShowServices{s.files, s.ansi, s.pictures, s.ahead, s.clock, s.loop, s.screen,
+                                      restore_, s.dates, s.stage, s.window},
                   startup::SaverExit::Services{machine_.passwords, restore_, stage_.screen}, restore_, facts_,
                   support::ShowStage::programFolder(), [] {
                     return std::make_unique<support::FakeStageWindow>(base::PixelSize{1, 1});

@@ -18,15 +18,15 @@ class ShowTest : public testing::Test {
   void start(const os::SystemFacts& facts = {}) {
     stage.writeSettings();
     saver::ShowServices services = stage.services();
-    show.emplace(
-        saver::ShowServices{services.files, services.ansi, services.pictures, services.clock, services.loop,
-                            services.screen, restore, services.dates, services.stage, services.window},
-        startup::SaverExit::Services{machine.passwords, restore, stage.screen}, restore, facts,
-        support::ShowStage::programFolder(), [this] {
-          auto cover = std::make_unique<support::FakeStageWindow>(base::PixelSize{1, 1});
-          covers.push_back(cover.get());
-          return cover;
-        });
+    show.emplace(saver::ShowServices{services.files, services.ansi, services.pictures, services.ahead,
+                                     services.clock, services.loop, services.screen, restore, services.dates,
+                                     services.stage, services.window},
+                 startup::SaverExit::Services{machine.passwords, restore, stage.screen}, restore, facts,
+                 support::ShowStage::programFolder(), [this] {
+                   auto cover = std::make_unique<support::FakeStageWindow>(base::PixelSize{1, 1});
+                   covers.push_back(cover.get());
+                   return cover;
+                 });
     restore.hideTaskbar(restore.findTaskbar());
     show->start();
   }

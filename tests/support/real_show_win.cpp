@@ -5,11 +5,16 @@
 
 #include "os/date_text.h"
 #include "settings/settings_file.h"
+#include "startup/loading_win.h"
 
 namespace support {
 
 RealShow::RealShow(const os::Clock& clock, os::EventLoop& loop, base::PixelSize screenSize)
-    : dates_(os::MakeDateText()), clock_(clock), loop_(loop), window_(loop) {
+    : ahead_(startup::MakeAheadLoader(loop)),
+      dates_(os::MakeDateText()),
+      clock_(clock),
+      loop_(loop),
+      window_(loop) {
   screen_.size = screenSize;
 }
 
@@ -30,8 +35,8 @@ void RealShow::addPath(const std::string& path, const std::string& caption) {
 void RealShow::start() {
   settings_.try_emplace("total/total", std::to_string(count_));
   files_.replace(settings::IniPath(folder()), IniText(settings_));
-  form_ = std::make_unique<saver::Form1>(saver::ShowServices{files_, ansi_, pictures_, clock_, loop_, screen_,
-                                                             desktop_, *dates_, stage_, window_},
+  form_ = std::make_unique<saver::Form1>(saver::ShowServices{files_, ansi_, pictures_, *ahead_, clock_, loop_,
+                                                             screen_, desktop_, *dates_, stage_, window_},
                                          os::SystemFacts{}, folder());
   loop_.setErrorHandler([this](const std::exception&) { form_->unload(); });
   form_->Form_Load();

@@ -49,6 +49,7 @@ class RealShow {
   os::AnsiCodePageWin ansi_;
   os::PictureDecoderWin decoder_;
   pictures::FilePictureLoader pictures_{files_, decoder_};
+  std::unique_ptr<pictures::AheadLoader> ahead_;
   std::unique_ptr<os::DateText> dates_;
   FakeScreen screen_;
   FakeDesktop desktop_;

@@ -11,6 +11,7 @@
 #include "support/dialog_machine.h"
 #include "support/fake_clock.h"
 #include "support/fake_event_loop.h"
+#include "support/fake_workers.h"
 #include "support/shell_recorder.h"
 
 namespace support {
@@ -36,6 +37,8 @@ class SettingsDialogMachine : public DialogMachine {
 
   FakeClock clock;
   FakeEventLoop loop{clock};
+  FakeWorkers workers{loop};
+  pictures::AheadLoader ahead{{std::shared_ptr<void>(), &pictures}, loop, workers.maker()};
   ShellRecorder shell;
 
  private:

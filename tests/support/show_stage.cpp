@@ -34,9 +34,7 @@ void ShowStage::writeSettings() {
 
 void ShowStage::start() {
   writeSettings();
-  form = std::make_unique<saver::Form1>(
-      saver::ShowServices{files, ansi, pictures, clock, loop, screen, desktop, dates, stage, window}, facts,
-      kFolder);
+  form = std::make_unique<saver::Form1>(services(), facts, kFolder);
   const auto end = [this](const std::exception& error) {
     errors.emplace_back(error.what());
     form->unload();

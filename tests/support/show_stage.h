@@ -16,6 +16,7 @@
 #include "support/fake_screen.h"
 #include "support/fake_stage_window.h"
 #include "support/fake_text_renderer.h"
+#include "support/fake_workers.h"
 #include "support/plain_show.h"
 #include "support/windows_1252.h"
 
@@ -35,7 +36,7 @@ class ShowStage {
 
   // What a show on this machine runs on.
   saver::ShowServices services() {
-    return {files, ansi, pictures, clock, loop, screen, desktop, dates, stage, window};
+    return {files, ansi, pictures, ahead, clock, loop, screen, desktop, dates, stage, window};
   }
   static const char* programFolder();
 
@@ -56,6 +57,8 @@ class ShowStage {
   FakeScreen screen;
   FakeFiles files;
   FakePictures pictures;
+  FakeWorkers workers{loop};
+  pictures::AheadLoader ahead{{std::shared_ptr<void>(), &pictures}, loop, workers.maker()};
   FakeDateText dates;
   FakeTextRenderer text;
   FakeDesktop desktop;

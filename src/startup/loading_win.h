@@ -1,0 +1,18 @@
+// Loading pictures beside the user-interface thread, with the machine's decoder.
+#pragma once
+
+#include <memory>
+
+#include "os/event_loop.h"
+#include "pictures/ahead_loader.h"
+
+namespace startup {
+
+// Its threads begin with the first wish, and have file access and decoder of their own. The loop outlives it.
+std::unique_ptr<pictures::AheadLoader> MakeAheadLoader(os::EventLoop& loop);
+
+// Gives a loader up and does not return when a thread of it hangs in the system: the process then ends at
+// once, without asking libraries that such a thread may hold. Everything else has to be put in order before.
+void EndLoading(std::unique_ptr<pictures::AheadLoader> loader);
+
+}  // namespace startup

@@ -1,0 +1,169 @@
+// The show with loadAhead=1: the next picture is made ready while the present one stands.
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <random>
+
+#include "saver/picture_size.h"
+#include "support/show_stage.h"
+
+namespace saver {
+namespace {
+
+constexpr base::PackedColor kRed = base::Rgb(255, 0, 0);
+constexpr base::PackedColor kGreen = base::Rgb(0, 255, 0);
+constexpr base::PackedColor kBlue = base::Rgb(0, 0, 255);
+
+class Form1Ahead : public testing::Test {
+ protected:
+  Form1Ahead() {
+    show.set("extras/loadAhead", "1");
+    show.addPicture({400, 300}, kRed);
+    show.addPicture({400, 300}, kGreen);
+    show.addPicture({400, 300}, kBlue);
+  }
+
+  void loadingTakes(std::optional<int> ms) {
+    show.workers.delayMs = [ms] { return ms; };
+  }
+  base::Pixel middle() const { return show.screenAt(512, 384); }
+
+  support::ShowStage show;
+};
+
+TEST_F(Form1Ahead, WithoutTheKeyNothingIsLoadedBesideTheThread) {
+  show.drop("extras/loadAhead");
+  show.start();
+  show.runFor(5000);
+  EXPECT_EQ(show.workers.made, 0);
+  EXPECT_EQ(show.pictures.opened.size(), 4U);  // at 0.5, 1.5, 2.8 and 4.1 seconds
+}
+
+TEST_F(Form1Ahead, TheFirstPictureIsMadeReadyBeforeItsTime) {
+  show.start();
+  show.runFor(490);
+  EXPECT_EQ(show.pictures.drawnSizes, (std::vector<base::PixelSize>{{400, 300}}));
+  EXPECT_EQ(middle(), base::OpaquePixel(0));
+  show.runFor(30);
+  EXPECT_EQ(middle(), base::OpaquePixel(kRed));
+}
+
+TEST_F(Form1Ahead, EachPictureIsDrawnOnceBesideTheThreadAndShownInItsTurn) {
+  show.start();
+  for (const base::PackedColor color : {kRed, kGreen, kBlue, kRed}) {
+    show.runFor(color == kRed && show.pictures.opened.size() < 2 ? 700 : 1300);
+    EXPECT_EQ(middle(), base::OpaquePixel(color));
+  }
+  EXPECT_EQ(show.pictures.opened.size(), show.pictures.drawnSizes.size());
+  EXPECT_EQ(show.workers.jobs, static_cast<int>(show.pictures.opened.size()));
+}
+
+TEST_F(Form1Ahead, OnePictureIsReadyAheadAndNoMore) {
+  show.start();
+  show.runFor(900);
+  EXPECT_EQ(show.pictures.opened.size(), 2U);
+}
+
+TEST_F(Form1Ahead, TheFirstPictureMayComeLateAndTheBackgroundStandsMeanwhile) {
+  loadingTakes(4000);
+  show.start();
+  show.runFor(3900);
+  EXPECT_EQ(middle(), base::OpaquePixel(0));
+  show.runFor(200);
+  EXPECT_EQ(middle(), base::OpaquePixel(kRed));
+}
+
+TEST_F(Form1Ahead, TheOldPictureStandsUntilTheNewOneIsReady) {
+  show.start();
+  show.runFor(510);
+  loadingTakes(3000);
+  show.runFor(1300);
+  show.runFor(1000);
+  show.runFor(1000);
+  EXPECT_NE(middle(), base::OpaquePixel(0));
+}
+
+TEST_F(Form1Ahead, APictureThatHangsIsPassedOverAndTheShowGoesOn) {
+  int jobs = 0;
+  show.workers.delayMs = [&] { return ++jobs == 2 ? std::nullopt : std::optional(20); };
+  show.start();
+  show.runFor(9000);
+  EXPECT_EQ(middle(), base::OpaquePixel(kRed));
+  show.runFor(3200);
+  EXPECT_EQ(middle(), base::OpaquePixel(kBlue));
+  EXPECT_TRUE(show.errors.empty());
+}
+
+TEST_F(Form1Ahead, TheShowEndsAtOnceWhileItWaitsForAPicture) {
+  loadingTakes(std::nullopt);
+  show.start();
+  show.runFor(800);
+  const std::int64_t before = show.clock.tickMs();
+  show.loop.postAfter(50, [&] { show.loop.quit(); });
+  show.runFor(100'000);
+  EXPECT_LE(show.clock.tickMs() - before, 60);
+  EXPECT_TRUE(show.errors.empty());
+}
+
+TEST_F(Form1Ahead, APictureThatCannotBeReadIsPassedOver) {
+  show.set("images/1", "C:\\pictures\\missing.jpg");
+  show.start();
+  show.runFor(1000);
+  EXPECT_EQ(middle(), base::OpaquePixel(kRed));
+  show.runFor(1300);
+  EXPECT_EQ(middle(), base::OpaquePixel(0));
+  show.runFor(1300);
+  EXPECT_EQ(middle(), base::OpaquePixel(kBlue));
+}
+
+TEST_F(Form1Ahead, AfterAChangeOfTheScreenThePictureIsFittedWithoutItsFileAndTheNextOneIsMadeReadyAnew) {
+  show.addPicture({4000, 3000}, kRed);
+  show.set("images/0", "C:\\pictures\\3.jpg");
+  show.start();
+  show.runFor(900);
+  const auto opened = show.pictures.opened.size();
+  show.screen.size = {800, 600};
+  show.form->ScreenChanged();
+  EXPECT_EQ(show.pictures.opened.size(), opened);
+  EXPECT_LE(show.form->DisplayingPicture.pixelRect().width, 800);
+  EXPECT_GT(show.form->DisplayingPicture.pixelRect().width, 700);
+  show.runFor(50);
+  EXPECT_EQ(show.pictures.opened.size(), opened + 1);
+}
+
+TEST_F(Form1Ahead, ACustomBackgroundComesWhenItIsReady) {
+  show.pictures.add("sky.bmp", {16, 12}, kBlue);
+  show.set("background/backEffect", "2");
+  show.set("background/backgroundImage", "sky.bmp");
+  show.set("background/backgroundDisplay", "1");
+  loadingTakes(100);
+  show.start();
+  EXPECT_EQ(show.screenAt(2, 2), base::OpaquePixel(0));
+  show.runFor(110);
+  EXPECT_EQ(show.screenAt(2, 2), base::OpaquePixel(kBlue));
+  show.runFor(600);
+  EXPECT_EQ(middle(), base::OpaquePixel(kRed));
+}
+
+TEST_F(Form1Ahead, APictureIsMadeReadyAtTheSizeAtWhichItWillBeShown) {
+  std::mt19937 random(7);
+  const auto below = [&](unsigned bound) { return static_cast<int>(random() % bound); };
+  constexpr int kDpi[] = {96, 120, 144, 192};
+  for (int round = 0; round < 300; ++round) {
+    const base::PixelSize screen{320 + below(1700), 200 + below(1100)};
+    support::ShowStage other(screen, kDpi[below(4)]);
+    other.set("extras/loadAhead", "1");
+    other.set("image/picturePercent", std::to_string(1 + below(100)));
+    const base::PixelSize size{1 + below(5000), 1 + below(5000)};
+    other.addPicture(size, kRed);
+    other.start();
+    other.runFor(530);
+    ASSERT_EQ(other.errors, std::vector<std::string>());
+    ASSERT_EQ(other.pictures.drawnSizes.size(), 1U);
+    EXPECT_EQ(other.pictures.drawnSizes[0], other.form->DisplayingPicture.pixelRect().size())
+        << size.width << "x" << size.height << " on " << screen.width << "x" << screen.height;
+  }
+}
+
+}  // namespace
+}  // namespace saver
