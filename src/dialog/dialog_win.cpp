@@ -27,9 +27,9 @@ SettingsDialogWin::SettingsDialogWin(const DialogMachineWin& machine, const std:
     : loop_(machine.loop),
       windows_(loop_),
       dialogs_([this] { return windows_.activeWindow(); }),
-      dialog_({machine.files, machine.ansi, machine.pictures, dialogs_, windows_, os::IsReadOnlyFile, machine.ahead},
-              loop_,
-              *shell_, programFolder, ProductIcon()),
+      dialog_({machine.files, machine.ansi, machine.pictures, dialogs_, windows_, os::IsReadOnlyFile,
+               machine.ahead},
+              loop_, *shell_, programFolder, ProductIcon()),
       filter_(loop_.addMessageFilter([this](MSG& message) { return windows_.filterMessage(message); })) {
   dialog_.show();
 }

@@ -197,7 +197,7 @@ std::vector<std::string> PictureList::picturesOf(const std::string& dropped) con
   std::erase_if(pictures, [](const std::string& name) {
     return !forms::MatchesPatterns(name, auxwin::kImportedPatterns);
   });
-  forms::SortNames(pictures);
+  services_.files.sortNames(pictures);
   for (std::string& name : pictures) name = os::JoinPath(dropped, name);
   return pictures;
 }

@@ -58,7 +58,7 @@ class SettingsDialog {
   os::EventLoop& loop_;
   os::Shell& shell_;
   std::string lastFolder_;  // from which pictures were added last
-  bool telling_ = false;  // of an error
+  bool telling_ = false;    // of an error
 };
 
 }  // namespace dialog

@@ -131,7 +131,7 @@ TEST_F(SettingsDialogTest, AnErrorWhileOneIsToldAddsNothing) {
 TEST_F(SettingsDialogTest, APictureTooLargeForTheMemoryIsOneThatCannotBeLoaded) {
   struct Huge : pictures::PictureLoader {
     pictures::PictureLoader* others = nullptr;
-    std::shared_ptr<const pictures::PictureFile> open(const std::string& path) override {
+    pictures::SharedPicture open(const std::string& path) override {
       if (path == "huge.png") throw std::bad_alloc();
       return others->open(path);
     }

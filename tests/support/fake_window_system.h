@@ -23,8 +23,9 @@ class FakeWindowSystem : public forms::WindowSystem, public forms::FormHost {
   std::function<void(forms::Form&)> whileModal;  // what the user does while a form is shown modally
   bool leavesModalOpen = false;  // the program ends while a form is shown modally: its window is still there
 
-  // As the window system at its own end, it writes to the forms whose windows are still there.
+  // As the window system at its own end, it then writes to the forms whose windows are still there.
   ~FakeWindowSystem() override {
+    if (!leavesModalOpen) return;
     for (forms::Form* form : loaded_) form->setHost(nullptr);
   }
 

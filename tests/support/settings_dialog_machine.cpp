@@ -20,8 +20,8 @@ dialog::SettingsDialog& SettingsDialogMachine::openDialog() {
 
 dialog::SettingsDialog& SettingsDialogMachine::openDialogOnFile() {
   dialog_ = std::make_unique<dialog::SettingsDialog>(
-      dialog::DialogServices{files, ansi, pictures, dialogs, windows, &ahead}, loop, shell, kProgramFolder,
-      nullptr);
+      dialog::DialogServices{files, ansi, pictures, dialogs, windows, nullptr, &ahead}, loop, shell,
+      kProgramFolder, nullptr);
   dialog_->show();
   return *dialog_;
 }
