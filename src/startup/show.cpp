@@ -206,7 +206,9 @@ void Show::leaveBackground() {
   for (forms::Control* control : form_.controls()) {
     if (control != &form_.BgrImage) control->setVisible(false);
   }
-  services_.window.cover(base::PixelRect::ofSize(services_.screen.primarySize()));
+  const base::PixelSize screen = services_.screen.primarySize();
+  if (!screen.isEmpty()) services_.window.cover(base::PixelRect::ofSize(screen));
+  services_.stage.invalidateAll();
   services_.stage.flush();
 }
 
