@@ -117,6 +117,33 @@ make_hostile_folders() {
   export LUMORA_FULL_FOLDER LUMORA_READONLY_FOLDER
 }
 
+# A folder $1 with a file that can be opened and never answers a read. Needs root; without it the tests that want
+# it are left out, which is said.
+make_silent_file() {
+  local folder=$1 attempt
+  ! mountpoint -q "$folder" || as_root umount -l "$folder"  # what a killed run may have left
+  mkdir -p "$folder"
+  silent_folder=$folder
+  as_root python3 "$root/scripts/silent_file.py" "$folder" &
+  for attempt in {1..50}; do
+    ! mountpoint -q "$folder" || break
+    sleep 0.1
+  done
+  if ! mountpoint -q "$folder"; then
+    say "NOT TESTED: a file that does not answer (mounting is not permitted here)"
+    return 0
+  fi
+  LUMORA_SILENT_FILE=$(winepath -w "$folder" 2>/dev/null | tr -d '\r')\\silent.jpg
+  export LUMORA_SILENT_FILE
+}
+
+remove_silent_file() {
+  [ -n "${silent_folder:-}" ] || return 0
+  ! mountpoint -q "$silent_folder" || as_root umount -l "$silent_folder" || true
+  rmdir "$silent_folder" || true
+  silent_folder=
+}
+
 remove_hostile_folders() {
   [ -n "${hostile_folders:-}" ] || return 0
   local place
@@ -132,6 +159,7 @@ stop_show_machine() {
   wineserver -k 2>/dev/null || true
   wineserver -w 2>/dev/null || true
   remove_hostile_folders
+  remove_silent_file
   if [ -n "${xvfb_pid:-}" ]; then
     kill "$xvfb_pid" 2>/dev/null || true
     wait "$xvfb_pid" 2>/dev/null || true

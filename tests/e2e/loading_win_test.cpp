@@ -1,0 +1,87 @@
+// The program with loadAhead=1, on pictures that come and on a file that does not answer. Making that is the
+// test run's business; it names it in the environment.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "e2e/dialog_hands.h"
+#include "e2e/program_folder.h"
+#include "e2e/running_program.h"
+#include "os/utf16_win.h"
+
+namespace {
+
+constexpr base::Pixel kRed = 0xFFFF0000U;
+constexpr base::Pixel kBlue = 0xFF0000FFU;
+
+bool MiddleComesToBe(base::Pixel pixel) {
+  const base::PixelSize screen = e2e::ScreenSize();
+  return e2e::WaitFor([&] { return e2e::ScreenPixel(screen.width / 2, screen.height / 2) == pixel; }, 30000);
+}
+
+// Empty when the test run could not make one.
+std::string SilentFile() {
+  wchar_t path[MAX_PATH];
+  return os::FromWide(std::wstring(path, GetEnvironmentVariableW(L"LUMORA_SILENT_FILE", path, MAX_PATH)));
+}
+
+TEST(LoadAhead, PicturesAppearInTheirOrderAndAKeyEndsTheShow) {
+  e2e::ProgramFolder folder;
+  folder.set("extras/loadAhead", "1");
+  folder.addPicture({300, 200}, base::Rgb(255, 0, 0));
+  folder.addPicture({300, 200}, base::Rgb(0, 0, 255));
+  folder.writeSettings();
+  e2e::RunningProgram show(folder.program(), L"/S");
+  ASSERT_NE(show.waitForShow(), nullptr);
+  EXPECT_TRUE(MiddleComesToBe(kRed));
+  EXPECT_TRUE(MiddleComesToBe(kBlue));
+  EXPECT_TRUE(MiddleComesToBe(kRed));
+  EXPECT_TRUE(show.endsByKey());
+  EXPECT_EQ(show.exitCode(), 0U);
+}
+
+TEST(LoadAhead, AFileThatDoesNotAnswerIsPassedOverAndAKeyEndsTheShow) {
+  const std::string silent = SilentFile();
+  if (silent.empty()) GTEST_SKIP() << "NOT TESTED: the test run could not make a file that does not answer";
+  e2e::ProgramFolder folder;
+  folder.set("extras/loadAhead", "1");
+  folder.addPicture({300, 200}, base::Rgb(255, 0, 0));
+  folder.addPath(silent);
+  folder.addPicture({300, 200}, base::Rgb(0, 0, 255));
+  folder.writeSettings();
+  e2e::RunningProgram show(folder.program(), L"/S");
+  ASSERT_NE(show.waitForShow(), nullptr);
+  EXPECT_TRUE(MiddleComesToBe(kRed));
+  EXPECT_TRUE(MiddleComesToBe(kBlue));
+  EXPECT_TRUE(show.endsByKey());
+  EXPECT_EQ(show.exitCode(), 0U);
+}
+
+TEST(LoadAhead, AShowWhoseOnlyPictureDoesNotAnswerEndsByAKey) {
+  const std::string silent = SilentFile();
+  if (silent.empty()) GTEST_SKIP() << "NOT TESTED: the test run could not make a file that does not answer";
+  e2e::ProgramFolder folder;
+  folder.set("extras/loadAhead", "1");
+  folder.addPath(silent);
+  folder.writeSettings();
+  e2e::RunningProgram show(folder.program(), L"/S");
+  ASSERT_NE(show.waitForShow(), nullptr);
+  EXPECT_TRUE(show.endsByKey());
+  EXPECT_EQ(show.exitCode(), 0U);
+}
+
+TEST(LoadAhead, TheDialogIsClosedAtOnceThoughItsFirstPictureDoesNotAnswer) {
+  const std::string silent = SilentFile();
+  if (silent.empty()) GTEST_SKIP() << "NOT TESTED: the test run could not make a file that does not answer";
+  e2e::ProgramFolder folder;
+  folder.set("extras/loadAhead", "1");
+  folder.addPath(silent);
+  folder.writeSettings();
+  e2e::RunningProgram program(folder.program(), L"/C");
+  const HWND dialog = e2e::DialogOf(program);
+  ASSERT_NE(dialog, nullptr);
+  PostMessageW(dialog, WM_CLOSE, 0, 0);
+  EXPECT_TRUE(program.waitForEnd());
+}
+
+}  // namespace
