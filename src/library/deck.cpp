@@ -50,7 +50,7 @@ std::uint64_t PlaceInRound(std::uint64_t roundSeed, std::string_view path) {
 
 std::optional<Dealt> DealNext(std::span<const std::string> paths, const DeckPosition& position,
                               const std::function<std::uint64_t()>& drawSeed) {
-  if (!position.lastPath.empty()) {
+  if (position.roundSeed != 0 && !position.lastPath.empty()) {
     if (const auto next = FirstBehind(paths, position.roundSeed, position.lastPath))
       return Dealt{*next, position.roundSeed};
   }

@@ -15,10 +15,10 @@ namespace library {
 // picture's.
 std::uint64_t PlaceInRound(std::uint64_t roundSeed, std::string_view path);
 
-// How far a show has come: the picture that was shown last, and its round. Without a picture nothing has been
-// shown yet, in whatever round.
+// How far a show has come: the picture that was shown last, and its round. The picture may be none, and may
+// have been shown in no round.
 struct DeckPosition {
-  std::uint64_t roundSeed = 0;
+  std::uint64_t roundSeed = 0;  // 0 = no round
   std::string lastPath;
 
   bool operator==(const DeckPosition&) const = default;

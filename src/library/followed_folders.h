@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -18,14 +19,24 @@ struct FollowRequest {
   std::vector<std::string> listed;        // pictures that the show has anyway: they do not come again
   std::size_t most = 32767;               // pictures of the folders together
   std::vector<std::string> indexFolders;  // where the index of the last listing may lie
+  std::function<void()> makeIndexFolder;  // makes the last of them; on any thread
 };
 
 class Following;
 
+// Brings the pictures of followed folders.
+class PictureFollower {
+ public:
+  virtual ~PictureFollower() = default;
+
+  // Whole paths, when they are others than at the last call; else null. Never waits.
+  virtual std::shared_ptr<const std::vector<std::string>> news() = 0;
+};
+
 // A thread for each folder asks the file system, since a disk that starts up or a share that does not answer
 // holds up whoever asks. The show never waits: it takes a new list when there is one. While a folder has not
 // answered there is no picture of it in the list, so that nobody tries to open one.
-class FollowedFolders {
+class FollowedFolders : public PictureFollower {
  public:
   static constexpr std::size_t kMostFolders = 64;      // those behind are not followed
   static constexpr int kListAgainMs = 10 * 60 * 1000;  // though no change was told of
@@ -39,12 +50,11 @@ class FollowedFolders {
   };
 
   FollowedFolders(Services services, FollowRequest request);
-  ~FollowedFolders();
+  ~FollowedFolders() override;
   FollowedFolders(const FollowedFolders&) = delete;
   FollowedFolders& operator=(const FollowedFolders&) = delete;
 
-  // Whole paths, when they are others than at the last call; else null. Never waits.
-  std::shared_ptr<const std::vector<std::string>> news();
+  std::shared_ptr<const std::vector<std::string>> news() override;
 
  private:
   std::shared_ptr<Following> following_;

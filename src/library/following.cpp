@@ -25,7 +25,8 @@ constexpr std::chrono::milliseconds kWaitForThreads{300};
 Following::Following(FollowedFolders::Services services, FollowRequest request)
     : services_(std::move(services)),
       request_(std::move(request)),
-      index_(*services_.files, request_.indexFolders, kPictureIndexName, kPictureIndexKind) {
+      index_(*services_.files, request_.indexFolders, kPictureIndexName, kPictureIndexKind,
+             request_.makeIndexFolder) {
   if (request_.folders.size() > FollowedFolders::kMostFolders)
     request_.folders.resize(FollowedFolders::kMostFolders);
   folders_.resize(request_.folders.size());

@@ -1,12 +1,13 @@
 #include "library/kept_file.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace library {
 
 KeptFile::KeptFile(os::Files& files, const std::vector<std::string>& folders, const std::string& name,
-                   SealKind kind)
-    : files_(files), kind_(kind) {
+                   SealKind kind, std::function<void()> makeFolder)
+    : files_(files), kind_(kind), makeFolder_(std::move(makeFolder)) {
   for (const std::string& folder : folders) {
     if (folder.empty()) continue;
     paths_.push_back(folder.ends_with('\\') ? folder + name : folder + '\\' + name);
@@ -31,8 +32,15 @@ std::optional<std::string> KeptFile::load() {
 bool KeptFile::save(std::string_view payload) {
   if (!newestSerial_) load();
   const std::string bytes = Seal(kind_, ++*newestSerial_, payload);
+  if (write(bytes)) return true;
+  if (!makeFolder_) return false;
+  makeFolder_();
+  return write(bytes);
+}
+
+bool KeptFile::write(std::string_view bytes) {
   return std::any_of(paths_.begin(), paths_.end(),
-                     [&](const std::string& path) { return files_.replace(path, bytes); });
+                     [&](const std::string& path) { return files_.replaceAtOnce(path, bytes); });
 }
 
 }  // namespace library

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,7 +17,9 @@ namespace library {
 class KeptFile {
  public:
   // `folders` in the order of preference, with or without a backslash at the end; empty ones do not count.
-  KeptFile(os::Files& files, const std::vector<std::string>& folders, const std::string& name, SealKind kind);
+  // `makeFolder` makes the last of them where it is missing; it is asked when none takes the file.
+  KeptFile(os::Files& files, const std::vector<std::string>& folders, const std::string& name, SealKind kind,
+           std::function<void()> makeFolder = nullptr);
 
   // The payload that was written last, of all folders; nothing when no folder has a whole file.
   std::optional<std::string> load();
@@ -25,9 +28,12 @@ class KeptFile {
   bool save(std::string_view payload);
 
  private:
+  bool write(std::string_view bytes);
+
   os::Files& files_;
   std::vector<std::string> paths_;
   SealKind kind_;
+  std::function<void()> makeFolder_;
   std::optional<std::uint64_t> newestSerial_;  // once the folders have been looked at
 };
 

@@ -1,6 +1,5 @@
 #include "library/show_state.h"
 
-#include <algorithm>
 #include <limits>
 
 #include "base/text.h"
@@ -31,21 +30,20 @@ std::optional<ShowState> ShowStateOf(std::string_view payload) {
   return state;
 }
 
+std::size_t IndexOfLast(const std::vector<std::string>& paths, std::size_t count, const ShowState& state) {
+  const auto isLast = [&](std::size_t i) { return base::EqualAsciiBlind(paths[i], state.position.lastPath); };
+  if (state.position.lastPath.empty()) return count;
+  if (state.lastIndex < count && isLast(state.lastIndex)) return state.lastIndex;
+  std::size_t index = 0;
+  while (index < count && !isLast(index)) ++index;
+  return index;
+}
+
 std::size_t IndexToGoOnWith(const std::vector<std::string>& paths, std::size_t count,
                             const ShowState& state) {
-  const std::string& last = state.position.lastPath;
-  if (count == 0 || last.empty()) return 0;
-  const auto isLast = [&](std::size_t i) { return i < count && base::EqualAsciiBlind(paths[i], last); };
-  // The place first: a list may have a picture several times.
-  std::size_t next = state.lastIndex;
-  if (isLast(next)) {
-    ++next;
-  } else {
-    const auto end = paths.begin() + static_cast<std::ptrdiff_t>(count);
-    const auto found = std::find_if(
-        paths.begin(), end, [&](const std::string& path) { return base::EqualAsciiBlind(path, last); });
-    if (found != end) next = static_cast<std::size_t>(found - paths.begin()) + 1;
-  }
+  if (state.position.lastPath.empty()) return 0;
+  const std::size_t last = IndexOfLast(paths, count, state);
+  const std::size_t next = last < count ? last + 1 : state.lastIndex;
   return next < count ? next : 0;
 }
 

@@ -28,6 +28,10 @@ std::string PayloadOf(const ShowState& state);
 // Nothing for a payload that no show wrote.
 std::optional<ShowState> ShowStateOf(std::string_view payload);
 
+// Where the last picture stands in the first `count` of the list; `count` when it has gone. Of a list that
+// has it several times the place where it was shown counts.
+std::size_t IndexOfLast(const std::vector<std::string>& paths, std::size_t count, const ShowState& state);
+
 // With which picture of the list a show goes on, in the order of the list: the one after the last; where the
 // last has gone, the one that moved up into its place; behind the end, the first.
 std::size_t IndexToGoOnWith(const std::vector<std::string>& paths, std::size_t count, const ShowState& state);

@@ -17,6 +17,8 @@ constexpr int kStartDelayMs = 500;
 constexpr int kChangeHoldMs = 60000;  // no tick of the picture's timer is wanted while a change is under way
 constexpr int kFloatIntervalMs = 100;
 constexpr int kClockIntervalMs = 100;
+constexpr int kNewsIntervalMs = 500;
+constexpr int kRememberIntervalMs = 10 * 60 * 1000;
 
 }  // namespace
 
@@ -36,7 +38,10 @@ Form1::Form1(const ShowServices& services, const os::SystemFacts& facts, std::st
       timeTimer(services.loop, kClockIntervalMs),
       services_(services),
       facts_(facts),
-      programFolder_(std::move(programFolder)) {
+      programFolder_(std::move(programFolder)),
+      order_(settings_, services.files, programFolder_, services.library),
+      newsTimer_(services.loop, kNewsIntervalMs),
+      rememberTimer_(services.loop, kRememberIntervalMs) {
   setHost(&services_.stage);
   setBackColor(base::kBlack);
   IntialPicture.setAutoSize(true);
@@ -66,13 +71,17 @@ void Form1::wireTimers() {
   on(FloatTimer, [this] { FloatTimer_Timer(); });
   on(ScrollerTimer, [this] { caption_.ScrollerTimer_Timer(); });
   on(timeTimer, [this] { timeDisplay_.timeTimer_Timer(); });
+  on(newsTimer_, [this] { takeNews(); });
+  on(rememberTimer_, [this] { order_.save(); });
 }
 
 void Form1::unload() {
+  if (!unloaded_) order_.save();
   unloaded_ = true;
   next_.forget();
   dropBackgroundWish();
-  for (forms::Timer* timer : {&StartSaver, &ImageChangeTimer, &FloatTimer, &ScrollerTimer, &timeTimer}) {
+  for (forms::Timer* timer : {&StartSaver, &ImageChangeTimer, &FloatTimer, &ScrollerTimer, &timeTimer,
+                              &newsTimer_, &rememberTimer_}) {
     timer->setEnabled(false);
   }
 }
@@ -85,6 +94,7 @@ void Form1::Form_Load() {
   if (facts_.guardsPassword()) services_.desktop.setScreenSaverRunning(true);
   settings::LoadSettings(settings_, document);
   loadsAhead_ = settings::ReadIniValue(document, "extras", "loadAhead") == "1";
+  beginOrder();
   PrepareDisplay();
   services_.stage.flush();
 }
@@ -106,15 +116,11 @@ void Form1::PrepareDisplay() {
   if (loadsAhead_) chooseFirst();  // made ready while the background stands alone
 }
 
-void Form1::chooseFirst() {
-  reseed();
-  currentImageIndex_ = -1;
-  AdvancePictureIndex();
-}
-
 void Form1::StartSaver_Timer() {
   // The first change yields to events, and this timer is still enabled then.
   if (change_ != ChangeState::None) return;
+  takeNews();
+  if (order_.waitsForPictures()) return;  // the timer ticks again
   if (!loadsAhead_) chooseFirst();
   if (floats()) {
     setFloatInterval();
@@ -162,18 +168,6 @@ void Form1::ImageChangeTimer_Timer() {
   ImageChangeTimer.setInterval(changeIntervalMs());
 }
 
-void Form1::AdvancePictureIndex() {
-  reseed();
-  if (base::LeadingNumber(settings_.record.randomPick) == 1) {
-    const double drawn =
-        (static_cast<double>(settings_.lastImageIndex) + 1) * static_cast<double>(random_.next());
-    currentImageIndex_ = base::ToInt16(base::Int(drawn));
-  } else {
-    currentImageIndex_ = base::ToInt16(currentImageIndex_ + 1);
-  }
-  if (loadsAhead_) prepareNext();
-}
-
 bool Form1::floats() const { return settings_.record.picRandom != "cent"; }
 
 int Form1::changeIntervalMs() const {
@@ -185,7 +179,5 @@ void Form1::ShowCaption() {
   const bool known = currentImageIndex_ >= 0 && index < settings_.imageCaptions.size();
   caption_.show(known ? settings_.imageCaptions[index] : std::string());
 }
-
-void Form1::reseed() { random_.reseed(os::SecondsSinceMidnight(services_.clock.now())); }
 
 }  // namespace saver

@@ -23,6 +23,7 @@
 #include "saver/caption.h"
 #include "saver/floating.h"
 #include "saver/next_picture.h"
+#include "saver/picture_order.h"
 #include "saver/stage.h"
 #include "saver/stage_window.h"
 #include "saver/time_display.h"
@@ -45,6 +46,7 @@ struct ShowServices {
   const os::DateText& dates;
   Stage& stage;
   StageWindow& window;
+  LibraryServices library = {};
 };
 
 // Runs on timers from Form_Load on. Waits inside a change let any event run, the end of the show included:
@@ -111,6 +113,9 @@ class Form1 : public forms::Form {
   class ChangeScope;
 
   void wireTimers();
+  void beginOrder();
+  void takeNews();
+  std::uint64_t drawSeed();
   void coverScreen();
   void copyDesktopIfWanted(const settings::IniDocument& document);
   base::SharedBitmap composeBackground(BackgroundKind kind);
@@ -139,6 +144,9 @@ class Form1 : public forms::Form {
   os::SystemFacts facts_;
   std::string programFolder_;
   settings::SaverSettings settings_;
+  PictureOrder order_;
+  forms::Timer newsTimer_;      // asks for changes of the followed folders
+  forms::Timer rememberTimer_;  // in case that the show is not asked when it ends
   Caption caption_{Label1, ScrollerTimer, settings_};
   TimeDisplay timeDisplay_{time, timeTimer, settings_, services_.clock, services_.dates};
   base::Random random_;

@@ -34,6 +34,7 @@ void Form1::awaitPicture() {
 }
 
 void Form1::LoadCurrentPicture() {
+  order_.shown(currentImageIndex_);
   const auto wish = wishFor(currentImageIndex_);
   if (!wish) {
     loadedPicture_ = nullptr;

@@ -58,6 +58,7 @@ class Loader {
     readPictureScale();
     for (const Field field : kUpToTimeDisplay) read(KeyOf(field));
     setCountdownTarget();
+    into_.folders = FollowedFolders(document_);
   }
 
  private:
@@ -144,6 +145,15 @@ class Loader {
 };
 
 }  // namespace
+
+std::vector<std::string> FollowedFolders(const IniDocument& document) {
+  std::vector<std::string> folders;
+  for (std::int32_t i = 0;; ++i) {
+    std::string folder = ReadIniValue(document, kFoldersSection, base::NumberText(i));
+    if (folder.empty()) return folders;
+    folders.push_back(std::move(folder));
+  }
+}
 
 void LoadSettings(SaverSettings& into, const IniDocument& document, Conversion conversion) {
   Loader(into, document, conversion).load();

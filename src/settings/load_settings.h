@@ -22,6 +22,8 @@ struct SaverSettings {
   float pictureScale = 0;            // picturePercent divided by 100
   std::string countdownTarget;       // "month/day/year 12:00:00 AM", only with a countdown
 
+  std::vector<std::string> folders;  // whose pictures come behind those of the list, in order
+
   // Names of the keys without a number where there must be one, for which the default was taken, in the order
   // of reading.
   std::vector<std::string> mended;
@@ -33,6 +35,10 @@ enum class Conversion {
   Strict,  // throw at the first (base::TypeMismatch, or base::Overflow for a number that its type cannot
            // hold), with the fields read so far set and the rest untouched; absent values are empty text
 };
+
+// The folders of [folders], whose keys are numbered from 0 as those of [images] are; the first that is absent
+// or empty ends the list.
+std::vector<std::string> FollowedFolders(const IniDocument& document);
 
 // Reads an opened settings file into `into`. Throws base::Overflow for more than 32767 pictures in either
 // mode; [extras] is in the record then.

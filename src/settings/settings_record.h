@@ -28,7 +28,7 @@ struct SettingsRecord {
   // [date]
   std::string countdownMonth, countdownDay, countdownYear;
   // [extras]: settings beyond the documented file; each is empty when absent
-  std::string transitionTime, otherScreens, livePreview, log;
+  std::string transitionTime, otherScreens, livePreview, log, shuffle, resume, subfolders;
 };
 
 // A setting's text in the record.
@@ -93,6 +93,9 @@ inline constexpr auto kExtraKeys = std::to_array<Key>({
     {"extras", "otherScreens", &SettingsRecord::otherScreens, ""},
     {"extras", "livePreview", &SettingsRecord::livePreview, ""},
     {"extras", "log", &SettingsRecord::log, ""},
+    {"extras", "shuffle", &SettingsRecord::shuffle, ""},
+    {"extras", "resume", &SettingsRecord::resume, ""},
+    {"extras", "subfolders", &SettingsRecord::subfolders, ""},
 });
 // clang-format on
 
@@ -119,5 +122,8 @@ constexpr bool IsExtra(Field field) {
 // Sections that hold one numbered key per picture.
 inline constexpr std::string_view kImagesSection = "images";
 inline constexpr std::string_view kCaptionSection = "caption";
+
+// Holds one numbered key per folder that is followed.
+inline constexpr std::string_view kFoldersSection = "folders";
 
 }  // namespace settings

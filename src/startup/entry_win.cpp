@@ -26,6 +26,7 @@
 #include "saver/stage_window_win.h"
 #include "startup/command_line.h"
 #include "startup/crash_guard_win.h"
+#include "startup/library_services_win.h"
 #include "startup/loading_win.h"
 #include "startup/main.h"
 #include "startup/preview.h"
@@ -70,7 +71,7 @@ class SaverMode {
         text_(machine.screen.dpi()),
         stage_(window_, text_, base::TwipsPerPixelForDpi(machine.screen.dpi())),
         show_({machine.files, machine.ansi, machine.pictures, *machine.ahead, machine.clock, machine.loop,
-               machine.screen, restore, *machine.dates, stage_, window_},
+               machine.screen, restore, *machine.dates, stage_, window_, startup::MakeLibraryServices()},
               {*machine.passwords, restore, machine.screen}, restore, facts, machine.programFolder,
               [&machine] { return std::make_unique<saver::StageWindowWin>(machine.loop); }) {
     show_.start();

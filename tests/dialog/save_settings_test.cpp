@@ -54,6 +54,13 @@ struct SaveSettingsTest : testing::Test {
   }
 };
 
+TEST_F(SaveSettingsTest, AnEmptyListIsNoFaultWhenAFolderIsFollowed) {
+  machine.set("folders", "0", "C:\\photos");
+  expectSaved(machine.openDialog().form);
+  EXPECT_EQ(saved("total", "total"), "0");
+  EXPECT_EQ(saved("folders", "0"), "C:\\photos");
+}
+
 TEST_F(SaveSettingsTest, AnEmptyListIsReportedAndNothingIsWritten) {
   expectRefused(machine.openDialog().form, kNoImages);
 }

@@ -81,6 +81,15 @@ TEST(Deck, EveryPictureIsFirstOfARoundAboutEquallyOften) {
   for (const auto& [index, times] : firsts) EXPECT_NEAR(times, 1000, 150) << index;
 }
 
+TEST(Deck, APictureThatWasShownInNoRoundIsNotTheFirstOfTheNextEither) {
+  std::mt19937_64 chance(11);
+  for (int i = 0; i < 100; ++i) {
+    const auto dealt =
+        DealNext(Pictures(3), {.roundSeed = 0, .lastPath = Pictures(3)[1]}, [&] { return chance(); });
+    EXPECT_NE(dealt->index, 1U);
+  }
+}
+
 TEST(Deck, ASinglePictureFollowsItself) {
   Dealer dealer(4);
   dealer.paths = Pictures(1);

@@ -36,7 +36,8 @@ class FollowedFoldersTest : public testing::Test {
                                                                .subfolders = subfolders,
                                                                .listed = std::move(listed),
                                                                .most = most,
-                                                               .indexFolders = {"C:\\Lumora"}});
+                                                               .indexFolders = {"C:\\Lumora"},
+                                                               .makeIndexFolder = nullptr});
   }
 
   // Until no thread touches the folders and files any more.

@@ -45,6 +45,14 @@ std::string ThresholdOf(const std::string& sensitivity) {
   return Folder(Ini("0", sensitivity)).load().record.mouseSensitivity;
 }
 
+TEST(LoadSettings, FollowedFoldersAreReadUpToTheFirstThatIsMissing) {
+  Folder folder(Ini("0") + "[folders]\r\n0=C:\\a\r\n1=D:\\b\\\r\n3=C:\\d\r\n[extras]\r\nsubfolders=1\r\n");
+  EXPECT_EQ(folder.load().folders, (std::vector<std::string>{"C:\\a", "D:\\b\\"}));
+  EXPECT_EQ(folder.settings.record.subfolders, "1");
+  EXPECT_TRUE(Folder(Ini("0") + "[folders]\r\n1=C:\\a\r\n").load().folders.empty());
+  EXPECT_TRUE(Folder(Ini("0")).load().folders.empty());
+}
+
 TEST(LoadSettings, ATotalOfNoneGivesOneEmptyEntryEvenWhenPicturesAreListed) {
   Folder folder(Ini("0") + "[images]\r\n0=C:\\a.jpg\r\n");
   folder.load();

@@ -20,7 +20,7 @@ class ShowTest : public testing::Test {
     saver::ShowServices services = stage.services();
     show.emplace(saver::ShowServices{services.files, services.ansi, services.pictures, services.ahead,
                                      services.clock, services.loop, services.screen, restore, services.dates,
-                                     services.stage, services.window},
+                                     services.stage, services.window, services.library},
                  startup::SaverExit::Services{machine.passwords, restore, stage.screen}, restore, facts,
                  support::ShowStage::programFolder(), [this] {
                    auto cover = std::make_unique<support::FakeStageWindow>(base::PixelSize{1, 1});

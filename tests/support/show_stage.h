@@ -36,7 +36,7 @@ class ShowStage {
 
   // What a show on this machine runs on.
   saver::ShowServices services() {
-    return {files, ansi, pictures, ahead, clock, loop, screen, desktop, dates, stage, window};
+    return {files, ansi, pictures, ahead, clock, loop, screen, desktop, dates, stage, window, library};
   }
   static const char* programFolder();
 
@@ -64,6 +64,7 @@ class ShowStage {
   FakeDesktop desktop;
   Windows1252 ansi;
   FakeStageWindow window;
+  saver::LibraryServices library;
   saver::Stage stage;
   os::SystemFacts facts;
   std::unique_ptr<saver::Form1> form;

@@ -1,0 +1,168 @@
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <algorithm>
+#include <vector>
+
+#include "e2e/program_folder.h"
+#include "e2e/running_program.h"
+#include "os/utf16_win.h"
+
+namespace {
+
+constexpr base::Pixel kRed = 0xFFFF0000U;
+constexpr base::Pixel kGreen = 0xFF00FF00U;
+constexpr base::Pixel kBlue = 0xFF0000FFU;
+constexpr base::PixelSize kSize{200, 100};
+
+// What the middle of the screen shows.
+base::Pixel Middle() {
+  const base::PixelSize screen = e2e::ScreenSize();
+  return e2e::ScreenPixel(screen.width / 2, screen.height / 2);
+}
+
+bool Comes(base::Pixel pixel) {
+  return e2e::WaitFor([&] { return Middle() == pixel; }, 30000);
+}
+
+// The first picture that comes.
+base::Pixel FirstColour() {
+  base::Pixel seen = 0;
+  e2e::WaitFor(
+      [&] {
+        seen = Middle();
+        return seen == kRed || seen == kGreen || seen == kBlue;
+      },
+      30000);
+  return seen;
+}
+
+// The next `count` pictures, each when it has taken the place of the one before.
+std::vector<base::Pixel> NextColours(int count) {
+  std::vector<base::Pixel> colours;
+  base::Pixel before = Middle();
+  e2e::WaitFor(
+      [&] {
+        const base::Pixel now = Middle();
+        if (now != before && (now == kRed || now == kGreen || now == kBlue)) colours.push_back(now);
+        if (now == kRed || now == kGreen || now == kBlue) before = now;
+        return static_cast<int>(colours.size()) == count;
+      },
+      60000);
+  return colours;
+}
+
+std::string Content(const std::wstring& path) {
+  std::string content;
+  const HANDLE file =
+      CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                  OPEN_EXISTING, 0, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return content;
+  content.resize(GetFileSize(file, nullptr));
+  DWORD got = 0;
+  ReadFile(file, content.data(), static_cast<DWORD>(content.size()), &got, nullptr);
+  CloseHandle(file);
+  return content;
+}
+
+bool IndexNames(const e2e::ProgramFolder& folder, const std::string& name) {
+  return Content(folder.path() + L"\\lumora.index").find(name) != std::string::npos;
+}
+
+TEST(FollowedFolders, FilesThatComeGoAndAreRenamedDuringTheShowJoinAndLeaveIt) {
+  e2e::ProgramFolder folder;
+  const std::wstring pictures = folder.path() + L"\\pictures";
+  CreateDirectoryW(pictures.c_str(), nullptr);
+  CreateDirectoryW((pictures + L"\\deep").c_str(), nullptr);
+  folder.writeBitmap("pictures\\deep\\red.bmp", kSize, base::Rgb(255, 0, 0));
+  folder.set("folders/0", os::FromWide(pictures));
+  folder.set("extras/subfolders", "1");
+  folder.writeSettings();
+  e2e::RunningProgram show(folder.program(), L"/S");
+  ASSERT_NE(show.waitForShow(), nullptr);
+  EXPECT_TRUE(Comes(kRed)) << "the list is empty but for the folder's picture";
+  folder.writeBitmap("pictures\\green.bmp", kSize, base::Rgb(0, 255, 0));
+  EXPECT_TRUE(Comes(kGreen)) << "a new file joins";
+  folder.writeBitmap("pictures\\deep\\blue.tmp", kSize, base::Rgb(0, 0, 255));
+  MoveFileW((pictures + L"\\deep\\blue.tmp").c_str(), (pictures + L"\\deep\\blue.bmp").c_str());
+  EXPECT_TRUE(Comes(kBlue)) << "a file that is a picture by its new name joins";
+  DeleteFileW((pictures + L"\\deep\\red.bmp").c_str());
+  ASSERT_TRUE(e2e::WaitFor([&] { return !IndexNames(folder, "red.bmp"); }, 30000));
+  NextColours(2);  // what was next before the news
+  const std::vector<base::Pixel> colours = NextColours(4);
+  EXPECT_EQ(std::count(colours.begin(), colours.end(), kRed), 0) << "a deleted one has left";
+  EXPECT_EQ(std::count(colours.begin(), colours.end(), kGreen), 2);
+  EXPECT_EQ(std::count(colours.begin(), colours.end(), kBlue), 2);
+  EXPECT_TRUE(show.endsByKey());
+  EXPECT_EQ(show.exitCode(), 0U);
+}
+
+TEST(FollowedFolders, AFolderThatIsNotThereHoldsNothingUp) {
+  e2e::ProgramFolder folder;
+  folder.addPicture(kSize, base::Rgb(255, 0, 0));
+  folder.set("folders/0", "Q:\\nothing\\here");
+  folder.set("folders/1", "\\\\no-such-server\\share");
+  folder.writeSettings();
+  e2e::RunningProgram show(folder.program(), L"/S");
+  ASSERT_NE(show.waitForShow(), nullptr);
+  EXPECT_TRUE(Comes(kRed));
+  EXPECT_TRUE(show.endsByKey());
+  EXPECT_EQ(show.exitCode(), 0U);
+}
+
+// Three pictures, and a show that goes on where the last one ended.
+class ResumedShow : public testing::Test {
+ protected:
+  void SetUp() override {
+    folder.addPicture(kSize, base::Rgb(255, 0, 0));
+    folder.addPicture(kSize, base::Rgb(0, 255, 0));
+    folder.addPicture(kSize, base::Rgb(0, 0, 255));
+    folder.set("extras/resume", "1");
+    folder.set("image/timeInterval", "2");
+    folder.writeSettings();
+    settings = folder.readSettingsFile();
+  }
+
+  e2e::ProgramFolder folder;
+  std::string settings;
+};
+
+TEST_F(ResumedShow, BeginsWithThePictureAfterTheLastOne) {
+  {
+    e2e::RunningProgram show(folder.program(), L"/S");
+    ASSERT_NE(show.waitForShow(), nullptr);
+    EXPECT_EQ(FirstColour(), kRed);
+    ASSERT_TRUE(Comes(kGreen));
+    EXPECT_TRUE(show.endsByKey());
+  }
+  e2e::RunningProgram show(folder.program(), L"/S");
+  ASSERT_NE(show.waitForShow(), nullptr);
+  EXPECT_EQ(FirstColour(), kBlue);
+  EXPECT_TRUE(show.endsByKey());
+  EXPECT_EQ(folder.readSettingsFile(), settings) << "the settings file is not written by the show";
+}
+
+TEST_F(ResumedShow, AShowThatIsKilledLeavesWhatWasRememberedBefore) {
+  {
+    e2e::RunningProgram show(folder.program(), L"/S");
+    ASSERT_NE(show.waitForShow(), nullptr);
+    ASSERT_TRUE(Comes(kGreen));
+    EXPECT_TRUE(show.endsByKey());
+  }
+  const std::string state = Content(folder.path() + L"\\lumora.state");
+  EXPECT_FALSE(state.empty());
+  {
+    e2e::RunningProgram show(folder.program(), L"/S");
+    ASSERT_NE(show.waitForShow(), nullptr);
+    EXPECT_EQ(FirstColour(), kBlue);
+    TerminateProcess(show.process(), 1);
+    EXPECT_TRUE(show.waitForEnd());
+  }
+  EXPECT_EQ(Content(folder.path() + L"\\lumora.state"), state);
+  e2e::RunningProgram show(folder.program(), L"/S");
+  ASSERT_NE(show.waitForShow(), nullptr);
+  EXPECT_EQ(FirstColour(), kBlue);
+  EXPECT_TRUE(show.endsByKey());
+}
+
+}  // namespace
