@@ -40,7 +40,7 @@ bool KeptFile::save(std::string_view payload) {
 
 bool KeptFile::write(std::string_view bytes) {
   return std::any_of(paths_.begin(), paths_.end(),
-                     [&](const std::string& path) { return files_.replaceAtOnce(path, bytes); });
+                     [&](const std::string& path) { return files_.replace(path, bytes); });
 }
 
 }  // namespace library

@@ -70,8 +70,10 @@ base::PixelSize ShownPixels(const PictureLimit& limit, base::PixelSize picture, 
   };
   const std::int32_t width = twips(picture.width);
   const std::int32_t height = twips(picture.height);
-  const ShownSize shown = ScalePictureSize(
-      limit, {.width = width, .height = height, .reduction = ReductionFor(limit, width, height)});
+  const ShownSize shown = ScalePictureSize(limit, {.width = width,
+                                                   .height = height,
+                                                   .reduction = ReductionFor(limit, width, height),
+                                                   .pixelTwips = twipsPerPixel});
   return {pixels(shown.width), pixels(shown.height)};
 }
 
