@@ -26,6 +26,7 @@ build_packages=(cmake ninja-build g++ googletest libgtest-dev zlib1g-dev)
 windows_packages=(g++-mingw-w64-x86-64-posix)
 windows_x86_packages=(g++-mingw-w64-i686-posix)
 packing_packages=(nsis zip unzip)
+manifest_packages=(python3 python3-yaml)
 show_packages=(wine wine64 xvfb xauth xdotool imagemagick x11-utils x11-apps
   x11-xserver-utils fonts-liberation)
 
