@@ -1,0 +1,75 @@
+# How ./test runs its groups of tests and counts them. Sourced behind lib.sh.
+# A file a group: passed, failed.
+results=$root/out/test-results
+rm -rf "$results"
+mkdir -p "$results"
+beside_pid=
+
+# Runs a group of tests and notes what passed and failed. $1: name, the rest: a command that reports in GoogleTest's form.
+group() {
+  local name=$1 log="$root/out/test-$1.log" status=0 ran bad seconds=$SECONDS
+  shift
+  say "testing: $name"
+  mkdir -p "$root/out"
+  "$@" >"$log" 2>&1 || status=$?
+  ran=$(tr -d '\r' <"$log" | sed -n 's/^\[  PASSED  \] \([0-9]*\) tests\?\..*/\1/p' | awk '{ n += $1 } END { print n }')
+  bad=$(tr -d '\r' <"$log" | grep -c '^\[  FAILED  \] .*(.*ms)$' || true)
+  if [ "$status" != 0 ] || [ -z "$ran" ]; then
+    [ "$bad" != 0 ] || bad=1
+    tr -d '\r' <"$log" | grep -E -A 12 'Failure$|runtime error|ERROR: AddressSanitizer' | head -n 120 >&2 || true
+    tail -n 20 "$log" >&2
+    say "failed: $name (status $status); all of its output: $log"
+  fi
+  printf '%s %s\n' "${ran:-0}" "$bad" >"$results/$name"
+  say "tested: $name, $((SECONDS - seconds)) s"
+}
+
+# Runs a GoogleTest program in as many parts as there are processors, all at the same time. $1...: the command.
+in_shards() {
+  local count index status=0 logs pids=()
+  count=$(nproc)
+  logs=$(mktemp -d)
+  for ((index = 0; index < count; index++)); do
+    GTEST_TOTAL_SHARDS=$count GTEST_SHARD_INDEX=$index "$@" >"$logs/$index" 2>&1 &
+    pids+=($!)
+  done
+  for ((index = 0; index < count; index++)); do
+    wait "${pids[index]}" || status=$?
+    cat "$logs/$index"
+  done
+  rm -rf "$logs"
+  return "$status"
+}
+
+# Runs a function of groups at the side and at low priority. One that breaks off counts as a failure.
+beside() {
+  (
+    renice -n 10 "$BASHPID" >/dev/null
+    "$@"
+    touch "$results/.beside-done"
+  ) &
+  beside_pid=$!
+}
+
+wait_beside() {
+  wait "$beside_pid" || true
+  beside_pid=
+  [ -e "$results/.beside-done" ] || printf '0 1\n' >"$results/beside"
+}
+
+# Ends what runs at the side, for a run that breaks off.
+stop_beside() {
+  [ -n "$beside_pid" ] || return 0
+  pkill -P "$beside_pid" 2>/dev/null || true
+  kill "$beside_pid" 2>/dev/null || true
+}
+
+# Prints the sum; fails when a test did.
+finish() {
+  local passed failed
+  read -r passed failed < <(cat "$results"/* | awk '{ p += $1; f += $2 } END { print p + 0, f + 0 }')
+  say ""
+  say "after $((SECONDS / 60)) min $((SECONDS % 60)) s"
+  printf '%d passed, %d failed\n' "$passed" "$failed"
+  [ "$failed" = 0 ]
+}
