@@ -34,9 +34,10 @@ make_zip() {
 
 # For which Windows the installer of a build is. $1: build folder.
 setup_target() {
-  case $(sed -n 's/^CMAKE_CXX_COMPILER:[A-Z]*=//p' "$1/CMakeCache.txt") in
-    *x86_64-*) echo amd64-unicode ;;
-    *) echo x86-unicode ;;
+  case $(sed -n 's/^CMAKE_TOOLCHAIN_FILE:[A-Z]*=//p' "$1/CMakeCache.txt") in
+    *x86_64.cmake) echo amd64-unicode ;;
+    *i686.cmake) echo x86-unicode ;;
+    *) say "for which Windows is $1?" && return 1 ;;
   esac
 }
 
@@ -62,12 +63,13 @@ list_imports() {
 # Packs one build. $1: build folder, $2: the packages' name (Lumora, Lumora-x86), $3: folder to write to,
 # $4: "setup" to make an installer as well.
 pack() {
-  local version stage="$3/.stage/$2"
+  local version target stage="$3/.stage/$2"
   version=$(version_of_build "$1")
+  target=$(setup_target "$1")
   mkdir -p "$stage"
   stage_program_folder "$1" "$stage/Lumora"
   make_zip "$stage/Lumora" "$3/$2-$version.zip"
-  [ "${4:-}" != setup ] || make_setup "$stage/Lumora" "$version" "$3/$2-$version-setup.exe" "$(setup_target "$1")"
+  [ "${4:-}" != setup ] || make_setup "$stage/Lumora" "$version" "$3/$2-$version-setup.exe" "$target"
   list_imports "$1" "$3/$2-$version-imports.txt"
   rm -rf "$3/.stage"
 }
