@@ -69,16 +69,12 @@ stop_screens() {
   screens_pid=
 }
 
-# The end-to-end tests that want several screens. Ends the Wine session of the display before.
+# Runs the end-to-end tests that want several screens, in the Wine session of on_own_display. $1...: their command.
 test_several_screens() {
-  stop_show_machine
-  trap 'stop_beside; stop_show_machine; stop_screens' EXIT
+  trap 'stop_show_machine; stop_screens; rm -rf "$WINEPREFIX"' EXIT
   if start_screens "$root/out/screens"; then
-    group several-screens timeout 300 wine "$root/build-windows/lumora_e2e.exe" "$(windows_path "$root/out/Lumora")" \
-      --gtest_filter='SeveralScreens.*'
+    group several-screens timeout 300 "$@"
   else
     say "NOT TESTED: several screens (the X server for them does not start here: $root/out/screens/xorg.log)"
   fi
-  stop_show_machine
-  stop_screens
 }

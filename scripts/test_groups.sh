@@ -3,7 +3,7 @@
 results=$root/out/test-results
 rm -rf "$results"
 mkdir -p "$results"
-beside_pid=
+declare -A beside_pids=()  # by name
 
 # Runs a group of tests and notes what passed and failed. $1: name, the rest: a command that reports in GoogleTest's form.
 group() {
@@ -41,27 +41,60 @@ in_shards() {
   return "$status"
 }
 
-# Runs a function of groups at the side and at low priority. One that breaks off counts as a failure.
+# Runs a function of groups at the side. One that breaks off counts as a failure. $1: its name, the rest: the command.
 beside() {
+  local name=$1
+  shift
   (
-    renice -n 10 "$BASHPID" >/dev/null
     "$@"
-    touch "$results/.beside-done"
+    touch "$results/.$name-done"
   ) &
-  beside_pid=$!
+  beside_pids[$name]=$!
+}
+
+# As above, at low priority.
+beside_idly() {
+  beside "$@"
+  renice -n 10 "${beside_pids[$1]}" >/dev/null
 }
 
 wait_beside() {
-  wait "$beside_pid" || true
-  beside_pid=
-  [ -e "$results/.beside-done" ] || printf '0 1\n' >"$results/beside"
+  local name
+  for name in "${!beside_pids[@]}"; do
+    wait "${beside_pids[$name]}" || true
+    [ -e "$results/.$name-done" ] || {
+      say "broke off: $name"
+      printf '0 1\n' >"$results/$name-broke-off"
+    }
+  done
+  beside_pids=()
 }
 
-# Ends what runs at the side, for a run that breaks off.
+# Ends what runs at the side, for a run that breaks off. Each puts its own display and session away.
 stop_beside() {
-  [ -n "$beside_pid" ] || return 0
-  pkill -P "$beside_pid" 2>/dev/null || true
-  kill "$beside_pid" 2>/dev/null || true
+  local pid
+  for pid in "${beside_pids[@]}"; do
+    pkill -P "$pid" 2>/dev/null || true
+    kill "$pid" 2>/dev/null || true
+  done
+  wait
+}
+
+# Runs a command with a display and a Wine session of its own, in a copy of the prefix that goes away afterwards: tests
+# under Wine mostly wait, so several run at the same time and never meet. $1: a name, the rest: the command.
+on_own_display() {
+  export WINEPREFIX="$root/out/prefixes/$1"
+  shift
+  rm -rf "$WINEPREFIX"
+  mkdir -p "$root/out/prefixes"
+  cp -a "$shared_prefix" "$WINEPREFIX"
+  xvfb_pid=
+  hostile_folders=  # they are the whole run's
+  unset DISPLAY
+  trap 'stop_show_machine; rm -rf "$WINEPREFIX"' EXIT
+  start_display 1920x1080
+  offer_smaller_screen
+  "$@"
 }
 
 # Prints the sum; fails when a test did.

@@ -37,7 +37,6 @@ in_x86_system() {
 test_x86() {
   source scripts/package.sh
   source scripts/package_test.sh
-  source scripts/parity.sh
   [ "$(id -u)" = 0 ] || { say "--x86 makes and enters a system of its own, which only root may do" && exit 2; }
   need_packages "building" "${build_packages[@]}" "${windows_x86_packages[@]}"
   need_packages "packing" "${packing_packages[@]}"
@@ -46,10 +45,13 @@ test_x86() {
   try_x86_packages
   pack_for_test
   build_preset windows-x86
+  build_preset native lumora_parity
   lay_program_folder "$root/build-windows-x86" "$root/out/Lumora-x86"
   group x86-imports "$root/tests/checks/check_imports.sh" "$tried/first/$tried_name-$first_version-imports.txt"
-  test_parity "$root/build-windows-x86" x86 in_x86_system run
-  group x86-windows in_x86_system run /lumora/build-windows-x86/lumora_win_tests.exe
+  note_parity native "$root/build-native/lumora_parity"
+  note_parity x86 in_x86_system run lumora_parity.exe
+  compare_parity x86
+  group x86-windows in_x86_system run lumora_win_tests.exe
   group x86-end-to-end in_x86_system end-to-end
   group x86-packages in_x86_system packages
 }

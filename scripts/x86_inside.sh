@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # What runs inside the 32-bit system, with a display and a Wine prefix of its own.
-#   run PROGRAM [arguments]   a program for Windows; its path in the repository may be the one outside
+#   run PROGRAM [arguments]   a program of the build for 32-bit Windows
 #   end-to-end                the end-to-end tests on out/Lumora-x86
 #   packages                  the package tests on what pack_for_test has packed
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
@@ -13,7 +13,7 @@ offer_smaller_screen
 prepare_wine
 case $what in
   run)
-    program=$root/build-windows-x86/$(basename "$1")
+    program=$root/build-windows-x86/$1
     shift
     timeout 1800 wine "$program" "$@"
     ;;
