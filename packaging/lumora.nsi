@@ -4,9 +4,10 @@
 #   -DFOLDER=path       the program folder, with the times that its files are to have
 #   -DLAUNCHER=path     the program that opens the settings from the Start menu
 #   -DOUTPUT=path       the installer to write
+#   -DTARGET=stub       for which Windows it is: amd64-unicode or x86-unicode
 # What each switch does stands in docs/packages.md.
 Unicode true
-Target amd64-unicode
+Target ${TARGET}
 SetCompressor /SOLID lzma
 
 !include MUI2.nsh
@@ -130,6 +131,21 @@ Section "Lumora" main_section
   ${EndIf}
 SectionEnd
 
+# Removes what the program itself has made beside its settings, known by name: the settings file, copies of earlier
+# ones, leftovers of a save that was killed, what the show remembers, and the log.
+Function un.RemoveSettings
+  Delete "$INSTDIR\${SETTINGS}"
+  Delete "$INSTDIR\${SETTINGS}.new-*"
+  Delete "$INSTDIR\zbfaone.bak"
+  Delete "$INSTDIR\zbfaone.bak.new-*"
+  Delete "$INSTDIR\zbfaone-?.bak"
+  Delete "$INSTDIR\zbfaone-?.bak.new-*"
+  Delete "$INSTDIR\lumora.state"
+  Delete "$INSTDIR\lumora.state.new-*"
+  Delete "$INSTDIR\lumora.log"
+  Delete "$INSTDIR\lumora.log.new-*"
+FunctionEnd
+
 # Removes exactly what the installer brought.
 Section "Uninstall"
   Call un.CloseProgram
@@ -148,7 +164,7 @@ Section "Uninstall"
     ${EndIf}
   ${EndIf}
   ${If} $1 == "remove"
-    Delete "$INSTDIR\${SETTINGS}"
+    Call un.RemoveSettings
   ${EndIf}
 
   !insertmacro REMOVE_SAMPLE "image1.gif"

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Replays the corpus of every fuzzer and fuzzes each for 30 seconds ($1: for so many), two at a time. A part of
+# Replays the corpus of every fuzzer and fuzzes each for 10 seconds ($1: for so many), two at a time. A part of
 # ./test: reports in GoogleTest's form, each target as one test.
 source "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 source "$root/scripts/fuzz_lib.sh"
-seconds=${1:-30}
+seconds=${1:-10}
 
 # One target as one test.
 one() {

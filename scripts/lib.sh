@@ -26,6 +26,8 @@ build_packages=(cmake ninja-build g++ googletest libgtest-dev zlib1g-dev)
 windows_packages=(g++-mingw-w64-x86-64-posix)
 windows_x86_packages=(g++-mingw-w64-i686-posix)
 packing_packages=(nsis zip unzip)
+screens_packages=(xserver-xorg-core xserver-xorg-video-dummy)
+manifest_packages=(python3 python3-yaml)
 show_packages=(wine wine64 xvfb xauth xdotool imagemagick x11-utils x11-apps
   x11-xserver-utils fonts-liberation)
 
@@ -61,6 +63,9 @@ export WINEDEBUG=-all
 # No web engines, and no entries in the menus of whoever runs the tests.
 export WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=d"
 export WINEPREFIX="${LUMORA_WINEPREFIX:-$root/.wine}"
+
+# A path as Windows writes it.
+windows_path() { winepath -w "$1" 2>/dev/null | tr -d '\r'; }
 
 # A display of our own, whose screen can be made smaller. $1: WIDTHxHEIGHT. Sets DISPLAY and xvfb_pid.
 start_display() {
@@ -112,8 +117,8 @@ make_hostile_folders() {
   as_root cp -r "$root/out/Lumora/." "$folder/readonly"
   as_root dd if=/dev/zero of="$folder/full/filler" bs=4k >/dev/null 2>&1 || true  # until no room is left
   as_root mount -o remount,ro "$folder/readonly"
-  LUMORA_FULL_FOLDER=$(winepath -w "$folder/full" 2>/dev/null | tr -d '\r')
-  LUMORA_READONLY_FOLDER=$(winepath -w "$folder/readonly" 2>/dev/null | tr -d '\r')
+  LUMORA_FULL_FOLDER=$(windows_path "$folder/full")
+  LUMORA_READONLY_FOLDER=$(windows_path "$folder/readonly")
   export LUMORA_FULL_FOLDER LUMORA_READONLY_FOLDER
 }
 

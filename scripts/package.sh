@@ -1,4 +1,4 @@
-# How the packages are made: the program folders, the ZIPs, the installer, the lists of what the programs import.
+# How the packages are made: the program folders, the ZIPs, the installers, the lists of what the programs import.
 # Sourced behind lib.sh.
 
 # All files of the packages carry one time, that of the commit, so that the same commit makes the same packages.
@@ -16,10 +16,15 @@ version_of_build() {
 stage_program_folder() {
   rm -rf "$2"
   lay_program_folder "$1" "$2"
+  # For Windows' own editor of texts.
+  sed -e "s/@VERSION@/$(version_of_build "$1")/" -e 's/$/\r/' "$packing_sources/packaging/readme.txt" >"$2/readme.txt"
   cp "$1/LumoraSettings.exe" "$2/../LumoraSettings.exe"
   chmod 644 "$2"/* "$2/../LumoraSettings.exe"
   touch -d "@$SOURCE_DATE_EPOCH" "$2"/* "$2/../LumoraSettings.exe"
 }
+
+# Where the installer's script, its texts and the assets are.
+packing_sources=$root
 
 # $1: the staged Lumora folder, $2: the ZIP to write.
 make_zip() {
@@ -27,14 +32,20 @@ make_zip() {
   (cd "$1/.." && find Lumora -type f | LC_ALL=C sort | TZ=UTC zip -q -X -D -9 "$2" -@)
 }
 
-# Where the installer's script and the assets are.
-packing_sources=$root
+# For which Windows the installer of a build is. $1: build folder.
+setup_target() {
+  case $(sed -n 's/^CMAKE_TOOLCHAIN_FILE:[A-Z]*=//p' "$1/CMakeCache.txt") in
+    *x86_64.cmake) echo amd64-unicode ;;
+    *i686.cmake) echo x86-unicode ;;
+    *) say "for which Windows is $1?" && return 1 ;;
+  esac
+}
 
-# $1: the staged Lumora folder, $2: version, $3: the installer to write.
+# $1: the staged Lumora folder, $2: version, $3: the installer to write, $4: for which Windows (setup_target).
 make_setup() {
   local log="$root/out/makensis.log"
   if ! (cd "$packing_sources/packaging" && makensis -V2 -WX -NOCD -INPUTCHARSET UTF8 -DVERSION="$2" -DFOLDER="$1" \
-    -DLAUNCHER="$1/../LumoraSettings.exe" -DOUTPUT="$3" lumora.nsi) >"$log" 2>&1; then
+    -DLAUNCHER="$1/../LumoraSettings.exe" -DOUTPUT="$3" -DTARGET="$4" lumora.nsi) >"$log" 2>&1; then
     cat "$log" >&2
     return 1
   fi
@@ -52,12 +63,13 @@ list_imports() {
 # Packs one build. $1: build folder, $2: the packages' name (Lumora, Lumora-x86), $3: folder to write to,
 # $4: "setup" to make an installer as well.
 pack() {
-  local version stage="$3/.stage/$2"
+  local version target stage="$3/.stage/$2"
   version=$(version_of_build "$1")
+  target=$(setup_target "$1")
   mkdir -p "$stage"
   stage_program_folder "$1" "$stage/Lumora"
   make_zip "$stage/Lumora" "$3/$2-$version.zip"
-  [ "${4:-}" != setup ] || make_setup "$stage/Lumora" "$version" "$3/$2-$version-setup.exe"
+  [ "${4:-}" != setup ] || make_setup "$stage/Lumora" "$version" "$3/$2-$version-setup.exe" "$target"
   list_imports "$1" "$3/$2-$version-imports.txt"
   rm -rf "$3/.stage"
 }

@@ -183,13 +183,23 @@ struct Monkey {
     if (selected >= 0) rows[static_cast<std::size_t>(selected)].second.clear();
   }
 
+  // Compared without a macro for each row: there are ten million of them in a run. -1 when all are as they
+  // should be.
+  int firstRowOutOfStep() const {
+    for (int i = 0; i < form.List1.listCount(); ++i) {
+      const auto& [path, caption] = rows[static_cast<std::size_t>(i)];
+      if (form.List1.item(i) != path || form.photo_caption.item(i) != caption) return i;
+    }
+    return -1;
+  }
+
   // What must hold after each action.
   void check() {
     ASSERT_EQ(form.List1.listCount(), static_cast<int>(rows.size()));
     ASSERT_EQ(form.photo_caption.listCount(), static_cast<int>(rows.size()));
-    for (int i = 0; i < form.List1.listCount(); ++i) {
-      ASSERT_EQ(form.List1.item(i), rows[static_cast<std::size_t>(i)].first);
-      ASSERT_EQ(form.photo_caption.item(i), rows[static_cast<std::size_t>(i)].second);
+    if (const int i = firstRowOutOfStep(); i >= 0) {
+      ASSERT_EQ(form.List1.item(i), rows[static_cast<std::size_t>(i)].first) << "row " << i;
+      ASSERT_EQ(form.photo_caption.item(i), rows[static_cast<std::size_t>(i)].second) << "row " << i;
     }
     ASSERT_EQ(form.List1.listIndex(), selected);
     ASSERT_EQ(form.Text3.text(), total);
@@ -235,9 +245,13 @@ void RunMonkey(std::uint32_t seed, int steps) {
   }
 }
 
-TEST(PictureListMonkey, NoSequenceOfActionsBringsPicturesAndCaptionsOutOfStep) {
-  for (std::uint32_t seed = 1; seed <= 20; ++seed) ASSERT_NO_FATAL_FAILURE(RunMonkey(seed, 10'500));
+class PictureListMonkeyAtRandom : public testing::TestWithParam<std::uint32_t> {};
+
+TEST_P(PictureListMonkeyAtRandom, NoSequenceOfActionsBringsPicturesAndCaptionsOutOfStep) {
+  ASSERT_NO_FATAL_FAILURE(RunMonkey(GetParam(), 10'500));
 }
+
+INSTANTIATE_TEST_SUITE_P(Seeds, PictureListMonkeyAtRandom, testing::Range(1U, 21U));
 
 // A list that starts long, so that the advice falls somewhere in the run.
 TEST(PictureListMonkey, TheAdviceComesOnceInTheLifeOfTheDialog) {

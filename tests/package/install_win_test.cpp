@@ -2,6 +2,8 @@
 
 #include <shellapi.h>
 
+#include <set>
+
 #include "e2e/dialog_hands.h"
 #include "e2e/running_program.h"
 #include "package/files.h"
@@ -19,6 +21,11 @@ using package::ReadNumber;
 using package::ReadText;
 
 class Install : public package::Installation {};
+
+std::set<std::wstring> NamesLeft(const std::wstring& folder) {
+  const std::vector<std::wstring> names = package::NamesIn(folder);
+  return {names.begin(), names.end()};
+}
 
 // Starts an entry of the Start menu as the shell does; false when it is not there.
 bool StartEntry(const std::wstring& name) {
@@ -53,6 +60,26 @@ TEST_F(Install, KeepsNothingButTheSettingsFileWhenItIsUndoneInSilence) {
   ASSERT_TRUE(uninstall());
   EXPECT_EQ(package::ReadWholeFile(settingsFile()), "[image]\r\npicSpeed=4\r\n");
   EXPECT_EQ(package::NamesIn(folder()), std::vector<std::wstring>{L"zbfaone.ini"});
+}
+
+TEST_F(Install, RemovesWhatTheProgramMadeTogetherWithItsSettingsAndNothingElse) {
+  ASSERT_TRUE(install(packages.setup));
+  const std::set<std::wstring> made = {L"zbfaone.bak",  L"zbfaone-2.bak", L"zbfaone-5.bak",
+                                          L"lumora.state", L"lumora.log",    L"zbfaone.ini.new-1234-1"};
+  const std::set<std::wstring> notes = {L"zbfaone-old.bak", L"zbfaone.txt"};
+  for (const std::wstring& name : made) package::WriteWholeFile(folder() + L"\\" + name, "made");
+  for (const std::wstring& name : notes) package::WriteWholeFile(folder() + L"\\" + name, "the user's");
+  ASSERT_TRUE(uninstall(L"/SETTINGS=remove"));
+  EXPECT_EQ(NamesLeft(folder()), notes);
+}
+
+TEST_F(Install, KeepsAllThatTheProgramMadeWithTheSettings) {
+  ASSERT_TRUE(install(packages.setup));
+  const std::set<std::wstring> made = {L"lumora.log", L"lumora.state", L"zbfaone-2.bak", L"zbfaone.bak",
+                                          L"zbfaone.ini"};
+  for (const std::wstring& name : made) package::WriteWholeFile(folder() + L"\\" + name, "made");
+  ASSERT_TRUE(uninstall(L"/SETTINGS=keep"));
+  EXPECT_EQ(NamesLeft(folder()), made);
 }
 
 TEST_F(Install, FindsTheSettingsOfALumoraThatWasThereBefore) {

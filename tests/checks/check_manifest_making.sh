@@ -1,0 +1,53 @@
+#!/usr/bin/env bash
+# Makes the manifests of packages that only have their names, and lets the check refuse them after each fault that a
+# manifest could have. Reports in GoogleTest's form.
+source "$(dirname "${BASH_SOURCE[0]}")/../../scripts/lib.sh"
+source "$root/scripts/package.sh"
+source "$root/scripts/manifests.sh"
+mkdir -p "$root/out"
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+place=https://packages.lumora.example/1.2.3
+passed=0 failed=0
+
+make_all() {
+  local name
+  for name in $(package_names 1.2.3); do printf 'the bytes of %s' "$name" >"$folder/$name"; done
+  write_sums "$folder" 1.2.3
+  make_manifests "$folder" 1.2.3 "$place"
+}
+
+verdict() {
+  if [ "$1" = "$2" ]; then
+    passed=$((passed + 1))
+  else
+    echo "Failure"
+    echo "$3: $1 in place of $2"
+    echo "[  FAILED  ] Manifests.$3 (0 ms)"
+    failed=$((failed + 1))
+  fi
+}
+
+# $1: name of the fault, $2: file, $3: the sed command that makes it.
+refuses() {
+  local refused=no
+  make_all
+  sed -i "$3" "$folder/$2"
+  "$root/tests/checks/check_manifests.py" "$folder" 1.2.3 "$place" >/dev/null || refused=yes
+  verdict "$refused" yes "Refuses$1"
+}
+
+installer=manifests/winget/Lumora.ScreenSaver.installer.yaml
+if make_all; then made=yes; else made=no; fi
+verdict "$made" yes AreMadeOfThePackages
+refuses AnotherSum "$installer" "s/^\(  InstallerSha256: \).*/\1$(printf '%064d' 0)/"
+refuses AnotherVersion manifests/winget/Lumora.ScreenSaver.yaml 's/1\.2\.3/1.2.4/'
+refuses AnUnknownField "$installer" 's/^Scope:/Scoop:/'
+refuses AnUnknownArchitecture "$installer" 's/x86$/i386/'
+refuses AMissingField manifests/winget/Lumora.ScreenSaver.locale.en-US.yaml '/^License:/d'
+refuses AnotherAddress manifests/scoop/lumora.json 's/packages\.lumora/other.lumora/'
+refuses ASumOfAnotherPackage manifests/scoop/lumora.json '/"hash"/s/"[0-9a-f]\{64\}"/"'"$(printf 'other' | sha256sum | cut -c 1-64)"'"/'
+refuses WhatIsNoJson manifests/scoop/lumora.json '1d'
+refuses WrongSums SHA256SUMS '1d'
+echo "[  PASSED  ] $passed tests."
+[ "$failed" = 0 ]
