@@ -27,7 +27,7 @@ SettingsDialog::~SettingsDialog() {
   // Nothing of a window may outlive its form, whatever ended the program.
   loop_.setErrorHandler(nullptr);
   form.onUnload = nullptr;
-  if (import) services_.windows.unload(*import);
+  if (folderImport) services_.windows.unload(*folderImport);
   services_.windows.unload(about);
   services_.windows.unload(viewer);
   services_.windows.unload(form);
@@ -82,11 +82,11 @@ void SettingsDialog::Save_Click() { save(); }
 void SettingsDialog::FolderCommand_Click() {
   const std::string workingFolder = services_.files.currentFolder();
   enterPicturesFolder();
-  import.emplace(pictures.target(), services_.files, services_.dialogs, services_.windows);
+  folderImport.emplace(pictures.target(), services_.files, services_.dialogs, services_.windows);
   services_.files.enterFolder(workingFolder);
-  services_.windows.showModal(*import);
+  services_.windows.showModal(*folderImport);
   pictures.listChanged();
-  if (!import->addedFolder().empty()) lastFolder_ = import->addedFolder();
+  if (!folderImport->addedFolder().empty()) lastFolder_ = folderImport->addedFolder();
 }
 
 // The system starts a screen saver in a folder of its own, where nobody looks for pictures.

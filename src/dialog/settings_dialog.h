@@ -33,8 +33,8 @@ class SettingsDialog {
   BackgroundImage background;
   auxwin::ImageView viewer;
   auxwin::frmAbout about;
-  std::optional<auxwin::MultiFiles>
-      import;  // lives on until the next one: its window may outlast the wait for it
+  // Lives on until the next one: its window may outlast the wait for it.
+  std::optional<auxwin::MultiFiles> folderImport;
 
   void Ok_Click();
   void Save_Click();

@@ -111,6 +111,7 @@ void FormWindow::followAppearance() {
 
 // Bars appear where not all of the content fits, and take their room from what the other one shows.
 void FormWindow::fitScrollBars() {
+  if (!fixesClientSize()) return;
   for (int pass = 0; pass < 2; ++pass) {
     RECT client{};
     GetClientRect(window_, &client);
@@ -126,7 +127,7 @@ void FormWindow::showScrollBar(int bar, const ScrollAxis& axis) {
   info.cbSize = sizeof(info);
   info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
   info.nMax = std::max(0, axis.content() - 1);
-  info.nPage = static_cast<UINT>(std::max(axis.view(), axis.content() > axis.view() ? 0 : axis.content()));
+  info.nPage = static_cast<UINT>(axis.view());
   info.nPos = axis.offset();
   SetScrollInfo(window_, bar, &info, TRUE);
 }

@@ -34,7 +34,8 @@ bool FormWindow::filter(MSG& message) {
   if (message.message == WM_MOUSEMOVE) reportPointer(message);
   if (message.message == WM_KEYDOWN && switchTab(message)) return true;
   const bool taken = window_ && IsDialogMessageW(window_, &message) != FALSE;
-  if (window_) keepFocusInSight();
+  const bool isKey = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+  if (window_ && isKey) keepFocusInSight();
   return taken;
 }
 

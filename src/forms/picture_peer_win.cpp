@@ -108,7 +108,7 @@ void ImagePeer::draw(base::BitmapView target, const base::PixelRect& area, base:
   base::FillRect(target, base::PixelRect::ofSize(area.size()), SystemPixel(owner().surfaceColor(image_)));
   if (!image_.picture()) return;
   const base::PixelSize fitted = FitInside(image_.picture()->size(), size);
-  if (!fitted_) fitted_ = image_.picture()->drawnAt(fitted);
+  if (!fitted_ || fitted_->size() != fitted) fitted_ = image_.picture()->drawnAt(fitted);
   if (!fitted_) return;
   base::BlendRect(target,
                   {(size.width - fitted.width) / 2 - area.left, (size.height - fitted.height) / 2 - area.top},

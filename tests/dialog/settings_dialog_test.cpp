@@ -193,10 +193,10 @@ TEST_F(SettingsDialogTest, AnImportThatIsOpenWhenTheProgramEndsLivesAsLongAsItsW
     machine.windows.whileModal = [&](forms::Form&) { machine.windows.unload(dialog.form); };
     dialog.FolderCommand_Click();
     EXPECT_TRUE(machine.loop.isQuitting());
-    ASSERT_TRUE(dialog.import->host()) << "its window is still there";
+    ASSERT_TRUE(dialog.folderImport->host()) << "its window is still there";
     // Its controls are still there as well.
-    dialog.import->filFilenames.setPath("C:\\elsewhere");
-    EXPECT_EQ(dialog.import->filFilenames.listCount(), 0);
+    dialog.folderImport->filFilenames.setPath("C:\\elsewhere");
+    EXPECT_EQ(dialog.folderImport->filFilenames.listCount(), 0);
   }
   EXPECT_EQ(machine.windows.unloaded.back(), "MultiFiles");
 }

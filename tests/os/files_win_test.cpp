@@ -170,6 +170,25 @@ TEST(FilesWin, AFolderInsideAFolderIsNotListed) {
   EXPECT_EQ(files.filesIn(temporary.path() + "\\inner\\").size(), 1U);
 }
 
+TEST(FilesWin, NamesSortAsPeopleSortThem) {
+  os::FilesWin files;
+  std::vector<std::string> names{"picture 10.jpg", "Zoo.jpg",  "\xC3\xA9tude.jpg",
+                                 "picture 2.jpg",  "east.jpg", "fox.jpg"};
+  files.sortNames(names);
+  EXPECT_EQ(names, (std::vector<std::string>{"east.jpg", "\xC3\xA9tude.jpg", "fox.jpg", "picture 2.jpg",
+                                             "picture 10.jpg", "Zoo.jpg"}));
+}
+
+TEST(FilesWin, TheUsersPicturesLieInAFolderThatCanBeEntered) {
+  os::FilesWin files;
+  const std::string before = files.currentFolder();
+  const std::string pictures = files.picturesFolder();
+  EXPECT_NE(pictures, "");
+  EXPECT_FALSE(files.enterFolder(pictures + "\\a folder that is not there"));
+  EXPECT_EQ(files.currentFolder(), before);
+  EXPECT_FALSE(files.enterFolder(""));
+}
+
 }  // namespace
 
 }  // namespace support
