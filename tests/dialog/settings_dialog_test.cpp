@@ -147,6 +147,7 @@ TEST_F(SettingsDialogTest, APictureTooLargeForTheMemoryIsOneThatCannotBeLoaded) 
   dialog.form.add.userClicked();
   EXPECT_EQ(Listed(dialog), "a.gif=A;huge.png=;");
   EXPECT_EQ(dialog.form.photo1.picture(), nullptr);
+  dialog.form.backgroundCustomImage.userClicked();
   dialog.form.addBackImg.userClicked();
   EXPECT_EQ(machine.dialogs.messages,
             (std::vector<support::FakeDialogs::Message>{
