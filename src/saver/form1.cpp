@@ -73,6 +73,7 @@ void Form1::unload() {
   for (forms::Timer* timer : {&StartSaver, &ImageChangeTimer, &FloatTimer, &ScrollerTimer, &timeTimer}) {
     timer->setEnabled(false);
   }
+  look_.end();
 }
 
 void Form1::Form_Load() {
@@ -94,6 +95,7 @@ void Form1::copyDesktopIfWanted(const settings::IniDocument& document) {
 }
 
 void Form1::PrepareDisplay() {
+  look_.prepare(settings_.record);
   caption_.prepare();
   DrawBackground();
   Label1.setTop(0);

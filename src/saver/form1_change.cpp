@@ -29,8 +29,25 @@ class Form1::ChangeScope {
 
 void Form1::ShowNextPicture() {
   const ChangeScope change(change_);
+  look_.stopGlide(DisplayingPicture);
   Label1.setVisible(false);
   clearBoxes();
+  if (look_.changesWithoutPause()) {
+    ReplacePicture();
+  } else {
+    ReplaceByWayOfBackground();
+  }
+  if (isOver()) return;
+  if (change_ == ChangeState::EffectGivenUp) {
+    look_.showScreen();
+    refitPicture();
+  }
+  pictureShown_ = true;
+  FloatTimer.setEnabled(floats());
+  look_.startGlide(DisplayingPicture);
+}
+
+void Form1::ReplaceByWayOfBackground() {
   if (pictureShown_) {
     RetireOldPicture();
     if (isOver()) return;
@@ -44,9 +61,6 @@ void Form1::ShowNextPicture() {
   RunTransition();
   if (isOver()) return;
   DisplayingPicture.setPicture(IntialPicture.picture());
-  if (change_ == ChangeState::EffectGivenUp) refitPicture();
-  pictureShown_ = true;
-  FloatTimer.setEnabled(floats());
 }
 
 void Form1::clearBoxes() {

@@ -39,11 +39,12 @@ void Form1::ScalePicture() {
   PictureReduce.setPicture(nullptr);
   PictureReduce.setWidth(static_cast<float>(shown.width));
   PictureReduce.setHeight(static_cast<float>(shown.height));
-  if (const pictures::SharedPicture& loaded = IntialPicture.picture()) {
+  const base::SharedBitmap composed = composePicture(PictureReduce.pixelRect().size());
+  if (const pictures::SharedPicture& loaded = IntialPicture.picture(); loaded && !composed) {
     PictureReduce.paintPicture(*loaded, PictureReduce.pixelRect().size());
   }
   IntialPicture.cls();
-  IntialPicture.setPicture(pictures::MakePicture(PictureReduce.image()));
+  IntialPicture.setPicture(pictures::MakePicture(composed ? composed : PictureReduce.image()));
   DisplayingPicture.setWidth(IntialPicture.width());
   DisplayingPicture.setHeight(IntialPicture.height());
 }

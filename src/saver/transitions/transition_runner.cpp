@@ -78,13 +78,12 @@ class Canvas {
   std::vector<base::PixelRect> covered_;  // rectangles of the last of them
 };
 
-// The first moment of the frame grid that lies after `elapsedMs`.
+}  // namespace
+
 std::int64_t NextFrameMs(std::int64_t elapsedMs) {
   const std::int64_t frame = elapsedMs * kFramesPerSecond / 1000 + 1;
   return (frame * 1000 + kFramesPerSecond - 1) / kFramesPerSecond;
 }
-
-}  // namespace
 
 std::optional<int> ParseTransitionTime(std::string_view text) {
   const std::string_view digits = base::TrimBlanks(text);
