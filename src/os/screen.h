@@ -21,6 +21,9 @@ class Screen {
   // The places of the further screens relative to the primary one; empty with a single screen.
   virtual std::vector<base::PixelRect> otherScreens() const = 0;
 
+  // False where the user wants nothing to move that need not.
+  virtual bool showsAnimations() const = 0;
+
   // What the primary screen shows at this moment, opaque. Black where it cannot be read.
   virtual base::Bitmap copyDesktop() const = 0;
 };

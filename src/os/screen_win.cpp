@@ -34,6 +34,12 @@ std::vector<base::PixelRect> ScreenWin::otherScreens() const {
   return areas;
 }
 
+bool ScreenWin::showsAnimations() const {
+  BOOL shown = TRUE;
+  SystemParametersInfoW(SPI_GETCLIENTAREAANIMATION, 0, &shown, 0);
+  return shown != FALSE;
+}
+
 base::Bitmap ScreenWin::copyDesktop() const {
   const base::PixelSize size = primarySize();
   base::Bitmap copy(size, base::OpaquePixel(base::kBlack));

@@ -13,6 +13,7 @@ class ScreenWin : public Screen {
   base::PixelSize primarySize() const override;
   int dpi() const override;
   std::vector<base::PixelRect> otherScreens() const override;
+  bool showsAnimations() const override;
   base::Bitmap copyDesktop() const override;
 };
 

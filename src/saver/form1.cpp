@@ -84,6 +84,7 @@ void Form1::unload() {
                               &newsTimer_, &rememberTimer_}) {
     timer->setEnabled(false);
   }
+  look_.end();
 }
 
 void Form1::Form_Load() {
@@ -107,6 +108,7 @@ void Form1::copyDesktopIfWanted(const settings::IniDocument& document) {
 }
 
 void Form1::PrepareDisplay() {
+  look_.prepare(settings_.record);
   caption_.prepare();
   DrawBackground();
   Label1.setTop(0);

@@ -23,6 +23,7 @@
 #include "saver/caption.h"
 #include "saver/floating.h"
 #include "saver/next_picture.h"
+#include "saver/picture_look.h"
 #include "saver/picture_order.h"
 #include "saver/stage.h"
 #include "saver/stage_window.h"
@@ -136,6 +137,12 @@ class Form1 : public forms::Form {
   void PlacePicture();
   void runEffect(const Effect& effect, const base::SharedBitmap& pixels);
   void pauseAfterRetiring();
+  void ReplaceByWayOfBackground();
+  void ReplacePicture();
+  void runDirectEffect(const base::PixelRect& area);
+  int glideMs() const;
+  Composition compositionFor(base::PixelSize documented) const;
+  base::SharedBitmap composePicture(base::PixelSize documented);
   void layOutAgain();
   void refitPicture();
   void reseed();
@@ -149,6 +156,7 @@ class Form1 : public forms::Form {
   forms::Timer rememberTimer_;  // in case that the show is not asked when it ends
   Caption caption_{Label1, ScrollerTimer, settings_};
   TimeDisplay timeDisplay_{time, timeTimer, settings_, services_.clock, services_.dates};
+  PictureLook look_{services_.stage, services_.clock, services_.loop, services_.screen};
   base::Random random_;
   base::SharedBitmap desktop_;  // as it was before the window covered it; null where it is not wanted
   base::PixelSize screenSize_;

@@ -49,8 +49,25 @@ void Form1::ShowNextPicture() {
   const ChangeScope change(change_);
   awaitPicture();
   if (isOver()) return;
+  look_.stopGlide(DisplayingPicture);
   Label1.setVisible(false);
   clearBoxes();
+  if (look_.changesWithoutPause()) {
+    ReplacePicture();
+  } else {
+    ReplaceByWayOfBackground();
+  }
+  if (isOver()) return;
+  if (change_ == ChangeState::EffectGivenUp) {
+    look_.showScreen();
+    refitPicture();
+  }
+  pictureShown_ = true;
+  FloatTimer.setEnabled(floats());
+  look_.startGlide(DisplayingPicture);
+}
+
+void Form1::ReplaceByWayOfBackground() {
   if (pictureShown_) {
     RetireOldPicture();
     if (isOver()) return;
@@ -65,9 +82,6 @@ void Form1::ShowNextPicture() {
   RunTransition();
   if (isOver()) return;
   DisplayingPicture.setPicture(IntialPicture.picture());
-  if (change_ == ChangeState::EffectGivenUp) refitPicture();
-  pictureShown_ = true;
-  FloatTimer.setEnabled(floats());
 }
 
 void Form1::clearBoxes() {

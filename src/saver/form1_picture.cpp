@@ -14,11 +14,16 @@ std::optional<pictures::Wish> Form1::wishFor(std::int16_t number) const {
     return std::nullopt;
   }
   const PictureLimit limit = PictureLimit::of(width(), height(), settings_.pictureScale);
+  // Runs beside the show, of which it has only what it was given.
+  const auto prepare = [limit, perPixel = twipsPerPixel(), looks = floats() ? Looks() : look_.looks(),
+                        on = compositionFor({})](const pictures::Picture& file) mutable {
+    on.documented = ShownPixels(limit, file.size(), perPixel);
+    return pictures::DrawAhead(
+        file, looks.isDocumentedSize() ? on.documented : PlanComposition(looks, file.size(), on).drawn);
+  };
   return pictures::Wish{.path = settings_.imageFiles[index],
                         .box = {limit.maxPictureWidth, limit.maxPictureHeight},
-                        .prepare = [limit, perPixel = twipsPerPixel()](const pictures::Picture& file) {
-                          return pictures::DrawAhead(file, ShownPixels(limit, file.size(), perPixel));
-                        }};
+                        .prepare = prepare};
 }
 
 // Behind the last picture comes the first, as soon as its turn is there.
@@ -67,11 +72,12 @@ void Form1::ScalePicture() {
   PictureReduce.setPicture(nullptr);
   PictureReduce.setWidth(static_cast<float>(shown.width));
   PictureReduce.setHeight(static_cast<float>(shown.height));
-  if (const pictures::SharedPicture& loaded = IntialPicture.picture()) {
+  const base::SharedBitmap composed = composePicture(PictureReduce.pixelRect().size());
+  if (const pictures::SharedPicture& loaded = IntialPicture.picture(); loaded && !composed) {
     PictureReduce.paintPicture(*loaded, PictureReduce.pixelRect().size());
   }
   IntialPicture.cls();
-  IntialPicture.setPicture(pictures::MakePicture(PictureReduce.image()));
+  IntialPicture.setPicture(pictures::MakePicture(composed ? composed : PictureReduce.image()));
   DisplayingPicture.setWidth(IntialPicture.width());
   DisplayingPicture.setHeight(IntialPicture.height());
 }

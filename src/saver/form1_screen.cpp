@@ -31,12 +31,15 @@ void Form1::layOutAgain() {
   if (change_ != ChangeState::None) {
     // The change goes on behind its effect, which notices at its next step.
     change_ = ChangeState::EffectGivenUp;
+    services_.stage.showLive(nullptr);
     DisplayingPicture.setVisible(false);
     return;
   }
   if (loadsAhead_) prepareNext();
   if (!pictureShown_) return;
+  look_.stopGlide(DisplayingPicture);
   refitPicture();
+  look_.startGlide(DisplayingPicture);
   caption_.screenChanged();
 }
 

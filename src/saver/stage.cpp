@@ -70,9 +70,33 @@ void Stage::present(const std::vector<base::PixelRect>& areas) {
 void Stage::compose(const base::PixelRect& area) {
   settle();
   const base::BitmapView target = window_.backBuffer();
+  const base::PixelRect live = live_ ? live_->place().intersected(area) : base::PixelRect{};
+  for (const base::PixelRect& part : base::Difference(area, live)) composeBoxes(target, part);
+  if (!live.isEmpty()) live_->draw(target, live);
+  composeTexts(target, area);
+}
+
+void Stage::composeBoxes(const base::BitmapView& target, const base::PixelRect& area) const {
   for (const base::PixelRect& open : base::Difference(area, opaquePicture())) composeBackground(target, open);
   composePicture(target, area);
-  composeTexts(target, area);
+}
+
+void Stage::showLive(const LivePicture* live) {
+  live_ = live;
+  liveChanged();
+}
+
+void Stage::liveChanged() {
+  const base::PixelRect place = live_ ? live_->place() : base::PixelRect{};
+  invalidate(liveWas_.united(place));
+  liveWas_ = place;
+}
+
+base::Bitmap Stage::withoutTexts() const {
+  base::Bitmap boxes = base::Bitmap::unfilled(window_.backBuffer().size);
+  composeBoxes(boxes.view(), base::PixelRect::ofSize(boxes.size()));
+  boxes.setOpaque(true);
+  return boxes;
 }
 
 // Where the assigned picture hides the background; empty where it may let it through.

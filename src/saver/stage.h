@@ -10,6 +10,7 @@
 #include "forms/picture_boxes.h"
 #include "forms/texts.h"
 #include "os/text_renderer.h"
+#include "saver/live_picture.h"
 #include "saver/stage_window.h"
 #include "saver/text_layer.h"
 
@@ -37,6 +38,16 @@ class Stage : public forms::FormHost {
   // outside the window.
   base::Bitmap backgroundUnder(const base::PixelRect& area);
 
+  // Shows a live picture in front of the picture box and behind the texts, until null is shown. It must
+  // outlive that.
+  void showLive(const LivePicture* live);
+
+  // The live picture shows something else, all over or at another place.
+  void liveChanged();
+
+  // The whole window as the boxes show it, opaque: without texts and without a live picture.
+  base::Bitmap withoutTexts() const;
+
   // The topmost visible control of the show at a place, or null over the bare background.
   const forms::Control* controlAt(base::PixelPoint place) const;
 
@@ -51,6 +62,7 @@ class Stage : public forms::FormHost {
  private:
   void invalidate(const base::PixelRect& area);
   void compose(const base::PixelRect& area);
+  void composeBoxes(const base::BitmapView& target, const base::PixelRect& area) const;
   void composeBackground(const base::BitmapView& target, const base::PixelRect& area) const;
   void composePicture(const base::BitmapView& target, const base::PixelRect& area) const;
   void composeTexts(const base::BitmapView& target, const base::PixelRect& area);
@@ -73,10 +85,12 @@ class Stage : public forms::FormHost {
   forms::PictureBox* picture_ = nullptr;
   std::vector<TextLayer> texts_;
   base::SharedBitmap backgroundPixels_;
-  base::SharedBitmap assigned_;         // the picture box's assigned picture, as far as it shows
-  base::SharedBitmap transitionTo_;     // the picture that was painted on the box last, and
-  base::PixelRect painted_;             // where the box shows it for certain
-  base::PixelRect ahead_;               // where the back buffer shows it already and the screen does not yet
+  base::SharedBitmap assigned_;      // the picture box's assigned picture, as far as it shows
+  base::SharedBitmap transitionTo_;  // the picture that was painted on the box last, and
+  base::PixelRect painted_;          // where the box shows it for certain
+  base::PixelRect ahead_;            // where the back buffer shows it already and the screen does not yet
+  const LivePicture* live_ = nullptr;
+  base::PixelRect liveWas_;             // where the live picture was composed last
   base::PixelRect pictureWas_;          // where the picture box was composed last; empty while hidden
   std::vector<base::PixelRect> dirty_;  // areas of the window to compose anew
   bool placesChanged_ = false;

@@ -28,7 +28,8 @@ struct SettingsRecord {
   // [date]
   std::string countdownMonth, countdownDay, countdownYear;
   // [extras]: settings beyond the documented file; each is empty when absent
-  std::string transitionTime, otherScreens, livePreview, log, shuffle, resume, subfolders;
+  std::string transitionTime, fit, surround, change, panZoom, otherScreens, livePreview, log, shuffle, resume,
+      subfolders;
 };
 
 // A setting's text in the record.
@@ -90,6 +91,10 @@ inline constexpr auto kWrittenKeys = std::to_array<Key>({
 // save touches only those that were changed in the dialog.
 inline constexpr auto kExtraKeys = std::to_array<Key>({
     {"extras", "transitionTime", &SettingsRecord::transitionTime, ""},
+    {"extras", "fit", &SettingsRecord::fit, ""},
+    {"extras", "surround", &SettingsRecord::surround, ""},
+    {"extras", "change", &SettingsRecord::change, ""},
+    {"extras", "panZoom", &SettingsRecord::panZoom, ""},
     {"extras", "otherScreens", &SettingsRecord::otherScreens, ""},
     {"extras", "livePreview", &SettingsRecord::livePreview, ""},
     {"extras", "log", &SettingsRecord::log, ""},

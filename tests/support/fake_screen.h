@@ -10,6 +10,7 @@ class FakeScreen : public os::Screen {
   base::PixelSize primarySize() const override { return size; }
   int dpi() const override { return dotsPerInch; }
   std::vector<base::PixelRect> otherScreens() const override { return others; }
+  bool showsAnimations() const override { return animations; }
   base::Bitmap copyDesktop() const override {
     ++desktopCopies;
     return desktop.isEmpty() ? base::Bitmap(size, 0xFF204060) : desktop;
@@ -19,6 +20,7 @@ class FakeScreen : public os::Screen {
   int dotsPerInch = 96;
   std::vector<base::PixelRect> others;
   base::Bitmap desktop;
+  bool animations = true;
   mutable int desktopCopies = 0;
 };
 

@@ -94,13 +94,12 @@ bool PaintsNothing(const TransitionPlan& plan, const base::PixelRect& bounds) {
   return true;
 }
 
-// The first moment of the frame grid that lies after `elapsedMs`.
+}  // namespace
+
 std::int64_t NextFrameMs(std::int64_t elapsedMs) {
   const std::int64_t frame = elapsedMs * kFramesPerSecond / 1000 + 1;
   return (frame * 1000 + kFramesPerSecond - 1) / kFramesPerSecond;
 }
-
-}  // namespace
 
 std::optional<int> ParseTransitionTime(std::string_view text) {
   const std::string_view digits = base::TrimBlanks(text);

@@ -18,6 +18,9 @@ namespace saver {
 // 5000. Nothing for any other text: the effects then run as fast as the machine draws.
 std::optional<int> ParseTransitionTime(std::string_view text);
 
+// The first moment of the grid of sixty frames a second that lies after `elapsedMs`, counted from its start.
+std::int64_t NextFrameMs(std::int64_t elapsedMs);
+
 // Both ways of running let events run in between, a key that ends the show among them, but also timers: the
 // caller guards against a second change while one is under way. Once `isOver` says so, no control is touched
 // any more.
