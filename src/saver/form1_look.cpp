@@ -53,6 +53,7 @@ void Form1::ReplacePicture() {
   look_.freezeScreen();
   change_ = ChangeState::UnderWay;
   LoadCurrentPicture();
+  if (isOver()) return;
   ScalePicture();
   PlacePicture();
   DisplayingPicture.setVisible(true);
