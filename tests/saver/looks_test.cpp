@@ -1,0 +1,104 @@
+#include "saver/looks.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "support/noise.h"
+
+namespace saver {
+namespace {
+
+using base::PixelSize;
+
+// A picture that remembers at which size it was drawn.
+class Drawn final : public pictures::Picture {
+ public:
+  explicit Drawn(PixelSize size, bool broken = false) : size_(size), broken_(broken) {}
+  PixelSize size() const override { return size_; }
+  base::SharedBitmap drawnAt(PixelSize size) const override {
+    asked = size;
+    return broken_ ? nullptr : std::make_shared<base::Bitmap>(size, 0xFF808080);
+  }
+
+  mutable PixelSize asked;
+
+ private:
+  PixelSize size_;
+  bool broken_;
+};
+
+constexpr Composition kOn{
+    .screen = {1920, 1080}, .share = {1900, 1069}, .documented = {800, 600}, .glideMs = 60'000};
+
+TEST(Looks, AreReadFromTheirKeys) {
+  settings::SettingsRecord record;
+  EXPECT_TRUE(Looks::of(record).isDocumentedSize());
+  EXPECT_EQ(Looks::of(record).change, ChangeStyle::Documented);
+  record.fit = "fill";
+  record.surround = "blur";
+  record.change = "Crossfade";
+  record.panZoom = "8";
+  const Looks looks = Looks::of(record);
+  EXPECT_EQ(looks.fit, Fit::Fill);
+  EXPECT_TRUE(looks.blurredSurround);
+  EXPECT_EQ(looks.change, ChangeStyle::Crossfade);
+  EXPECT_EQ(looks.panZoomPercent, 8);
+  record.change = "direct";
+  EXPECT_EQ(Looks::of(record).change, ChangeStyle::Direct);
+  record.change = "slowly";
+  EXPECT_EQ(Looks::of(record).change, ChangeStyle::Documented);
+}
+
+TEST(Looks, AFillingPictureIsDecodedOnceAtTheSizeThatCoversTheScreen) {
+  const Drawn picture({4000, 3000});
+  const ComposedPicture composed = ComposePicture({.fit = Fit::Fill}, picture, kOn);
+  EXPECT_EQ(picture.asked, (PixelSize{1920, 1440}));
+  EXPECT_EQ(composed.pixels->size(), kOn.screen);
+  EXPECT_TRUE(composed.glide.standsStill());
+}
+
+TEST(Looks, AGlidingPictureIsDrawnLargerAndShownInTheSameBox) {
+  const Drawn picture({4000, 3000});
+  const ComposedPicture composed = ComposePicture({.fit = Fit::Whole, .panZoomPercent = 10}, picture, kOn);
+  EXPECT_EQ(composed.glide.shownSize(), (PixelSize{1425, 1069}));
+  EXPECT_EQ(composed.pixels->size(), (PixelSize{1567, 1175}));
+  EXPECT_EQ(picture.asked, (PixelSize{1567, 1175}));
+}
+
+TEST(Looks, ADocumentedSizeGlidesOnlyWhereItCoversTheScreen) {
+  const Drawn picture({800, 600});
+  EXPECT_TRUE(ComposePicture({.panZoomPercent = 10}, picture, kOn).glide.standsStill());
+  Composition covered = kOn;
+  covered.documented = {1920, 1080};
+  EXPECT_FALSE(ComposePicture({.panZoomPercent = 10}, picture, covered).glide.standsStill());
+  EXPECT_FALSE(
+      ComposePicture({.blurredSurround = true, .panZoomPercent = 10}, picture, kOn).glide.standsStill());
+}
+
+TEST(Looks, ASurroundIsEnlargedWithItsPicture) {
+  const Drawn picture({800, 600});
+  const ComposedPicture composed =
+      ComposePicture({.blurredSurround = true, .panZoomPercent = 10}, picture, kOn);
+  EXPECT_EQ(picture.asked, (PixelSize{880, 660}));
+  EXPECT_EQ(composed.pixels->size(), (PixelSize{2112, 1188}));
+  EXPECT_EQ(composed.pixels->at(2112 / 2, 1188 / 2 - 329), 0xFF808080U);
+  EXPECT_EQ(composed.pixels->at(2112 / 2, 1188 / 2 - 331), 0xFF404040U);
+  EXPECT_TRUE(composed.pixels->isOpaque());
+}
+
+TEST(Looks, ThePlanNamesTheSizeAtWhichThePictureIsDrawn) {
+  const Drawn picture({4000, 3000});
+  for (const Looks& looks : {Looks{.fit = Fit::Fill, .panZoomPercent = 8}, Looks{.fit = Fit::Whole},
+                             Looks{.blurredSurround = true, .panZoomPercent = 3}}) {
+    ComposePicture(looks, picture, kOn);
+    EXPECT_EQ(PlanComposition(looks, picture.size(), kOn).drawn, picture.asked);
+  }
+}
+
+TEST(Looks, APictureThatCannotBeDecodedHasNoPixels) {
+  EXPECT_EQ(ComposePicture({.fit = Fit::Fill}, Drawn({40, 30}, true), kOn).pixels, nullptr);
+}
+
+}  // namespace
+}  // namespace saver
