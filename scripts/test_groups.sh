@@ -89,7 +89,7 @@ on_own_display() {
   mkdir -p "$root/out/prefixes"
   cp -a "$shared_prefix" "$WINEPREFIX"
   xvfb_pid=
-  hostile_folders=  # they are the whole run's
+  hostile_folders= silent_folder=  # they are the whole run's
   unset DISPLAY
   trap 'stop_show_machine; rm -rf "$WINEPREFIX"' EXIT
   start_display 1920x1080

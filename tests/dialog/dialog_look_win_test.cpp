@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "os/handles_win.h"
+#include "support/dialog_machine.h"
 #include "support/real_dialog_win.h"
 
 namespace dialog {
@@ -63,7 +64,7 @@ TEST_F(DialogLook, ScreenReadersCallEachFieldWhatItIs) {
                                                          {7, "dayCombo", "Day"},
                                                          {7, "yearCombo", "Year"}}) {
     dialog.showTab(named.tab);
-    const HWND window = dialog.windowOf(*dialog.form().find(named.control));
+    const HWND window = dialog.windowOf(*support::ControlNamed(dialog.form(), named.control));
     ASSERT_TRUE(window) << named.control;
     EXPECT_EQ(readAs(window), named.name) << named.control;
   }
