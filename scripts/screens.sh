@@ -31,8 +31,11 @@ Section "Screen"
 EndSection
 CONF
   for number in $(seq 90 120); do [ -e "/tmp/.X$number-lock" ] || break; done
-  as_root Xorg ":$number" -noreset -novtswitch -sharevts -nolisten tcp -config "$folder/xorg.conf" \
-    -logfile "$folder/xorg.log" >/dev/null 2>&1 &
+  local server=(Xorg ":$number" -noreset -novtswitch -sharevts -nolisten tcp -config "$folder/xorg.conf"
+    -logfile "$folder/xorg.log")
+  # The server itself, not a shell around it, is what is stopped later.
+  [ "$(id -u)" = 0 ] || server=(sudo -n "${server[@]}")
+  "${server[@]}" >/dev/null 2>&1 &
   screens_pid=$!
   export DISPLAY=":$number"
   for tries in $(seq 100); do

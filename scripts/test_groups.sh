@@ -77,7 +77,8 @@ stop_beside() {
     pkill -P "$pid" 2>/dev/null || true
     kill "$pid" 2>/dev/null || true
   done
-  wait
+  # Not for all that this shell has started: its display goes last.
+  for pid in "${beside_pids[@]}"; do wait "$pid" || true; done
 }
 
 # Runs a command with a display and a Wine session of its own, in a copy of the prefix that goes away afterwards: tests

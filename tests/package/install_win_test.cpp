@@ -65,7 +65,7 @@ TEST_F(Install, KeepsNothingButTheSettingsFileWhenItIsUndoneInSilence) {
 TEST_F(Install, RemovesWhatTheProgramMadeTogetherWithItsSettingsAndNothingElse) {
   ASSERT_TRUE(install(packages.setup));
   const std::set<std::wstring> made = {L"zbfaone.bak",  L"zbfaone-2.bak", L"zbfaone-5.bak",
-                                          L"lumora.state", L"lumora.log",    L"zbfaone.ini.new-1234-1"};
+                                       L"lumora.state", L"lumora.log",    L"zbfaone.ini.new-1234-1"};
   const std::set<std::wstring> notes = {L"zbfaone-old.bak", L"zbfaone.txt"};
   for (const std::wstring& name : made) package::WriteWholeFile(folder() + L"\\" + name, "made");
   for (const std::wstring& name : notes) package::WriteWholeFile(folder() + L"\\" + name, "the user's");
@@ -76,7 +76,7 @@ TEST_F(Install, RemovesWhatTheProgramMadeTogetherWithItsSettingsAndNothingElse) 
 TEST_F(Install, KeepsAllThatTheProgramMadeWithTheSettings) {
   ASSERT_TRUE(install(packages.setup));
   const std::set<std::wstring> made = {L"lumora.log", L"lumora.state", L"zbfaone-2.bak", L"zbfaone.bak",
-                                          L"zbfaone.ini"};
+                                       L"zbfaone.ini"};
   for (const std::wstring& name : made) package::WriteWholeFile(folder() + L"\\" + name, "made");
   ASSERT_TRUE(uninstall(L"/SETTINGS=keep"));
   EXPECT_EQ(NamesLeft(folder()), made);
