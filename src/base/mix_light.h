@@ -11,7 +11,7 @@ namespace base {
 constexpr int kWholeWeight = 256;
 
 // `count` opaque pixels, of which `to` has `weight` of kWholeWeight parts and `from` the rest. What is mixed
-// is the light of the pixels, the square of their levels (see docs/decisions/0006-mixing-light.md): every
+// is the light of the pixels, the square of their levels (see docs/decisions/0009-mixing-light.md): every
 // channel lies between the two, and at weight 0 and kWholeWeight is the one or the other.
 using MixLightLoop = void (*)(Pixel* out, const Pixel* from, const Pixel* to, int count, int weight);
 
