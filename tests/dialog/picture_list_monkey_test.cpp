@@ -48,7 +48,7 @@ struct Monkey {
     machine.files.folders["C:\\"] = {"empty"};
     machine.windows.whileModal = [this](forms::Form& modal) {
       auto& import = static_cast<auxwin::MultiFiles&>(modal);
-      if (importsEmptyFolder) import.dirDirectories.setPath("C:\\empty");
+      import.dirDirectories.setPath(importsEmptyFolder ? "C:\\empty" : "C:\\");
       (importAdds ? import.Command1 : import.cmdQuit).userClicked();
     };
   }

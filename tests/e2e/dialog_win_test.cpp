@@ -26,6 +26,38 @@ void Type(const std::wstring& text) {
   }
 }
 
+// Where the user keeps pictures, as the system knows it, for a scope.
+class PicturesFolder {
+ public:
+  explicit PicturesFolder(const std::wstring& path) {
+    DWORD size = sizeof(before_);
+    known_ = RegGetValueW(HKEY_CURRENT_USER, kKey, kName, RRF_RT_ANY | RRF_NOEXPAND, &type_, before_,
+                          &size) == ERROR_SUCCESS;
+    size_ = size;
+    RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kName, REG_EXPAND_SZ, path.c_str(),
+                    static_cast<DWORD>((path.size() + 1) * sizeof(wchar_t)));
+  }
+  ~PicturesFolder() {
+    if (known_) {
+      RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kName, type_, before_, size_);
+    } else {
+      RegDeleteKeyValueW(HKEY_CURRENT_USER, kKey, kName);
+    }
+  }
+  PicturesFolder(const PicturesFolder&) = delete;
+  PicturesFolder& operator=(const PicturesFolder&) = delete;
+
+ private:
+  static constexpr wchar_t kKey[] =
+      L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders";
+  static constexpr wchar_t kName[] = L"My Pictures";
+
+  bool known_ = false;
+  DWORD type_ = 0;
+  DWORD size_ = 0;
+  wchar_t before_[MAX_PATH] = {};
+};
+
 // Goes to the next tab with the keyboard.
 void NextTab() {
   INPUT input[4]{};
@@ -124,20 +156,17 @@ TEST_F(DialogTest, ACaptionTypedByHandIsSavedAndNothingElseIs) {
 }
 
 TEST_F(DialogTest, PicturesAddedMovedAndOptionsChangedOnEveryTabAreInTheFile) {
-  // One picture to be chosen by name, two in a folder in which the program starts.
+  // One picture to be chosen by name, two in the folder where the user keeps pictures.
   const std::string single = folder.writeBitmap("single.bmp", {30, 20}, base::Rgb(1, 2, 3));
   e2e::ProgramFolder album(L"album");
   const std::string first = album.writeBitmap("a.bmp", {30, 20}, base::Rgb(1, 2, 3));
   const std::string second = album.writeBitmap("b.bmp", {30, 20}, base::Rgb(1, 2, 3));
-  wchar_t before[MAX_PATH];
-  GetCurrentDirectoryW(MAX_PATH, before);
-  SetCurrentDirectoryW(album.path().c_str());
+  const PicturesFolder pictures(album.path());
   e2e::RunningProgram program(folder.program(), L"/C");
-  SetCurrentDirectoryW(before);
   const HWND dialog = DialogOf(program);
   ASSERT_NE(dialog, nullptr);
 
-  ASSERT_TRUE(FindAndClick(dialog, L"Button", L"Folder..."));
+  ASSERT_TRUE(FindAndClick(dialog, L"Button", L"Fol&der..."));
   HWND addAll = nullptr;
   ASSERT_TRUE(e2e::WaitFor([&] {
     HWND window = nullptr;
@@ -151,7 +180,7 @@ TEST_F(DialogTest, PicturesAddedMovedAndOptionsChangedOnEveryTabAreInTheFile) {
   ClickOn(addAll);
   ASSERT_TRUE(e2e::WaitFor([&] { return ChildOf(dialog, L"Edit", L"Position: 4") != nullptr; }));
 
-  ASSERT_TRUE(FindAndClick(dialog, L"Button", L"Add..."));
+  ASSERT_TRUE(FindAndClick(dialog, L"Button", L"&Add..."));
   ASSERT_NE(WindowTitled(L"Select a file to open"), nullptr);
   Type(os::ToWide(single));
   e2e::PressKey(VK_RETURN);

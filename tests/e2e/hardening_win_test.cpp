@@ -163,9 +163,8 @@ TEST(Hardening, NothingIsTakenFromTheCurrentFolder) {
   e2e::ProgramFolder folder;
   folder.set("background/newBackColor", "128");
   folder.set("firstrun/samples", "1");  // the two samples come first, whose files are not in this folder
-  folder.addPicture({1, 1}, 0);
-  folder.addPicture({1, 1}, 0);
-  folder.addPicture({600, 400}, base::Rgb(0, 0, 255));
+  folder.set("total/total", "3");
+  folder.set("images/2", folder.writeBitmap("blue.bmp", {600, 400}, base::Rgb(0, 0, 255)));
   folder.writeSettings();
   const std::string decoysSettings = decoy.readSettingsFile();
   e2e::RunningProgram show(folder.program(), L"/S", decoy.path());
