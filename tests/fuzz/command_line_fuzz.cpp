@@ -55,14 +55,29 @@ startup::RunMode ExpectedMode(std::string_view text) {
   }
 }
 
+bool IsSpaceOfAnyScript(char32_t c) {
+  return (c >= 0x09 && c <= 0x0D) || c == 0x20 || c == 0x85 || c == 0xA0 || c == 0x1680 ||
+         (c >= 0x2000 && c <= 0x200A) || c == 0x2028 || c == 0x2029 || c == 0x202F || c == 0x205F ||
+         c == 0x3000;
+}
+
+// The text behind so many characters, without its blanks.
+std::string Behind(std::string_view text, int characters) {
+  while (characters-- > 0 && !text.empty()) text.remove_prefix(base::Utf8CharacterAt(text, 0).length);
+  std::string rest;
+  while (!text.empty()) {
+    const base::Utf8Character first = base::Utf8CharacterAt(text, 0);
+    if (!IsSpaceOfAnyScript(first.value)) rest.append(text.data(), first.length);
+    text.remove_prefix(first.length);
+  }
+  return rest;
+}
+
 void CheckSwitches(std::string_view text) {
   fuzz::Require(startup::RunModeOf(text) == ExpectedMode(text), "the first two characters decide");
-  const auto behind = [text](std::size_t skipped) {
-    return text.size() < skipped ? std::string_view() : text.substr(skipped);
-  };
-  fuzz::Require(startup::PasswordWindowOf(text) == base::LenientInt32(behind(2)),
+  fuzz::Require(startup::PasswordWindowOf(text) == base::LenientInt32(Behind(text, 2)),
                 "the password's window stands behind two characters");
-  fuzz::Require(startup::PreviewWindowOf(text) == base::LenientInt32(behind(3)),
+  fuzz::Require(startup::PreviewWindowOf(text) == base::LenientInt32(Behind(text, 3)),
                 "the preview's window stands behind three characters");
 }
 
