@@ -96,4 +96,10 @@ void BlendRect(BitmapView target, PixelPoint to, const Bitmap& source, PixelRect
 // One pixel over another.
 Pixel Over(Pixel above, Pixel below);
 
+// Multiplies the colours of straight pixels by their alpha, in place. True when all of them are opaque.
+bool Premultiply(Pixel* pixels, std::size_t count);
+
+// Sets every alpha to opaque, in place.
+void MakeOpaque(Pixel* pixels, std::size_t count);
+
 }  // namespace base

@@ -5,6 +5,7 @@
 #include <chrono>
 
 #include "base/errors.h"
+#include "base/text.h"
 
 namespace base {
 
@@ -26,9 +27,9 @@ class DateReader {
 
   int number() {
     skipBlanks();
-    if (rest_.empty() || !isDigit(rest_.front())) throw TypeMismatch();
+    if (rest_.empty() || !IsDigit(rest_.front())) throw TypeMismatch();
     int value = 0;
-    for (; !rest_.empty() && isDigit(rest_.front()); rest_.remove_prefix(1)) {
+    for (; !rest_.empty() && IsDigit(rest_.front()); rest_.remove_prefix(1)) {
       value = value * 10 + (rest_.front() - '0');
       if (value > kLastYear) throw TypeMismatch();
     }
@@ -46,18 +47,12 @@ class DateReader {
   }
 
  private:
-  static bool isDigit(char c) { return c >= '0' && c <= '9'; }
-  static char lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
   void skipBlanks() { rest_.remove_prefix(std::min(rest_.find_first_not_of(' '), rest_.size())); }
 
-  // Skips blanks, then `word` (in small letters), and says whether it was there.
+  // Skips blanks, then `word` in any case, and says whether it was there.
   bool skip(std::string_view word) {
     skipBlanks();
-    if (rest_.size() < word.size()) return false;
-    for (std::size_t i = 0; i < word.size(); ++i) {
-      if (lower(rest_[i]) != word[i]) return false;
-    }
+    if (!EqualAsciiBlind(rest_.substr(0, word.size()), word)) return false;
     rest_.remove_prefix(word.size());
     return true;
   }

@@ -27,4 +27,19 @@ constexpr PackedColor kBlack = 0;
 constexpr PackedColor kWhite = 0xFFFFFF;
 constexpr PackedColor kHighlight = 0xFF0000;  // pure blue
 
+// The colour itself; for a system colour the classic theme's value, where no window system is asked.
+constexpr PackedColor PlainColor(PackedColor color) {
+  if (!IsSystemColor(color)) return color & 0xFFFFFF;
+  switch (SystemColorIndex(color)) {
+    case 5:  // window background
+      return kWhite;
+    case 15:  // button face
+      return Rgb(240, 240, 240);
+    case 22:  // 3-D light
+      return Rgb(227, 227, 227);
+    default:
+      return kBlack;
+  }
+}
+
 }  // namespace base

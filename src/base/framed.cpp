@@ -154,14 +154,7 @@ constexpr std::array<FrameLoops, 3> kLoops{
 
 std::span<const FrameLoops> FrameLoopsHere() {
 #ifdef LUMORA_SIMD
-  switch (VectorUnitHere()) {
-    case VectorUnit::Avx2:
-      return kLoops;
-    case VectorUnit::Sse2:
-      return std::span(kLoops).last(2);
-    default:
-      return std::span(kLoops).last(1);
-  }
+  return LoopsHere<FrameLoops>(kLoops);
 #else
   static constexpr std::array<FrameLoops, 1> kPlainLoops{{{SpreadPlainly, MixPlainly}}};
   return kPlainLoops;

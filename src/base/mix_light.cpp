@@ -106,14 +106,7 @@ constexpr std::array<MixLightLoop, 3> kLoops{MixOnAvx2, MixOnSse2, MixPlainly};
 
 std::span<const MixLightLoop> MixLightLoops() {
 #ifdef LUMORA_SIMD
-  switch (VectorUnitHere()) {
-    case VectorUnit::Avx2:
-      return kLoops;
-    case VectorUnit::Sse2:
-      return std::span(kLoops).last(2);
-    default:
-      return std::span(kLoops).last(1);
-  }
+  return LoopsHere<MixLightLoop>(kLoops);
 #else
   static constexpr std::array<MixLightLoop, 1> kPlainLoop{MixPlainly};
   return kPlainLoop;

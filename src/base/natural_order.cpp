@@ -8,8 +8,6 @@ namespace base {
 
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
 // Takes the digits at the front of a text, without the zeros that lead them.
 std::string_view TakeNumber(std::string_view& rest) {
   std::size_t end = 0;

@@ -15,7 +15,6 @@ namespace base {
 
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 bool IsExponentLetter(char c) { return c == 'e' || c == 'E' || c == 'd' || c == 'D'; }
 
 // True when "12.5e3", which lies outside a double's range, is too large for it rather than too small.
@@ -248,13 +247,6 @@ std::string RealText(Real value, int digits) {
 }
 
 }  // namespace
-
-std::int16_t StrictInt16(std::string_view text) {
-  const auto bits = StrictBits(Cursor(text));
-  if (!bits) return ToInt16(StrictDecimal(Cursor(text)));
-  if (*bits > 0xFFFF) throw Overflow();
-  return static_cast<std::int16_t>(*bits);
-}
 
 std::int32_t StrictInt32(std::string_view text) { return ToInt32(StrictDouble(text)); }
 

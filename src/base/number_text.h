@@ -12,10 +12,8 @@ namespace base {
 // number, brackets or a minus for a negative one ("(12)", "12-"), one "$" before or behind, commas between
 // the digits of the whole part ("1,234"), an exponent with e or d ("1e3", "1d3"), "&H10" and "&O17" by
 // themselves. Anything else throws TypeMismatch; a number outside the type's range throws Overflow. Whole
-// numbers are rounded half to even before their range is looked at. "&HFFFF" is -1 in 16 bits and 65535
-// elsewhere;
+// numbers are rounded half to even before their range is looked at. "&HFFFF" is 65535,
 // "&HFFFFFFFF" is -1.
-std::int16_t StrictInt16(std::string_view text);
 std::int32_t StrictInt32(std::string_view text);
 float StrictSingle(std::string_view text);
 double StrictDouble(std::string_view text);

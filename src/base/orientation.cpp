@@ -43,19 +43,19 @@ Bitmap Transposed(const Bitmap& picture) {
 Bitmap TurnUpright(Bitmap stored, Orientation orientation) {
   Bitmap picture = SwapsSides(orientation) ? Transposed(stored) : std::move(stored);
   switch (orientation) {
-    case Orientation::upright:
-    case Orientation::mirroredTurnedLeft:
+    case Orientation::Upright:
+    case Orientation::MirroredTurnedLeft:
       break;
-    case Orientation::mirrored:
-    case Orientation::turnedLeft:
+    case Orientation::Mirrored:
+    case Orientation::TurnedLeft:
       MirrorRows(picture);
       break;
-    case Orientation::mirroredUpsideDown:
-    case Orientation::turnedRight:
+    case Orientation::MirroredUpsideDown:
+    case Orientation::TurnedRight:
       TurnOver(picture);
       break;
-    case Orientation::upsideDown:
-    case Orientation::mirroredTurnedRight:
+    case Orientation::UpsideDown:
+    case Orientation::MirroredTurnedRight:
       MirrorRows(picture);
       TurnOver(picture);
       break;

@@ -1,4 +1,4 @@
-// An area made of rectangles.
+// Areas made of rectangles.
 #pragma once
 
 #include <cstddef>
@@ -24,5 +24,9 @@ class Region {
  private:
   std::vector<PixelRect> rects_;
 };
+
+// The part of `whole` outside `hole` as rectangles that do not overlap: above, left, right, below. None is
+// empty.
+std::vector<PixelRect> Difference(const PixelRect& whole, const PixelRect& hole);
 
 }  // namespace base

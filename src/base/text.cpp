@@ -120,14 +120,9 @@ bool IsAscii(std::string_view text) {
   return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-std::string_view TrimLeadingBlanks(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  return first == std::string_view::npos ? std::string_view() : text.substr(first);
-}
-
-std::string_view TrimBlanks(std::string_view text) {
-  const std::string_view rest = TrimLeadingBlanks(text);
-  return rest.substr(0, rest.find_last_not_of(' ') + 1);
+std::string_view TrimBlanks(std::string_view text, std::string_view blanks) {
+  text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
+  return text.substr(0, text.find_last_not_of(blanks) + 1);
 }
 
 }  // namespace base

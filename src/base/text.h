@@ -27,11 +27,11 @@ struct Utf8Character {
 // The character that begins at `position`, which must lie inside the text.
 Utf8Character Utf8CharacterAt(std::string_view text, std::size_t position);
 
-// The letters A to Z in small, all else as it is.
+// The letters A to Z in lower case, all else as it is.
 char AsciiLower(char character);
 std::string AsciiLower(std::string_view text);
 
-// The letters a to z in capitals, all else as it is.
+// The letters a to z in upper case, all else as it is.
 std::string AsciiUpper(std::string_view text);
 
 // Equal when the letters A to Z count as a to z.
@@ -39,10 +39,9 @@ bool EqualAsciiBlind(std::string_view a, std::string_view b);
 
 bool IsAscii(std::string_view text);
 
-// Without the spaces at its ends. Tabs and line ends are no spaces here.
-std::string_view TrimBlanks(std::string_view text);
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-// Without the spaces at its front.
-std::string_view TrimLeadingBlanks(std::string_view text);
+// Without the characters of `blanks` at its ends. What is left lies in the text, also when nothing is.
+std::string_view TrimBlanks(std::string_view text, std::string_view blanks = " ");
 
 }  // namespace base

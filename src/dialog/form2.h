@@ -198,6 +198,9 @@ class Form2 : public forms::Form {
 
   // The settings file as the loading found it; empty when it found none. And what it read of it.
   const std::string& loadedFile() const { return loadedFile_; }
+
+  // The file names a folder whose pictures a show has besides the list.
+  bool followsFolders() const { return followsFolders_; }
   const settings::SettingsRecord& loaded() const { return loaded_; }
 
   const DialogServices& services() const { return services_; }
@@ -277,6 +280,7 @@ class Form2 : public forms::Form {
   settings::SettingsRecord loaded_;
   std::string savingNote_;
   bool loadsAhead_ = false;
+  bool followsFolders_ = false;
   AwaitedPicture awaitedBackground_;
 };
 

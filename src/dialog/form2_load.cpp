@@ -10,6 +10,7 @@
 #include "dialog/messages.h"
 #include "dialog/option_table.h"
 #include "pictures/picture.h"
+#include "settings/load_settings.h"
 #include "settings/settings_file.h"
 #include "settings/settings_record.h"
 
@@ -61,10 +62,11 @@ void Form2::loadSettings(settings::SettingsRecord& read) {
   const settings::IniDocument document =
       settings::OpenSettings(services_.files, services_.ansi, programFolder_);
   loadedFile_ = document.serialise();
-  loadsAhead_ = settings::ReadIniValue(document, "extras", "loadAhead") == "1";
   for (const settings::Key& key : settings::kExtraKeys) {
     read.*key.field = settings::ReadIniValue(document, key);
   }
+  loadsAhead_ = read.loadAhead == "1";
+  followsFolders_ = !settings::FollowedFolders(document).empty();
   loadPictureList(document, read);
   for (const OptionRow& row : OptionTable()) {
     const settings::Key& key = settings::KeyOf(row.field);

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "base/color.h"
 #include "base/number_text.h"
-#include "base/system_colors.h"
 #include "dialog/form2.h"
 
 namespace dialog {

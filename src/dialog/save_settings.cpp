@@ -10,7 +10,6 @@
 #include "dialog/messages.h"
 #include "os/paths.h"
 #include "settings/ini_document.h"
-#include "settings/load_settings.h"
 #include "settings/settings_file.h"
 
 namespace dialog {
@@ -43,15 +42,10 @@ bool IsDateUsable(const settings::SettingsRecord& record) {
   }
 }
 
-// A folder that is followed gives a show its pictures without any in the list.
-bool FollowsAFolder(const Form2& form) {
-  const settings::IniDocument document(form.loadedFile(), form.services().ansi);
-  return !settings::FollowedFolders(document).empty();
-}
-
-// What speaks against saving; null when nothing does.
+// What speaks against saving; null when nothing does. A folder that is followed gives a show its pictures
+// without any in the list.
 const char* FaultOf(const Form2& form) {
-  if (form.List1.item(0).empty() && !FollowsAFolder(form)) return kNoImages;
+  if (form.List1.item(0).empty() && !form.followsFolders()) return kNoImages;
   if (form.record.backEffect == "2" && form.record.backgroundImage.empty()) return kNoBackgroundImage;
   if (!IsDateUsable(form.record)) return kInvalidDate;
   return nullptr;

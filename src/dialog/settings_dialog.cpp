@@ -71,7 +71,7 @@ void SettingsDialog::tellError(const std::exception& error) {
 }
 
 void SettingsDialog::save() {
-  // A user who was refused may have mended the folder's rights as well as his choices.
+  // A user who was refused may have mended the folder's rights as well as their choices.
   if (!SaveSettings(form)) ShowWhetherSettingsCanBeSaved(form);
 }
 

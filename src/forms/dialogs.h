@@ -47,7 +47,7 @@ struct ChosenFont {
   base::PackedColor color = base::kBlack;
 };
 
-// Each call returns when the user has answered; nothing means that he cancelled. Modal to the form that is
+// Each call returns when the user has answered; nothing means that they cancelled. Modal to the form that is
 // active.
 class Dialogs {
  public:

@@ -1,7 +1,9 @@
-#include "forms/list_peer_win.h"
-
+// List boxes as real windows: of any lines, of files, of folders.
 #include <string>
 
+#include "forms/folder_lists.h"
+#include "forms/lists.h"
+#include "forms/peers_win.h"
 #include "forms/surface_win.h"
 #include "os/utf16_win.h"
 
@@ -11,6 +13,72 @@ namespace {
 
 constexpr WPARAM kAtEnd = static_cast<WPARAM>(-1);
 constexpr std::size_t kBytesPerLine = 128;  // room to make beforehand
+
+// A line that is too long is cut in the middle of its path, so that the name stays readable.
+class LinesPeer : public ControlPeer {
+ public:
+  LinesPeer(Control& control, PeerOwner& owner) : ControlPeer(control, owner) {}
+  bool onDrawItem(const DRAWITEMSTRUCT& item) override;
+  HBRUSH onColor(HDC dc, UINT message) override;
+
+ protected:
+  WindowRecipe recipe() const override;
+
+  // Pixels by which a line is set in.
+  virtual int indent(int) const { return 0; }
+
+  // Puts all lines into the window in one go.
+  template <typename TextOf>
+  void fillLines(std::size_t count, TextOf textOf);
+  void addLine(WPARAM at, const std::string& text);
+  void measureLines();
+  void onPlaced() override { measureLines(); }
+};
+
+class ListBoxPeer : public LinesPeer {
+ public:
+  ListBoxPeer(ListBox& list, PeerOwner& owner) : LinesPeer(list, owner), list_(list) {}
+  void onCommand(int code) override;
+
+ protected:
+  void fill() override;
+  void onChange(Change change) override;
+  void onListEdit(const ListEdit& edit) override;
+
+ private:
+  void showSelection();
+
+  ListBox& list_;
+};
+
+class FileListPeer : public LinesPeer {
+ public:
+  FileListPeer(FileList& list, PeerOwner& owner) : LinesPeer(list, owner), list_(list) {}
+
+ protected:
+  void fill() override;
+  void onChange(Change change) override;
+
+ private:
+  FileList& list_;
+};
+
+class FolderListPeer : public LinesPeer {
+ public:
+  FolderListPeer(FolderList& list, PeerOwner& owner) : LinesPeer(list, owner), list_(list) {}
+  void onCommand(int code) override;
+
+ protected:
+  void fill() override;
+  void onChange(Change change) override;
+  int indent(int line) const override;
+  std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  void openSelected();
+
+  FolderList& list_;
+};
 
 }  // namespace
 
@@ -147,6 +215,18 @@ std::optional<LRESULT> FolderListPeer::onMessage(UINT message, WPARAM wParam, LP
     return 0;
   }
   return std::nullopt;
+}
+
+std::unique_ptr<ControlPeer> MakePeer(ListBox& control, PeerOwner& owner) {
+  return std::make_unique<ListBoxPeer>(control, owner);
+}
+
+std::unique_ptr<ControlPeer> MakePeer(FileList& control, PeerOwner& owner) {
+  return std::make_unique<FileListPeer>(control, owner);
+}
+
+std::unique_ptr<ControlPeer> MakePeer(FolderList& control, PeerOwner& owner) {
+  return std::make_unique<FolderListPeer>(control, owner);
 }
 
 }  // namespace forms

@@ -1,11 +1,12 @@
 // Which real window stands for which control.
-#include "forms/button_peer_win.h"
-#include "forms/combo_peer_win.h"
+#include "forms/buttons.h"
 #include "forms/container_peer_win.h"
-#include "forms/list_peer_win.h"
+#include "forms/folder_lists.h"
+#include "forms/lists.h"
+#include "forms/peers_win.h"
 #include "forms/picture_peer_win.h"
-#include "forms/range_peer_win.h"
-#include "forms/text_peer_win.h"
+#include "forms/ranges.h"
+#include "forms/texts.h"
 
 namespace forms {
 
@@ -21,33 +22,33 @@ std::unique_ptr<ControlPeer> Make(Control& control, PeerOwner& owner) {
 std::unique_ptr<ControlPeer> MakePeer(Control& control, PeerOwner& owner) {
   switch (control.kind()) {
     case ControlKind::CheckBox:
-      return Make<CheckBoxPeer, CheckBox>(control, owner);
+      return MakePeer(static_cast<CheckBox&>(control), owner);
     case ControlKind::ComboBox:
-      return Make<ComboBoxPeer, ComboBox>(control, owner);
+      return MakePeer(static_cast<ComboBox&>(control), owner);
     case ControlKind::CommandButton:
-      return Make<CommandButtonPeer, CommandButton>(control, owner);
+      return MakePeer(static_cast<CommandButton&>(control), owner);
     case ControlKind::DriveList:
-      return Make<DriveListPeer, DriveList>(control, owner);
+      return MakePeer(static_cast<DriveList&>(control), owner);
     case ControlKind::FileList:
-      return Make<FileListPeer, FileList>(control, owner);
+      return MakePeer(static_cast<FileList&>(control), owner);
     case ControlKind::FolderList:
-      return Make<FolderListPeer, FolderList>(control, owner);
+      return MakePeer(static_cast<FolderList&>(control), owner);
     case ControlKind::Frame:
       return Make<FramePeer, Frame>(control, owner);
     case ControlKind::Image:
       return Make<ImagePeer, Image>(control, owner);
     case ControlKind::Label:
-      return Make<LabelPeer, Label>(control, owner);
+      return MakePeer(static_cast<Label&>(control), owner);
     case ControlKind::ListBox:
-      return Make<ListBoxPeer, ListBox>(control, owner);
+      return MakePeer(static_cast<ListBox&>(control), owner);
     case ControlKind::OptionButton:
-      return Make<OptionButtonPeer, OptionButton>(control, owner);
+      return MakePeer(static_cast<OptionButton&>(control), owner);
     case ControlKind::PictureBox:
       return Make<PictureBoxPeer, PictureBox>(control, owner);
     case ControlKind::ScrollBar:
-      return Make<ScrollBarPeer, ScrollBar>(control, owner);
+      return MakePeer(static_cast<ScrollBar&>(control), owner);
     case ControlKind::Slider:
-      return Make<SliderPeer, Slider>(control, owner);
+      return MakePeer(static_cast<Slider&>(control), owner);
     case ControlKind::StatusBar:
       return Make<StatusBarPeer, StatusBar>(control, owner);
     case ControlKind::TabControl:
@@ -55,7 +56,7 @@ std::unique_ptr<ControlPeer> MakePeer(Control& control, PeerOwner& owner) {
     case ControlKind::TabPage:
       return Make<TabPagePeer, TabPage>(control, owner);
     case ControlKind::TextBox:
-      return Make<TextBoxPeer, TextBox>(control, owner);
+      return MakePeer(static_cast<TextBox&>(control), owner);
   }
   return nullptr;
 }

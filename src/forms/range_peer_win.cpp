@@ -1,10 +1,48 @@
-#include "forms/range_peer_win.h"
+// Sliders and scroll bars as real windows.
+#include <windows.h>
 
 #include <commctrl.h>
-
 #include <cstdlib>
 
+#include "forms/peers_win.h"
+#include "forms/ranges.h"
+
 namespace forms {
+
+namespace {
+
+class SliderPeer : public ControlPeer {
+ public:
+  SliderPeer(Slider& slider, PeerOwner& owner) : ControlPeer(slider, owner), slider_(slider) {}
+  void onScroll(int code, int position) override;
+
+ protected:
+  WindowRecipe recipe() const override;
+  void fill() override;
+  void onChange(Change change) override;
+
+ private:
+  Slider& slider_;
+};
+
+class ScrollBarPeer : public ControlPeer {
+ public:
+  ScrollBarPeer(ScrollBar& bar, PeerOwner& owner) : ControlPeer(bar, owner), bar_(bar) {}
+  void onScroll(int code, int position) override;
+
+ protected:
+  WindowRecipe recipe() const override;
+  void fill() override;
+  void onChange(Change change) override;
+
+ private:
+  int positionOf(int value) const;
+  int valueAt(int position) const;
+
+  ScrollBar& bar_;
+};
+
+}  // namespace
 
 WindowRecipe SliderPeer::recipe() const {
   return {TRACKBAR_CLASSW, WS_TABSTOP | WS_GROUP | TBS_HORZ | TBS_AUTOTICKS, 0, true};
@@ -86,6 +124,14 @@ void ScrollBarPeer::onScroll(int code, int) {
       return;
   }
   owner().raise([this, position] { bar_.userSetValue(valueAt(position)); });
+}
+
+std::unique_ptr<ControlPeer> MakePeer(Slider& control, PeerOwner& owner) {
+  return std::make_unique<SliderPeer>(control, owner);
+}
+
+std::unique_ptr<ControlPeer> MakePeer(ScrollBar& control, PeerOwner& owner) {
+  return std::make_unique<ScrollBarPeer>(control, owner);
 }
 
 }  // namespace forms

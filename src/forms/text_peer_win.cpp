@@ -1,12 +1,52 @@
-#include "forms/text_peer_win.h"
-
+// Labels and text boxes as real windows.
 #include <algorithm>
 #include <string>
 
+#include "forms/peers_win.h"
 #include "forms/surface_win.h"
+#include "forms/texts.h"
 #include "os/utf16_win.h"
 
 namespace forms {
+
+namespace {
+
+class LabelPeer : public ControlPeer {
+ public:
+  LabelPeer(Label& label, PeerOwner& owner) : ControlPeer(label, owner), label_(label) {}
+
+ protected:
+  WindowRecipe recipe() const override;
+  std::string windowText() const override { return label_.caption(); }
+  void onChange(Change change) override;
+
+ private:
+  Label& label_;
+};
+
+class TextBoxPeer : public ControlPeer {
+ public:
+  TextBoxPeer(TextBox& box, PeerOwner& owner) : ControlPeer(box, owner), box_(box) {}
+  void onCommand(int code) override;
+  HBRUSH onColor(HDC dc, UINT message) override;
+
+ protected:
+  WindowRecipe recipe() const override;
+  std::string windowText() const override { return box_.text(); }
+  void fill() override;
+  void onChange(Change change) override;
+  base::PixelRect windowPlace() const override;
+  std::optional<LRESULT> onMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  std::string shownText() const;
+
+  TextBox& box_;
+  os::OwnedBrush background_;
+  COLORREF backgroundColor_ = CLR_INVALID;
+};
+
+}  // namespace
 
 WindowRecipe LabelPeer::recipe() const {
   DWORD align = label_.wraps ? SS_LEFT : SS_LEFTNOWORDWRAP;
@@ -83,6 +123,14 @@ HBRUSH TextBoxPeer::onColor(HDC dc, UINT) {
   SetTextColor(dc, GetSysColor(box_.takesInput() ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT));
   SetBkColor(dc, color);
   return background_.get();
+}
+
+std::unique_ptr<ControlPeer> MakePeer(Label& control, PeerOwner& owner) {
+  return std::make_unique<LabelPeer>(control, owner);
+}
+
+std::unique_ptr<ControlPeer> MakePeer(TextBox& control, PeerOwner& owner) {
+  return std::make_unique<TextBoxPeer>(control, owner);
 }
 
 }  // namespace forms

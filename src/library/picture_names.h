@@ -15,7 +15,7 @@ class PictureNames {
   bool contains(std::string_view fileName) const;
 
  private:
-  std::vector<std::string> endings_;  // in small letters, sorted
+  std::vector<std::string> endings_;  // in lower case, sorted
 };
 
 }  // namespace library

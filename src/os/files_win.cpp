@@ -8,10 +8,9 @@
 #include <atomic>
 #include <cwchar>
 
-#include "base/natural_order.h"
+#include "os/folder_listing_win.h"
 #include "os/open_file_win.h"
 #include "os/paths.h"
-#include "os/system_library_win.h"
 #include "os/utf16_win.h"
 
 namespace os {
@@ -104,24 +103,13 @@ void RemoveLeftovers(const std::wstring& target) {
   FindClose(search);
 }
 
-// Visible entries of a folder: its folders, or its files.
-std::vector<std::string> Entries(const std::string& folder, bool folders) {
+std::vector<std::string> Names(const std::string& folder, bool folders) {
   std::vector<std::string> names;
-  constexpr std::wstring_view kAll = L"\\*";
-  std::wstring pattern = WidePath(folder, kAll.size());
-  if (pattern.empty()) return names;
-  pattern += pattern.back() == L'\\' ? kAll.substr(1) : kAll;
-  WIN32_FIND_DATAW found{};
-  const HANDLE search = FindFirstFileExW(pattern.c_str(), FindExInfoBasic, &found, FindExSearchNameMatch,
-                                         nullptr, FIND_FIRST_EX_LARGE_FETCH);
-  if (search == INVALID_HANDLE_VALUE) return names;
-  do {
-    const std::wstring_view name = found.cFileName;
-    const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-    const bool hidden = (found.dwFileAttributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
-    if (isFolder == folders && !hidden && name != L"." && name != L"..") names.push_back(FromWide(name));
-  } while (FindNextFileW(search, &found) != FALSE);
-  FindClose(search);
+  auto entries = ListFolder(folder);
+  if (!entries) return names;
+  for (FolderEntry& entry : *entries) {
+    if (entry.isFolder == folders) names.push_back(std::move(entry.name));
+  }
   return names;
 }
 
@@ -165,9 +153,9 @@ bool FilesWin::canWriteIn(const std::string& folder) {
   return file.isOpen();
 }
 
-std::vector<std::string> FilesWin::foldersIn(const std::string& folder) { return Entries(folder, true); }
+std::vector<std::string> FilesWin::foldersIn(const std::string& folder) { return Names(folder, true); }
 
-std::vector<std::string> FilesWin::filesIn(const std::string& folder) { return Entries(folder, false); }
+std::vector<std::string> FilesWin::filesIn(const std::string& folder) { return Names(folder, false); }
 
 std::vector<std::string> FilesWin::drives() {
   std::wstring roots(GetLogicalDriveStringsW(0, nullptr), L'\0');
@@ -196,23 +184,7 @@ std::string FilesWin::picturesFolder() {
   return folder;
 }
 
-// The order of the system's own file windows.
-void FilesWin::sortNames(std::vector<std::string>& names) {
-  static const OwnedLibrary shell = LoadSystemLibrary(L"shlwapi.dll");
-  static const auto compare = FindFunction<int(WINAPI*)(PCWSTR, PCWSTR)>(shell.get(), "StrCmpLogicalW");
-  if (!compare) {
-    std::ranges::sort(names, [](const auto& a, const auto& b) { return base::CompareNaturally(a, b) < 0; });
-    return;
-  }
-  std::vector<std::wstring> wide;
-  wide.reserve(names.size());
-  for (const std::string& name : names) wide.push_back(ToWide(name));
-  std::ranges::sort(wide, [](const std::wstring& a, const std::wstring& b) {
-    const int order = compare(a.c_str(), b.c_str());
-    return order != 0 ? order < 0 : a < b;
-  });
-  std::ranges::transform(wide, names.begin(), [](const std::wstring& name) { return FromWide(name); });
-}
+void FilesWin::sortNames(std::vector<std::string>& names) { SortAsShown(names); }
 
 std::string FilesWin::shortPath(const std::string& path) {
   const std::wstring wide = WidePath(path);

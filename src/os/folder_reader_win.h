@@ -1,26 +1,17 @@
 // The system's folders.
 #pragma once
 
-#include <windows.h>
-
 #include "os/folder_reader.h"
 
 namespace os {
 
 class FolderReaderWin : public FolderReader {
  public:
-  FolderReaderWin();
-
   std::optional<std::vector<FolderEntry>> read(const std::string& folder) override;
   std::optional<std::string> finalPath(const std::string& folder) override;
   void sortNames(std::vector<std::string>& names) override;
   std::vector<std::string> pictureEndings() override;
   std::unique_ptr<FolderWatch> watch(const std::string& folder, bool subfolders) override;
-
- private:
-  using CompareLogically = int(WINAPI*)(const wchar_t*, const wchar_t*);
-
-  CompareLogically compareLogically_;  // as the system's own windows sort; null where it is missing
 };
 
 }  // namespace os

@@ -2,8 +2,8 @@
 
 #include <wincodec.h>
 #include <windows.h>
+#include <wrl/client.h>
 
-#include "os/com_pointer_win.h"
 #include "os/open_file_win.h"
 #include "os/reduced_decoding_win.h"
 
@@ -11,11 +11,13 @@ namespace os {
 
 namespace {
 
+using Microsoft::WRL::ComPtr;
+
 // A picture read through a converter to 32-bit pixels. The file stays open as long as the decoder may read.
 class WicSource final : public PictureSource {
  public:
-  WicSource(FileHandle file, ComPointer<IWICBitmapDecoder> decoder, ComPointer<IWICBitmapFrameDecode> frame,
-            ComPointer<IWICFormatConverter> pixels, base::PixelSize size, bool hasAlpha)
+  WicSource(FileHandle file, ComPtr<IWICBitmapDecoder> decoder, ComPtr<IWICBitmapFrameDecode> frame,
+            ComPtr<IWICFormatConverter> pixels, base::PixelSize size, bool hasAlpha)
       : file_(std::move(file)),
         decoder_(std::move(decoder)),
         pixels_(std::move(pixels)),
@@ -41,8 +43,8 @@ class WicSource final : public PictureSource {
 
  private:
   FileHandle file_;  // first, so that it is closed last
-  ComPointer<IWICBitmapDecoder> decoder_;
-  ComPointer<IWICFormatConverter> pixels_;
+  ComPtr<IWICBitmapDecoder> decoder_;
+  ComPtr<IWICFormatConverter> pixels_;
   base::PixelSize size_;
   bool hasAlpha_;
   ReducedDecoding reduced_;
@@ -50,19 +52,20 @@ class WicSource final : public PictureSource {
 
 // Formats with colours of their own for each picture carry transparency in those.
 bool PaletteHasAlpha(IWICImagingFactory& factory, IWICBitmapFrameDecode& frame) {
-  ComPointer<IWICPalette> palette;
+  ComPtr<IWICPalette> palette;
   BOOL hasAlpha = FALSE;
-  return SUCCEEDED(factory.CreatePalette(palette.put())) && SUCCEEDED(frame.CopyPalette(palette.get())) &&
+  return SUCCEEDED(factory.CreatePalette(&palette)) && SUCCEEDED(frame.CopyPalette(palette.Get())) &&
          SUCCEEDED(palette->HasAlpha(&hasAlpha)) && hasAlpha != FALSE;
 }
 
 bool HasAlpha(IWICImagingFactory& factory, IWICBitmapFrameDecode& frame) {
   WICPixelFormatGUID format{};
-  ComPointer<IWICComponentInfo> component;
-  if (FAILED(frame.GetPixelFormat(&format)) || FAILED(factory.CreateComponentInfo(format, component.put()))) {
+  ComPtr<IWICComponentInfo> component;
+  if (FAILED(frame.GetPixelFormat(&format)) || FAILED(factory.CreateComponentInfo(format, &component))) {
     return true;  // unknown: whoever reads the rows looks at every alpha
   }
-  const auto info = component.as<IWICPixelFormatInfo2>(IID_IWICPixelFormatInfo2);
+  ComPtr<IWICPixelFormatInfo2> info;
+  component.As(&info);
   BOOL transparent = TRUE;
   WICPixelFormatNumericRepresentation numbers = WICPixelFormatNumericRepresentationUnspecified;
   if (!info || FAILED(info->SupportsTransparency(&transparent))) return true;
@@ -73,11 +76,11 @@ bool HasAlpha(IWICImagingFactory& factory, IWICBitmapFrameDecode& frame) {
   return transparent != FALSE;
 }
 
-ComPointer<IWICFormatConverter> Convert(IWICImagingFactory& factory, IWICBitmapFrameDecode& frame,
-                                        bool hasAlpha) {
-  ComPointer<IWICFormatConverter> converter;
+ComPtr<IWICFormatConverter> Convert(IWICImagingFactory& factory, IWICBitmapFrameDecode& frame,
+                                    bool hasAlpha) {
+  ComPtr<IWICFormatConverter> converter;
   const WICPixelFormatGUID& format = hasAlpha ? GUID_WICPixelFormat32bppBGRA : GUID_WICPixelFormat32bppBGR;
-  if (FAILED(factory.CreateFormatConverter(converter.put())) ||
+  if (FAILED(factory.CreateFormatConverter(&converter)) ||
       FAILED(converter->Initialize(&frame, format, WICBitmapDitherTypeNone, nullptr, 0,
                                    WICBitmapPaletteTypeCustom))) {
     return {};
@@ -90,20 +93,20 @@ ComPointer<IWICFormatConverter> Convert(IWICImagingFactory& factory, IWICBitmapF
 std::unique_ptr<PictureSource> PictureDecoderWin::open(const std::string& path) {
   FileHandle file = OpenForReading(path);
   if (!file.isOpen()) return nullptr;
-  ComPointer<IWICImagingFactory> factory;
-  ComPointer<IWICBitmapDecoder> decoder;
-  ComPointer<IWICBitmapFrameDecode> frame;
+  ComPtr<IWICImagingFactory> factory;
+  ComPtr<IWICBitmapDecoder> decoder;
+  ComPtr<IWICBitmapFrameDecode> frame;
   UINT width = 0;
   UINT height = 0;
-  if (FAILED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IWICImagingFactory,
-                              factory.putVoid())) ||
+  if (FAILED(
+          CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&factory))) ||
       FAILED(factory->CreateDecoderFromFileHandle(reinterpret_cast<ULONG_PTR>(file.get()), nullptr,
-                                                  WICDecodeMetadataCacheOnDemand, decoder.put())) ||
-      FAILED(decoder->GetFrame(0, frame.put())) || FAILED(frame->GetSize(&width, &height))) {
+                                                  WICDecodeMetadataCacheOnDemand, &decoder)) ||
+      FAILED(decoder->GetFrame(0, &frame)) || FAILED(frame->GetSize(&width, &height))) {
     return nullptr;
   }
-  const bool hasAlpha = HasAlpha(*factory.get(), *frame.get());
-  ComPointer<IWICFormatConverter> pixels = Convert(*factory.get(), *frame.get(), hasAlpha);
+  const bool hasAlpha = HasAlpha(*factory.Get(), *frame.Get());
+  ComPtr<IWICFormatConverter> pixels = Convert(*factory.Get(), *frame.Get(), hasAlpha);
   if (!pixels) return nullptr;
   const base::PixelSize size{static_cast<int>(width), static_cast<int>(height)};
   return std::make_unique<WicSource>(std::move(file), std::move(decoder), std::move(frame), std::move(pixels),

@@ -2,15 +2,17 @@
 
 #include <objbase.h>
 #include <wincodec.h>
+#include <wrl/client.h>
 
 #include <string_view>
 
-#include "os/com_pointer_win.h"
 #include "os/utf16_win.h"
 
 namespace os {
 
 namespace {
+
+using Microsoft::WRL::ComPtr;
 
 // The component system on a thread that may have it already.
 class ComponentsOfThread {
@@ -35,8 +37,9 @@ void AppendEndings(std::vector<std::string>& endings, std::string_view list) {
   }
 }
 
-std::string EndingsOf(const ComPointer<IUnknown>& component) {
-  const auto codec = component.as<IWICBitmapCodecInfo>(IID_IWICBitmapCodecInfo);
+std::string EndingsOf(const ComPtr<IUnknown>& component) {
+  ComPtr<IWICBitmapCodecInfo> codec;
+  component.As(&codec);
   UINT size = 0;
   if (!codec || FAILED(codec->GetFileExtensions(0, nullptr, &size)) || size == 0) return {};
   std::wstring list(size, L'\0');
@@ -50,17 +53,17 @@ std::string EndingsOf(const ComPointer<IUnknown>& component) {
 std::vector<std::string> DecodersPictureEndings() {
   const ComponentsOfThread components;
   std::vector<std::string> endings;
-  ComPointer<IWICImagingFactory> factory;
-  ComPointer<IEnumUnknown> decoders;
-  if (FAILED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IWICImagingFactory,
-                              factory.putVoid())) ||
-      FAILED(factory->CreateComponentEnumerator(WICDecoder, WICComponentEnumerateDefault, decoders.put()))) {
+  ComPtr<IWICImagingFactory> factory;
+  ComPtr<IEnumUnknown> decoders;
+  if (FAILED(
+          CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&factory))) ||
+      FAILED(factory->CreateComponentEnumerator(WICDecoder, WICComponentEnumerateDefault, &decoders))) {
     return endings;
   }
   for (;;) {
-    ComPointer<IUnknown> component;
+    ComPtr<IUnknown> component;
     ULONG fetched = 0;
-    if (decoders->Next(1, component.put(), &fetched) != S_OK || fetched == 0) return endings;
+    if (decoders->Next(1, &component, &fetched) != S_OK || fetched == 0) return endings;
     AppendEndings(endings, EndingsOf(component));
   }
 }

@@ -18,8 +18,10 @@ bool IsReductionOf(base::PixelSize reduced, base::PixelSize whole, int reduction
 
 }  // namespace
 
-ReducedDecoding::ReducedDecoding(const ComPointer<IWICBitmapFrameDecode>& frame, base::PixelSize size)
-    : transform_(frame.as<SourceTransform>(kSourceTransformId)), format_(GUID_WICPixelFormat24bppBGR) {
+ReducedDecoding::ReducedDecoding(const Microsoft::WRL::ComPtr<IWICBitmapFrameDecode>& frame,
+                                 base::PixelSize size)
+    : format_(GUID_WICPixelFormat24bppBGR) {
+  frame.As(&transform_);
   if (!transform_) return;
   BOOL supported = FALSE;
   const bool usable = SUCCEEDED(transform_->DoesSupportTransform(kRotate0, &supported)) &&

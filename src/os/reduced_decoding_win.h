@@ -3,12 +3,12 @@
 
 #include <wincodec.h>
 #include <windows.h>
+#include <wrl/client.h>
 
 #include <map>
 #include <vector>
 
 #include "base/bitmap.h"
-#include "os/com_pointer_win.h"
 #include "os/wic_source_transform_win.h"
 
 namespace os {
@@ -16,7 +16,7 @@ namespace os {
 class ReducedDecoding {
  public:
   // `size`: of the frame.
-  ReducedDecoding(const ComPointer<IWICBitmapFrameDecode>& frame, base::PixelSize size);
+  ReducedDecoding(const Microsoft::WRL::ComPtr<IWICBitmapFrameDecode>& frame, base::PixelSize size);
 
   // 1, and whatever else the decoder offers.
   std::vector<int> reductions() const;
@@ -30,7 +30,7 @@ class ReducedDecoding {
  private:
   bool decode(int reduction);
 
-  ComPointer<SourceTransform> transform_;
+  Microsoft::WRL::ComPtr<SourceTransform> transform_;
   WICPixelFormatGUID format_{};
   std::map<int, base::PixelSize> sizes_;
   std::vector<BYTE> decoded_;

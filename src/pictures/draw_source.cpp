@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "base/area_average.h"
-#include "base/premultiply.h"
+#include "base/bitmap.h"
 #include "base/resample.h"
 
 namespace pictures {

@@ -100,8 +100,8 @@ bool BeginsLikeTiff(std::string_view head) {
 }
 
 base::Orientation ReadExifOrientation(std::string_view head) {
-  if (BeginsLikeTiff(head)) return OrientationOfTiff(head).value_or(base::Orientation::upright);
-  if (!BeginsLikeJpeg(head)) return base::Orientation::upright;
+  if (BeginsLikeTiff(head)) return OrientationOfTiff(head).value_or(base::Orientation::Upright);
+  if (!BeginsLikeJpeg(head)) return base::Orientation::Upright;
   JpegSegments segments(head);
   while (const auto segment = segments.next()) {
     if (segment->marker != kApp1 || !segment->content.starts_with(kExifName)) continue;
@@ -109,7 +109,7 @@ base::Orientation ReadExifOrientation(std::string_view head) {
     const auto orientation = OrientationOfTiff(segment->content.substr(kExifName.size()));
     if (orientation) return *orientation;
   }
-  return base::Orientation::upright;
+  return base::Orientation::Upright;
 }
 
 }  // namespace pictures

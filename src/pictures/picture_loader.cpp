@@ -61,7 +61,7 @@ std::unique_ptr<os::PictureSource> OpenGif(os::Files& heads, const std::string& 
 
 struct OpenedPicture {
   std::unique_ptr<os::PictureSource> source;
-  base::Orientation orientation = base::Orientation::upright;
+  base::Orientation orientation = base::Orientation::Upright;
 
   base::PixelSize uprightSize() const { return base::UprightSize(source->size(), orientation); }
 };

@@ -94,7 +94,7 @@ void Form1::Form_Load() {
   coverScreen();
   if (facts_.guardsPassword()) services_.desktop.setScreenSaverRunning(true);
   settings::LoadSettings(settings_, document);
-  loadsAhead_ = settings::ReadIniValue(document, "extras", "loadAhead") == "1";
+  loadsAhead_ = settings_.record.loadAhead == "1";
   beginOrder();
   PrepareDisplay();
   services_.stage.flush();
@@ -102,7 +102,8 @@ void Form1::Form_Load() {
 
 // The window is about to cover the desktop, so the copy of it is taken before.
 void Form1::copyDesktopIfWanted(const settings::IniDocument& document) {
-  const std::string background = settings::ReadIniValue(document, "background", "backEffect");
+  const std::string background =
+      settings::ReadIniValue(document, settings::KeyOf(&settings::SettingsRecord::backEffect));
   if (base::LeadingNumber(background) != static_cast<int>(BackgroundKind::Desktop)) return;
   desktop_ = std::make_shared<base::Bitmap>(services_.screen.copyDesktop());
 }

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "base/rect_difference.h"
-#include "base/system_colors.h"
+#include "base/color.h"
+#include "base/region.h"
 
 namespace saver {
 

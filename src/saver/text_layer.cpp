@@ -1,6 +1,6 @@
 #include "saver/text_layer.h"
 
-#include "base/system_colors.h"
+#include "base/color.h"
 
 namespace saver {
 

@@ -76,7 +76,7 @@ class IniDocument {
 
   struct Section {
     Lines lines;  // the header first, except in the part before the first section
-    std::unordered_map<std::string, Lines::iterator> keys;  // by small letters; the first line of each key
+    std::unordered_map<std::string, Lines::iterator> keys;  // by lower-case name; the first line of each key
     Lines::iterator lastKey;                                // the line behind which a new key goes
   };
 
@@ -95,7 +95,7 @@ class IniDocument {
   bool utf16_ = false;  // the file was read as UTF-16
   bool writeAsUtf16_ = false;
   std::list<Section> sections_;  // in the order of the file; the first is the part before any section
-  std::unordered_map<std::string, Section*> index_;  // by small letters; the first section of each name
+  std::unordered_map<std::string, Section*> index_;  // by lower-case name; the first section of each name
 };
 
 }  // namespace settings

@@ -1,16 +1,14 @@
 #include "settings/ini_line.h"
 
+#include "base/text.h"
+
 namespace settings {
 
 namespace {
 
 constexpr std::string_view kBlanks = " \t\v";
 
-std::string_view TrimmedPart(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return text.substr(text.size());
-  return text.substr(first, text.find_last_not_of(kBlanks) + 1 - first);
-}
+std::string_view TrimmedPart(std::string_view text) { return base::TrimBlanks(text, kBlanks); }
 
 // The key's name without the blanks at its ends. A number keeps those before it, so that the numbered keys of
 // a list are only found where they begin their line.

@@ -34,9 +34,6 @@ class SaverExit {
   // again.
   void ExitSaver();
 
-  // True once the show has been ended.
-  bool hasEnded() const { return state_ == State::Ended; }
-
  private:
   enum class State { Showing, Asking, Ended };
 

@@ -70,7 +70,7 @@ std::string LivePreviewSetting(os::Files& files, const os::AnsiCodePage& ansi,
                                const std::string& programFolder) {
   const std::string bytes = files.read(settings::IniPath(programFolder)).value_or(std::string());
   const settings::IniDocument document(bytes, ansi);
-  return settings::ReadIniValue(document, "extras", "livePreview");
+  return settings::ReadIniValue(document, settings::KeyOf(&settings::SettingsRecord::livePreview));
 }
 
 bool PreviewIsLost(os::ForeignWindow& foreign, std::intptr_t window, const base::Bitmap& block) {

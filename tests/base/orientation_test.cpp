@@ -64,7 +64,7 @@ TEST(Orientation, PicturesLargerThanATileAreTurnedWhole) {
   for (int y = 0; y < 67; ++y) {
     for (int x = 0; x < 101; ++x) picture.row(y)[x] = static_cast<Pixel>(y * 1000 + x);
   }
-  const Bitmap turned = TurnUpright(picture, Orientation::turnedLeft);
+  const Bitmap turned = TurnUpright(picture, Orientation::TurnedLeft);
   ASSERT_EQ(turned.size(), (PixelSize{67, 101}));
   for (int y = 0; y < 101; ++y) {
     for (int x = 0; x < 67; ++x) ASSERT_EQ(turned.at(x, y), static_cast<Pixel>((66 - x) * 1000 + y));

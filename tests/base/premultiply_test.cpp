@@ -1,4 +1,4 @@
-#include "base/premultiply.h"
+#include "base/bitmap.h"
 
 #include <gtest/gtest.h>
 

@@ -49,7 +49,7 @@ TEST(Blanks, AreSpacesAlone) {
   EXPECT_EQ(base::TrimBlanks("\t/S "), "\t/S");
   EXPECT_EQ(base::TrimBlanks("   "), "");
   EXPECT_EQ(base::TrimBlanks(""), "");
-  EXPECT_EQ(base::TrimLeadingBlanks("  a b "), "a b ");
+  EXPECT_EQ(base::TrimBlanks("\t a b\v ", " \t\v"), "a b");
 }
 
 }  // namespace

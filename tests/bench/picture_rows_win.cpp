@@ -1,6 +1,7 @@
 // A large photograph on its way to the screen, beside the machine's decoder alone.
 #include <wincodec.h>
 #include <windows.h>
+#include <wrl/client.h>
 
 #include <stdexcept>
 #include <string>
@@ -10,7 +11,6 @@
 #include "bench/bench_table.h"
 #include "bench/heap_count_win.h"
 #include "bench/rows.h"
-#include "os/com_pointer_win.h"
 #include "os/files_win.h"
 #include "os/picture_decoder_win.h"
 #include "os/utf16_win.h"
@@ -24,6 +24,8 @@ namespace bench {
 
 namespace {
 
+using Microsoft::WRL::ComPtr;
+
 constexpr base::PixelSize kScreen{1920, 1080};
 
 void Check(HRESULT result) {
@@ -32,14 +34,13 @@ void Check(HRESULT result) {
 
 // Every pixel in the decoder's own format, a few rows at a time, so that nothing is paid for but decoding.
 void DecodeAlone(const std::string& path) {
-  os::ComPointer<IWICImagingFactory> factory;
-  os::ComPointer<IWICBitmapDecoder> decoder;
-  os::ComPointer<IWICBitmapFrameDecode> frame;
-  Check(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IWICImagingFactory,
-                         factory.putVoid()));
+  ComPtr<IWICImagingFactory> factory;
+  ComPtr<IWICBitmapDecoder> decoder;
+  ComPtr<IWICBitmapFrameDecode> frame;
+  Check(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&factory)));
   Check(factory->CreateDecoderFromFilename(os::ToWide(path).c_str(), nullptr, GENERIC_READ,
-                                           WICDecodeMetadataCacheOnDemand, decoder.put()));
-  Check(decoder->GetFrame(0, frame.put()));
+                                           WICDecodeMetadataCacheOnDemand, &decoder));
+  Check(decoder->GetFrame(0, &frame));
   UINT width = 0;
   UINT height = 0;
   Check(frame->GetSize(&width, &height));

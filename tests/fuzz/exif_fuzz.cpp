@@ -12,10 +12,10 @@ namespace {
 
 void CheckOrientation(std::string_view head) {
   const auto orientation = pictures::ReadExifOrientation(head);
-  fuzz::Require(orientation >= base::Orientation::upright && orientation <= base::Orientation::turnedRight,
+  fuzz::Require(orientation >= base::Orientation::Upright && orientation <= base::Orientation::TurnedRight,
                 "an orientation is one of eight");
   const bool mayBeTurned = pictures::BeginsLikeJpeg(head) || pictures::BeginsLikeTiff(head);
-  fuzz::Require(mayBeTurned || orientation == base::Orientation::upright,
+  fuzz::Require(mayBeTurned || orientation == base::Orientation::Upright,
                 "what is neither a JPEG nor a TIFF file stands upright");
 }
 
@@ -43,7 +43,7 @@ void CheckShorterHeads(std::string_view head) {
       fuzz::Require(!shorter->size || whole->size == shorter->size, "a size stays");
     }
     const auto orientation = pictures::ReadExifOrientation(head.substr(0, cut));
-    fuzz::Require(orientation == base::Orientation::upright || orientation == wholeOrientation,
+    fuzz::Require(orientation == base::Orientation::Upright || orientation == wholeOrientation,
                   "an orientation stays");
   }
 }

@@ -17,7 +17,7 @@
 
 namespace {
 
-using Name = std::pair<std::string, std::string>;  // of a section and a key, in small letters
+using Name = std::pair<std::string, std::string>;  // of a section and a key, in lower case
 using Values = std::map<Name, std::string>;
 
 // UTF-8 that comes through UTF-16 as it is, as every text inside the program does.

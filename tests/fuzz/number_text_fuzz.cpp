@@ -86,13 +86,10 @@ void CheckStrict(std::string_view text) {
   const auto real = Try(base::StrictDouble, text);
   const auto single = Try(base::StrictSingle, text);
   const auto wide = Try(base::StrictInt32, text);
-  const auto narrow = Try(base::StrictInt16, text);
   fuzz::Require(!real || std::isfinite(*real), "a strict number is finite");
   fuzz::Require(!single || std::isfinite(*single), "a strict single is finite");
   fuzz::Require(real || (!single && !wide), "what is no number is none of any type");
   fuzz::Require(!wide || *wide == base::RoundHalfToEven(*real), "a whole number is the rounded one");
-  fuzz::Require(!wide || !narrow || *narrow == *wide || static_cast<std::uint16_t>(*narrow) == *wide,
-                "16 bits are the lower ones of 32");
   const auto isTrue = Try(base::StrictBoolean, text);
   fuzz::Require(!real || isTrue == (*real != 0), "every number but 0 is true");
 }

@@ -2,14 +2,13 @@
 
 #include <wincodec.h>
 #include <windows.h>
-
-#include "os/com_pointer_win.h"
+#include <wrl/client.h>
 
 namespace support {
 
 namespace {
 
-using os::ComPointer;
+using Microsoft::WRL::ComPtr;
 
 std::string BytesOf(IStream& stream) {
   STATSTG facts{};
@@ -46,22 +45,22 @@ std::string Encode(const base::Bitmap& pixels, EncodedAs kind) {
   const UINT height = static_cast<UINT>(pixels.size().height);
   WICPixelFormatGUID format = isPng ? GUID_WICPixelFormat32bppBGRA : GUID_WICPixelFormat24bppBGR;
   std::string bytes = Packed(pixels, isPng);
-  ComPointer<IWICImagingFactory> factory;
-  ComPointer<IStream> stream;
-  ComPointer<IWICBitmapEncoder> encoder;
-  ComPointer<IWICBitmapFrameEncode> frame;
+  ComPtr<IWICImagingFactory> factory;
+  ComPtr<IStream> stream;
+  ComPtr<IWICBitmapEncoder> encoder;
+  ComPtr<IWICBitmapFrameEncode> frame;
   const bool done =
-      SUCCEEDED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
-                                 IID_IWICImagingFactory, factory.putVoid())) &&
-      SUCCEEDED(CreateStreamOnHGlobal(nullptr, TRUE, stream.put())) &&
-      SUCCEEDED(factory->CreateEncoder(container, nullptr, encoder.put())) &&
-      SUCCEEDED(encoder->Initialize(stream.get(), WICBitmapEncoderNoCache)) &&
-      SUCCEEDED(encoder->CreateNewFrame(frame.put(), nullptr)) && SUCCEEDED(frame->Initialize(nullptr)) &&
+      SUCCEEDED(
+          CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&factory))) &&
+      SUCCEEDED(CreateStreamOnHGlobal(nullptr, TRUE, &stream)) &&
+      SUCCEEDED(factory->CreateEncoder(container, nullptr, &encoder)) &&
+      SUCCEEDED(encoder->Initialize(stream.Get(), WICBitmapEncoderNoCache)) &&
+      SUCCEEDED(encoder->CreateNewFrame(&frame, nullptr)) && SUCCEEDED(frame->Initialize(nullptr)) &&
       SUCCEEDED(frame->SetSize(width, height)) && SUCCEEDED(frame->SetPixelFormat(&format)) &&
       SUCCEEDED(frame->WritePixels(height, width * (isPng ? 4 : 3), static_cast<UINT>(bytes.size()),
                                    reinterpret_cast<BYTE*>(bytes.data()))) &&
       SUCCEEDED(frame->Commit()) && SUCCEEDED(encoder->Commit());
-  return done ? BytesOf(*stream.get()) : std::string();
+  return done ? BytesOf(*stream.Get()) : std::string();
 }
 
 ComScope::ComScope() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }

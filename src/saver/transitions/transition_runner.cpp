@@ -4,7 +4,7 @@
 #include <charconv>
 #include <utility>
 
-#include "base/rect_difference.h"
+#include "base/region.h"
 #include "base/text.h"
 
 namespace saver {

@@ -19,7 +19,7 @@ class NaiveIni {
   // What a reader gets for the first such key of the first such section; nothing when there is none.
   std::optional<std::string> value(std::string_view section, std::string_view key) const;
 
-  // Every section and key that value() finds, in small letters, each once.
+  // Every section and key that value() finds, in lower case, each once.
   std::vector<std::pair<std::string, std::string>> names() const;
 
   // Lines that are neither header nor key, without the blanks at their ends.

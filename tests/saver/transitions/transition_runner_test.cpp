@@ -5,7 +5,7 @@
 #include <cmath>
 #include <map>
 
-#include "base/rect_difference.h"
+#include "base/region.h"
 #include "support/documented_effects.h"
 #include "support/fake_event_loop.h"
 #include "support/transition_scene.h"
