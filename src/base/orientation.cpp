@@ -7,6 +7,18 @@ namespace base {
 
 namespace {
 
+// A stored picture becomes upright by letting rows be columns where its sides are swapped, and then these
+// two.
+constexpr bool MirrorsRows(Orientation orientation) {
+  return orientation == Orientation::Mirrored || orientation == Orientation::TurnedLeft ||
+         orientation == Orientation::UpsideDown || orientation == Orientation::MirroredTurnedRight;
+}
+
+constexpr bool TurnsOver(Orientation orientation) {
+  return orientation == Orientation::MirroredUpsideDown || orientation == Orientation::TurnedRight ||
+         orientation == Orientation::UpsideDown || orientation == Orientation::MirroredTurnedRight;
+}
+
 void MirrorRows(Bitmap& picture) {
   for (int y = 0; y < picture.size().height; ++y)
     std::reverse(picture.row(y), picture.row(y) + picture.size().width);
@@ -40,26 +52,18 @@ Bitmap Transposed(const Bitmap& picture) {
 
 }  // namespace
 
+PixelRect StoredPart(const PixelRect& part, PixelSize upright, Orientation orientation) {
+  PixelRect stored = part;
+  if (MirrorsRows(orientation)) stored.left = upright.width - part.right();
+  if (TurnsOver(orientation)) stored.top = upright.height - part.bottom();
+  if (!SwapsSides(orientation)) return stored;
+  return {stored.top, stored.left, stored.height, stored.width};
+}
+
 Bitmap TurnUpright(Bitmap stored, Orientation orientation) {
   Bitmap picture = SwapsSides(orientation) ? Transposed(stored) : std::move(stored);
-  switch (orientation) {
-    case Orientation::Upright:
-    case Orientation::MirroredTurnedLeft:
-      break;
-    case Orientation::Mirrored:
-    case Orientation::TurnedLeft:
-      MirrorRows(picture);
-      break;
-    case Orientation::MirroredUpsideDown:
-    case Orientation::TurnedRight:
-      TurnOver(picture);
-      break;
-    case Orientation::UpsideDown:
-    case Orientation::MirroredTurnedRight:
-      MirrorRows(picture);
-      TurnOver(picture);
-      break;
-  }
+  if (MirrorsRows(orientation)) MirrorRows(picture);
+  if (TurnsOver(orientation)) TurnOver(picture);
   return picture;
 }
 

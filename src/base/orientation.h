@@ -25,6 +25,9 @@ constexpr PixelSize UprightSize(PixelSize stored, Orientation orientation) {
   return SwapsSides(orientation) ? PixelSize{stored.height, stored.width} : stored;
 }
 
+// Where the pixels of `part` of an upright picture of this size lie in the stored one.
+PixelRect StoredPart(const PixelRect& part, PixelSize upright, Orientation orientation);
+
 // The stored picture turned upright. Cheap after shrinking, so shrink first.
 Bitmap TurnUpright(Bitmap stored, Orientation orientation);
 

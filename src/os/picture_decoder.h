@@ -28,8 +28,8 @@ class PictureSource {
   virtual base::PixelSize reducedSize(int reduction) const = 0;
 
   // Rows `top` to `top + count - 1` of the reduced picture into `pixels`, without gaps: 0xAARRGGBB, straight
-  // (not premultiplied). Rows are asked for from the top down; row 0 begins a new decoding. False when they
-  // cannot be decoded.
+  // (not premultiplied). Rows are asked for from the top down; row 0 begins a new decoding, and without a
+  // reduction so may any other row. False when they cannot be decoded.
   virtual bool readRows(int reduction, int top, int count, base::Pixel* pixels) = 0;
 };
 

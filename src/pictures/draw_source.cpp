@@ -26,24 +26,39 @@ int BestReduction(const os::PictureSource& source, base::PixelSize wanted) {
   return best;
 }
 
+// Gives premultiplied alpha to rows of a source; true when every pixel is opaque.
+bool FinishPixels(const os::PictureSource& source, base::Pixel* pixels, std::size_t count) {
+  if (source.hasAlpha()) return base::Premultiply(pixels, count);
+  base::MakeOpaque(pixels, count);
+  return true;
+}
+
+// Reads rows `top` to `bottom - 1` of a reduced source band by band, and gives each to
+// use(band, its first row, its row count). False when one cannot be decoded.
+template <typename Use>
+bool ReadInBands(os::PictureSource& source, int reduction, int top, int bottom, const Use& use) {
+  const int width = source.reducedSize(reduction).width;
+  const int bandRows = std::min(std::max(kBandPixels / width, kLeastBandRows), bottom - top);
+  std::vector<base::Pixel> band(static_cast<std::size_t>(width) * static_cast<std::size_t>(bandRows));
+  for (int row = top; row < bottom; row += bandRows) {
+    const int rows = std::min(bandRows, bottom - row);
+    if (!source.readRows(reduction, row, rows, band.data())) return false;
+    use(band.data(), row, rows);
+  }
+  return true;
+}
+
 std::optional<base::Bitmap> Shrink(os::PictureSource& source, int reduction, base::PixelSize target) {
   const base::PixelSize size = source.reducedSize(reduction);
   if (!HoldsWhole(size, target)) return std::nullopt;
   base::AreaAverage average(size, target);
-  const int bandRows = std::min(std::max(kBandPixels / size.width, kLeastBandRows), size.height);
-  std::vector<base::Pixel> band(static_cast<std::size_t>(size.width) * static_cast<std::size_t>(bandRows));
   bool opaque = true;
-  for (int top = 0; top < size.height; top += bandRows) {
-    const int rows = std::min(bandRows, size.height - top);
-    if (!source.readRows(reduction, top, rows, band.data())) return std::nullopt;
+  const auto add = [&](base::Pixel* band, int, int rows) {
     const std::size_t count = static_cast<std::size_t>(size.width) * static_cast<std::size_t>(rows);
-    if (source.hasAlpha()) {
-      opaque = base::Premultiply(band.data(), count) && opaque;
-    } else {
-      base::MakeOpaque(band.data(), count);
-    }
-    average.add(band.data(), rows, size.width);
-  }
+    opaque = FinishPixels(source, band, count) && opaque;
+    average.add(band, rows, size.width);
+  };
+  if (!ReadInBands(source, reduction, 0, size.height, add)) return std::nullopt;
   base::Bitmap picture = average.take();
   picture.setOpaque(opaque);
   return picture;
@@ -59,6 +74,21 @@ std::optional<base::Bitmap> DrawSource(os::PictureSource& source, base::PixelSiz
   if (!picture && reduction != 1) picture = Shrink(source, 1, smaller);  // a reduction is a mere speed-up
   if (!picture || smaller == target) return picture;
   return base::Resample(*picture, target);
+}
+
+std::optional<base::Bitmap> CutSource(os::PictureSource& source, const base::PixelRect& part) {
+  base::Bitmap cut = base::Bitmap::unfilled(part.size());
+  bool opaque = true;
+  const auto copy = [&](const base::Pixel* band, int top, int rows) {
+    for (int y = 0; y < rows; ++y, band += source.size().width) {
+      base::Pixel* row = cut.row(top - part.top + y);
+      std::copy_n(band + part.left, part.width, row);
+      opaque = FinishPixels(source, row, static_cast<std::size_t>(part.width)) && opaque;
+    }
+  };
+  if (!ReadInBands(source, 1, part.top, part.bottom(), copy)) return std::nullopt;
+  cut.setOpaque(opaque);
+  return cut;
 }
 
 }  // namespace pictures

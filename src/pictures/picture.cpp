@@ -30,6 +30,19 @@ class MemoryPicture final : public Picture {
 
 }  // namespace
 
+base::SharedBitmap Picture::drawnPart(const base::PixelRect& part) const {
+  base::SharedBitmap whole = drawnAt(size());
+  if (!whole || part == base::PixelRect::ofSize(whole->size())) return whole;
+  try {
+    auto cut = std::make_shared<base::Bitmap>(part.size());
+    base::CopyRect(cut->view(), {0, 0}, *whole, part);
+    cut->setOpaque(whole->isOpaque());
+    return cut;
+  } catch (const std::bad_alloc&) {
+    return nullptr;  // too large for this machine at this moment
+  }
+}
+
 SharedPicture MakePicture(base::SharedBitmap bitmap) {
   return std::make_shared<MemoryPicture>(std::move(bitmap));
 }

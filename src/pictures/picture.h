@@ -22,6 +22,10 @@ class Picture {
   // The whole picture at a size of the caller's choice: shrunk by averaging over area, enlarged smoothly,
   // transparent parts transparent. Null when the file turns out to be broken, or too large to decode.
   virtual base::SharedBitmap drawnAt(base::PixelSize size) const = 0;
+
+  // Of the picture at its own size only the pixels in `part`, which lies inside it: what the whole would show
+  // there, without holding the whole where the picture is a file. Null as above.
+  virtual base::SharedBitmap drawnPart(const base::PixelRect& part) const;
 };
 
 using SharedPicture = std::shared_ptr<const Picture>;

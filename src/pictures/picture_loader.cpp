@@ -89,29 +89,39 @@ class FilePicture final : public Picture {
   base::PixelSize size() const override { return size_; }
 
   base::SharedBitmap drawnAt(base::PixelSize drawn) const override {
-    base::SharedBitmap pixels = draw(drawn);
+    return draw(drawn, [drawn](const OpenedPicture& picture) {
+      return DrawSource(*picture.source, base::UprightSize(drawn, picture.orientation));
+    });
+  }
+
+  base::SharedBitmap drawnPart(const base::PixelRect& part) const override {
+    return draw(part.size(), [this, &part](const OpenedPicture& picture) {
+      return CutSource(*picture.source, base::StoredPart(part, size_, picture.orientation));
+    });
+  }
+
+ private:
+  // Gives the pixels as they are stored.
+  using Decode = std::function<std::optional<base::Bitmap>(const OpenedPicture&)>;
+
+  base::SharedBitmap draw(base::PixelSize drawn, const Decode& decode) const {
+    if (drawn.isEmpty()) return std::make_shared<base::Bitmap>();
+    base::SharedBitmap pixels;
+    try {
+      if (PixelCount(drawn) <= kMostDrawnPixels) pixels = upright(decode);
+    } catch (const std::bad_alloc&) {
+      // Too large for this machine at this moment.
+    }
     if (!pixels) tellFailure_();
     return pixels;
   }
 
- private:
-  base::SharedBitmap draw(base::PixelSize drawn) const {
-    if (drawn.isEmpty()) return std::make_shared<base::Bitmap>();
-    if (PixelCount(drawn) > kMostDrawnPixels) return nullptr;
-    try {
-      std::optional<base::Bitmap> pixels = decode(drawn);
-      return pixels ? std::make_shared<base::Bitmap>(std::move(*pixels)) : nullptr;
-    } catch (const std::bad_alloc&) {
-      return nullptr;  // too large for this machine at this moment
-    }
-  }
-
-  std::optional<base::Bitmap> decode(base::PixelSize drawn) const {
+  base::SharedBitmap upright(const Decode& decode) const {
     const OpenedPicture picture = opened_.source ? std::move(opened_) : reopen_();
-    if (!picture.source || picture.uprightSize() != size_) return std::nullopt;  // the file has changed
-    auto pixels = DrawSource(*picture.source, base::UprightSize(drawn, picture.orientation));
-    if (!pixels) return std::nullopt;
-    return base::TurnUpright(std::move(*pixels), picture.orientation);
+    if (!picture.source || picture.uprightSize() != size_) return nullptr;  // the file has changed
+    auto stored = decode(picture);
+    if (!stored) return nullptr;
+    return std::make_shared<base::Bitmap>(base::TurnUpright(std::move(*stored), picture.orientation));
   }
 
   base::PixelSize size_;

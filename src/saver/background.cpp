@@ -23,6 +23,11 @@ int Margin(int room, int length, int twipsPerPixel) {
   return base::PixelAtTwips(static_cast<double>(edge), twipsPerPixel);
 }
 
+// Of an image of `size` whose corner stands at `at`, the part on the screen.
+base::PixelRect PartSeen(base::PixelSize size, base::PixelPoint at, base::PixelSize screen) {
+  return base::PixelRect::ofSize(size).intersected(base::PixelRect::ofSize(screen).movedBy(-at.x, -at.y));
+}
+
 }  // namespace
 
 std::optional<BackgroundKind> BackgroundKindNumbered(double backEffect) {
@@ -35,20 +40,24 @@ std::optional<ImageLayout> ImageLayoutNumbered(double backgroundDisplay) {
 
 std::optional<base::Bitmap> ComposeImage(const pictures::Picture& image, ImageLayout layout,
                                          base::PixelSize screen, int twipsPerPixel, base::Pixel background) {
-  const base::PixelSize size = layout == ImageLayout::Stretched ? screen : image.size();
+  const bool stretched = layout == ImageLayout::Stretched;
+  const base::PixelSize size = stretched ? screen : image.size();
   if (size.isEmpty()) return std::nullopt;
-  const base::SharedBitmap drawn = image.drawnAt(size);
+  base::PixelPoint first;  // where the image stands, or the first of its tiles
+  if (layout == ImageLayout::Centered) {
+    first = {Margin(screen.width, size.width, twipsPerPixel),
+             Margin(screen.height, size.height, twipsPerPixel)};
+  }
+  // Of an image that leaves the screen only what is seen: a scan may be a hundred times larger.
+  const base::PixelRect seen = PartSeen(size, first, screen);
+  const base::SharedBitmap drawn = stretched ? image.drawnAt(size) : image.drawnPart(seen);
   if (!drawn || drawn->isEmpty()) return std::nullopt;
   base::Bitmap composed(screen, background);
-  const auto lay = [&](base::PixelPoint at) {
-    base::BlendRect(composed.view(), at, *drawn, base::PixelRect::ofSize(drawn->size()));
-  };
-  if (layout == ImageLayout::Tiled) {
-    for (int y = 0; y < screen.height; y += size.height) {
-      for (int x = 0; x < screen.width; x += size.width) lay({x, y});
+  const base::PixelSize step = layout == ImageLayout::Tiled ? size : screen;
+  for (int y = first.y + seen.top; y < screen.height; y += step.height) {
+    for (int x = first.x + seen.left; x < screen.width; x += step.width) {
+      base::BlendRect(composed.view(), {x, y}, *drawn, base::PixelRect::ofSize(drawn->size()));
     }
-  } else {
-    lay({Margin(screen.width, size.width, twipsPerPixel), Margin(screen.height, size.height, twipsPerPixel)});
   }
   return composed;
 }

@@ -71,5 +71,22 @@ TEST(Orientation, PicturesLargerThanATileAreTurnedWhole) {
   }
 }
 
+TEST(Orientation, AStoredPartTurnedUprightIsThatPartOfTheUprightPicture) {
+  for (int number = 1; number <= 8; ++number) {
+    const auto orientation = static_cast<Orientation>(number);
+    const Bitmap stored = FromText(kStored[static_cast<std::size_t>(number - 1)]);
+    const auto partAsText = [&](const PixelRect& part) {
+      const PixelRect place = StoredPart(part, {3, 2}, orientation);
+      Bitmap cut(place.size());
+      CopyRect(cut.view(), {0, 0}, stored, place);
+      return ToText(TurnUpright(cut, orientation));
+    };
+    EXPECT_EQ(partAsText({0, 0, 3, 2}), (std::vector<std::string>{"ABC", "DEF"})) << number;
+    EXPECT_EQ(partAsText({0, 0, 2, 1}), std::vector<std::string>{"AB"}) << number;
+    EXPECT_EQ(partAsText({1, 1, 2, 1}), std::vector<std::string>{"EF"}) << number;
+    EXPECT_EQ(partAsText({2, 0, 1, 2}), (std::vector<std::string>{"C", "F"})) << number;
+  }
+}
+
 }  // namespace
 }  // namespace base

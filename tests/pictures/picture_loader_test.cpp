@@ -124,6 +124,73 @@ TEST_F(PictureLoader, EveryOrientationPutsTheStoredCornerInItsPlace) {
   }
 }
 
+base::Bitmap PartOf(const base::Bitmap& whole, const base::PixelRect& part) {
+  base::Bitmap cut(part.size());
+  base::CopyRect(cut.view(), {0, 0}, whole, part);
+  return cut;
+}
+
+TEST_F(PictureLoader, APartIsWhatTheWholePictureShowsThere) {
+  for (int orientation = 1; orientation <= 8; ++orientation) {
+    addJpeg("a.jpg", Gradient({90, 70}), orientation);
+    const auto picture = loader.open("a.jpg");
+    const auto whole = picture->drawnAt(picture->size());
+    for (const base::PixelRect part : {base::PixelRect{10, 20, 30, 40}, base::PixelRect{0, 0, 1, 1},
+                                       base::PixelRect::ofSize(picture->size())}) {
+      const auto drawn = picture->drawnPart(part);
+      ASSERT_TRUE(drawn);
+      EXPECT_EQ(*drawn, PartOf(*whole, part)) << orientation;
+      EXPECT_TRUE(drawn->isOpaque());
+    }
+  }
+}
+
+TEST_F(PictureLoader, ForAPartNoOtherRowsAreDecodedAndNoOtherColumnsHeld) {
+  auto& stored = addJpeg("a.jpg", Gradient({2000, 100}));
+  const auto drawn = loader.open("a.jpg")->drawnPart({1500, 31, 20, 40});
+  ASSERT_TRUE(drawn);
+  EXPECT_EQ(drawn->size(), (base::PixelSize{20, 40}));
+  EXPECT_EQ(stored.reads, (std::vector<Read>{{1, 31, 32}, {1, 63, 8}}));
+}
+
+TEST_F(PictureLoader, ThePartOfATransparentPictureIsOpaqueWhereAllItsPixelsAre) {
+  base::Bitmap pixels({4, 2}, 0xFF00FF00U);
+  pixels.row(0)[0] = 0x8000FF00U;
+  addJpeg("a.jpg", pixels).hasAlpha = true;
+  const auto picture = loader.open("a.jpg");
+  const auto clear = picture->drawnPart({0, 0, 2, 2});
+  ASSERT_TRUE(clear);
+  EXPECT_EQ(clear->at(0, 0), 0x80008000U);
+  EXPECT_FALSE(clear->isOpaque());
+  const auto opaque = picture->drawnPart({1, 0, 3, 2});
+  ASSERT_TRUE(opaque);
+  EXPECT_TRUE(opaque->isOpaque());
+}
+
+TEST_F(PictureLoader, APartThatCannotBeDecodedIsToldLikeAWholePicture) {
+  addJpeg("a.jpg", Gradient({40, 30})).brokenFromRow = 20;
+  int told = 0;
+  loader.onFailure = [&told](const std::string&, PictureFailure) { ++told; };
+  const auto picture = loader.open("a.jpg");
+  ASSERT_TRUE(picture);
+  EXPECT_TRUE(picture->drawnPart({0, 0, 40, 20}));
+  EXPECT_EQ(told, 0);
+  EXPECT_FALSE(picture->drawnPart({0, 1, 40, 20}));
+  EXPECT_EQ(told, 1);
+  addJpeg("a.jpg", Gradient({41, 30}));
+  EXPECT_FALSE(picture->drawnPart({0, 0, 1, 1}));  // the file has changed
+  EXPECT_EQ(told, 2);
+}
+
+TEST(PictureInMemory, GivesAPartOfItself) {
+  const auto picture = MakePicture(std::make_shared<base::Bitmap>(Gradient({9, 7})));
+  const auto part = picture->drawnPart({2, 1, 5, 4});
+  ASSERT_TRUE(part);
+  EXPECT_EQ(*part, PartOf(Gradient({9, 7}), {2, 1, 5, 4}));
+  EXPECT_TRUE(part->isOpaque());
+  EXPECT_EQ(picture->drawnPart({0, 0, 9, 7}), picture->drawnAt({9, 7})) << "no second copy of the pixels";
+}
+
 TEST_F(PictureLoader, TransparentPixelsAreMultipliedBeforeTheyAreAveraged) {
   base::Bitmap pixels(base::PixelSize{2, 1});
   pixels.row(0)[0] = 0xFFFF0000U;

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <vector>
+
 #include "support/fake_pictures.h"
 
 namespace saver {
@@ -71,6 +74,72 @@ TEST(CenteredImage, WithHalfAPixelOfMarginStandsInThePixelWhichThatCuts) {
 
 TEST(CenteredImage, LargerThanTheScreenShowsItsMiddle) {
   EXPECT_EQ(Composed({20, 12}, ImageLayout::Centered, {10, 8}).at(0, 0), 0xFF000502U);
+}
+
+// An image that remembers which parts of it were wanted.
+class WatchedImage final : public pictures::Picture {
+ public:
+  explicit WatchedImage(base::PixelSize size)
+      : image_(pictures::MakePicture(std::make_shared<Bitmap>(Numbered(size)))) {}
+
+  base::PixelSize size() const override { return image_->size(); }
+  base::SharedBitmap drawnAt(base::PixelSize size) const override {
+    wholes.push_back(size);
+    return image_->drawnAt(size);
+  }
+  base::SharedBitmap drawnPart(const base::PixelRect& part) const override {
+    parts.push_back(part);
+    return image_->drawnPart(part);
+  }
+
+  mutable std::vector<base::PixelSize> wholes;
+  mutable std::vector<base::PixelRect> parts;
+
+ private:
+  pictures::SharedPicture image_;
+};
+
+TEST(LargeImage, IsDrawnNoFurtherThanItIsSeen) {
+  const auto partsOf = [](base::PixelSize size, ImageLayout layout) {
+    const WatchedImage image(size);
+    EXPECT_TRUE(ComposeImage(image, layout, {10, 8}, 15, kGround));
+    EXPECT_TRUE(image.wholes.empty());
+    return image.parts;
+  };
+  using Parts = std::vector<base::PixelRect>;
+  EXPECT_EQ(partsOf({120, 90}, ImageLayout::Centered), (Parts{{55, 41, 10, 8}}));
+  EXPECT_EQ(partsOf({120, 4}, ImageLayout::Centered), (Parts{{55, 0, 10, 4}}));
+  EXPECT_EQ(partsOf({4, 90}, ImageLayout::Centered), (Parts{{0, 41, 4, 8}}));
+  EXPECT_EQ(partsOf({120, 90}, ImageLayout::Tiled), (Parts{{0, 0, 10, 8}}));
+  EXPECT_EQ(partsOf({120, 3}, ImageLayout::Tiled), (Parts{{0, 0, 10, 3}}));
+  EXPECT_EQ(partsOf({4, 3}, ImageLayout::Tiled), (Parts{{0, 0, 4, 3}}));
+}
+
+TEST(LargeImage, IsStretchedFromItsRowsToTheScreen) {
+  const WatchedImage image({120, 90});
+  EXPECT_TRUE(ComposeImage(image, ImageLayout::Stretched, {10, 8}, 15, kGround));
+  EXPECT_EQ(image.wholes, (std::vector<base::PixelSize>{{10, 8}}));
+  EXPECT_TRUE(image.parts.empty());
+}
+
+TEST(LargeImage, ShowsWhatTheWholeImageWouldShowInEveryLayout) {
+  for (int width = 1; width < 40; width += 3) {
+    for (int height = 1; height < 40; height += 3) {
+      const Bitmap whole = Numbered({width, height});
+      const Bitmap centered = Composed({width, height}, ImageLayout::Centered, {11, 8});
+      const Bitmap tiled = Composed({width, height}, ImageLayout::Tiled, {11, 8});
+      Bitmap inTheMiddle({11, 8}, kGround);
+      const auto margin = [](int room, int length) {  // half of the twips, cut toward 0, in whole pixels
+        return static_cast<int>(std::floor((room - length) * 15 / 2 / 15.0));
+      };
+      base::CopyRect(inTheMiddle.view(), {margin(11, width), margin(8, height)}, whole,
+                     base::PixelRect::ofSize(whole.size()));
+      EXPECT_EQ(centered, inTheMiddle) << width << " x " << height;
+      for (int y = 0; y < 8; ++y) {
+        for (int x = 0; x < 11; ++x) ASSERT_EQ(tiled.at(x, y), whole.at(x % width, y % height));
+      }
+    }
+  }
 }
 
 TEST(StretchedImage, CoversTheWholeScreen) {
