@@ -27,6 +27,7 @@ windows_packages=(g++-mingw-w64-x86-64-posix)
 windows_x86_packages=(g++-mingw-w64-i686-posix)
 packing_packages=(nsis zip unzip)
 screens_packages=(xserver-xorg-core xserver-xorg-video-dummy)
+window_manager_packages=(openbox)
 manifest_packages=(python3 python3-yaml)
 show_packages=(wine wine64 xvfb xauth xdotool imagemagick x11-utils x11-apps
   x11-xserver-utils fonts-liberation)
