@@ -91,9 +91,17 @@ void SettingsDialog::FolderCommand_Click() {
 
 // The system starts a screen saver in a folder of its own, where nobody looks for pictures.
 void SettingsDialog::enterPicturesFolder() {
-  for (const std::string& folder : {lastFolder_, services_.files.picturesFolder(), form.programFolder()}) {
+  for (const std::string& folder :
+       {lastFolder_, listsLastFolder(), services_.files.picturesFolder(), form.programFolder()}) {
     if (services_.files.enterFolder(folder)) return;
   }
+}
+
+// New pictures are appended, so the list remembers beyond one run of the dialog where they came from. Empty
+// for the sample pictures, which nobody chose.
+std::string SettingsDialog::listsLastFolder() const {
+  const std::string folder = os::FolderOf(form.List1.item(form.List1.listCount() - 1));
+  return folder == form.programFolder() ? std::string() : folder;
 }
 
 // One viewer at a time; another picture takes the place of the one that it shows.

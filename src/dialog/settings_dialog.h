@@ -51,6 +51,7 @@ class SettingsDialog {
   void save();
   void openViewer();
   void enterPicturesFolder();
+  std::string listsLastFolder() const;
   void closed();
   void tellError(const std::exception& error);
 

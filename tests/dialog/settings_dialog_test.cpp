@@ -222,6 +222,27 @@ TEST_F(SettingsDialogTest, TheImportStartsWhereTheUserKeepsPicturesAndThenWhereT
   EXPECT_EQ(machine.files.current, "C:\\Windows\\System32") << "the program works where it did";
 }
 
+TEST_F(SettingsDialogTest, ANewRunOfTheDialogStartsTheImportWhereTheListsLastPictureCameFrom) {
+  machine.setPictures({{"C:\\Lumora\\image1.gif", ""}, {"D:\\sea\\wave.gif", ""}});
+  SettingsDialog& dialog = machine.openDialog();
+  machine.files.pictures = "C:\\Pictures";
+  Names started;
+  machine.windows.whileModal = [&](forms::Form& form) {
+    started.push_back(static_cast<auxwin::MultiFiles&>(form).dirDirectories.path());
+  };
+  const auto importAgain = [&] { dialog.form.FolderCommand.userClicked(); };
+  importAgain();
+  machine.files.gone = {"D:\\sea"};  // a stick that was taken out
+  importAgain();
+  dialog.form.List1.setItems({"D:\\hills\\a.jpg", "C:\\Lumora\\image1.gif"});
+  importAgain();  // nobody chose the sample pictures' folder
+  dialog.form.List1.setItems({"bare.gif"});
+  importAgain();
+  dialog.form.List1.clear();
+  importAgain();
+  EXPECT_EQ(started, (Names{"D:\\sea", "C:\\Pictures", "C:\\Pictures", "C:\\Pictures", "C:\\Pictures"}));
+}
+
 TEST_F(SettingsDialogTest, WithoutAPicturesFolderTheImportStartsInTheProgramsOwn) {
   SettingsDialog& dialog = open();
   machine.files.current = "C:\\Windows\\System32";

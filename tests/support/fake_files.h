@@ -23,7 +23,7 @@ class FakeFiles : public os::Files {
   std::vector<std::string> drives() override { return roots; }
   std::string currentFolder() override { return current; }
   bool enterFolder(const std::string& folder) override {
-    if (folder.empty()) return false;
+    if (folder.empty() || gone.contains(folder)) return false;
     current = folder;
     return true;
   }
@@ -36,6 +36,7 @@ class FakeFiles : public os::Files {
   std::map<std::string, std::vector<std::string>> listed;  // files of a folder in place of those in `content`
   std::vector<std::string> roots = {"C:\\"};
   std::string current = "C:\\";
+  std::set<std::string> gone;     // folders that cannot be entered
   std::string pictures = "C:\\";  // the user's folder of pictures; empty: the system names none
 
   bool writable = true;          // false: every write fails
