@@ -24,6 +24,10 @@ PackedColor Between(PackedColor from, PackedColor to, int step, int steps) {
   return Rgb(part(RedOf), part(GreenOf), part(BlueOf));
 }
 
+PackedColor BlackOrWhiteOn(PackedColor background) {
+  return ContrastRatio(kWhite, background) >= ContrastRatio(kBlack, background) ? kWhite : kBlack;
+}
+
 }  // namespace
 
 double ContrastRatio(PackedColor a, PackedColor b) {
@@ -34,13 +38,16 @@ double ContrastRatio(PackedColor a, PackedColor b) {
 
 PackedColor ReadableOn(PackedColor color, PackedColor background) {
   constexpr int kSteps = 16;
-  const PackedColor end =
-      ContrastRatio(kWhite, background) >= ContrastRatio(kBlack, background) ? kWhite : kBlack;
+  const PackedColor end = BlackOrWhiteOn(background);
   for (int step = 0; step < kSteps; ++step) {
     const PackedColor tried = Between(color, end, step, kSteps);
     if (ContrastRatio(tried, background) >= kReadableContrast) return tried;
   }
   return end;
+}
+
+PackedColor TextOn(PackedColor color, PackedColor background) {
+  return ContrastRatio(color, background) >= kReadableContrast ? color : BlackOrWhiteOn(background);
 }
 
 }  // namespace base

@@ -15,4 +15,7 @@ double ContrastRatio(PackedColor a, PackedColor b);
 // The colour, or one of its own hue between it and white or black that can be read on the background.
 PackedColor ReadableOn(PackedColor color, PackedColor background);
 
+// The colour where it can be read on the background, else black or white, whichever stands out.
+PackedColor TextOn(PackedColor color, PackedColor background);
+
 }  // namespace base

@@ -2,6 +2,7 @@
 
 #include <vssym32.h>
 
+#include "base/contrast.h"
 #include "os/dib_win.h"
 #include "os/screen_win.h"
 #include "os/system_library_win.h"
@@ -64,6 +65,12 @@ COLORREF ToColorRef(base::PackedColor color) {
   return static_cast<COLORREF>(color & 0xFFFFFF);
 }
 
+COLORREF FieldTextColor(bool takesInput, COLORREF background) {
+  if (!takesInput) return GetSysColor(COLOR_GRAYTEXT);
+  return static_cast<COLORREF>(base::TextOn(static_cast<base::PackedColor>(GetSysColor(COLOR_WINDOWTEXT)),
+                                            static_cast<base::PackedColor>(background)));
+}
+
 Theme::Theme(HWND window, const wchar_t* controlClass)
     : theme_(Library().isUsable() ? Library().open(window, controlClass) : nullptr) {}
 
@@ -79,9 +86,8 @@ void DrawListLine(const DRAWITEMSTRUCT& item, const ListLine& line, int dpi) {
   const bool selected = (item.itemState & ODS_SELECTED) != 0;
   const os::OwnedBrush brush(CreateSolidBrush(selected ? GetSysColor(COLOR_HIGHLIGHT) : line.background));
   FillRect(item.hDC, &item.rcItem, brush.get());
-  int color = line.takesInput ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT;
-  if (selected) color = COLOR_HIGHLIGHTTEXT;
-  SetTextColor(item.hDC, GetSysColor(color));
+  SetTextColor(item.hDC, selected ? GetSysColor(COLOR_HIGHLIGHTTEXT)
+                                  : FieldTextColor(line.takesInput, line.background));
   SetBkMode(item.hDC, TRANSPARENT);
   RECT area = item.rcItem;
   area.left += MulDiv(3, dpi, 96) + line.indent;

@@ -21,6 +21,10 @@ os::OwnedFont MakeMessageFont(int dpi);
 // A colour as the graphics system takes it; system colours are the user's.
 COLORREF ToColorRef(base::PackedColor color);
 
+// The colour of text in a field. Themes of high contrast have fields whose background is nearly that of the
+// text, because it is a colour of other things; what can be typed or chosen there stays readable.
+COLORREF FieldTextColor(bool takesInput, COLORREF background);
+
 // The style of one class of control, for a scope. The library behind it is none of those that the system
 // loads for every program from its own folder, so it is loaded from there by name and not by the import
 // table, which would look beside the program first.

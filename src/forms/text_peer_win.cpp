@@ -120,7 +120,7 @@ HBRUSH TextBoxPeer::onColor(HDC dc, UINT) {
     background_.reset(CreateSolidBrush(color));
     backgroundColor_ = color;
   }
-  SetTextColor(dc, GetSysColor(box_.takesInput() ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT));
+  SetTextColor(dc, FieldTextColor(box_.takesInput(), color));
   SetBkColor(dc, color);
   return background_.get();
 }

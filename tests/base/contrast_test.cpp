@@ -30,5 +30,14 @@ TEST(Contrast, ABlueOnBlackIsStillABlue) {
   EXPECT_LT(RedOf(blue), 160);
 }
 
+TEST(Contrast, TextKeepsItsColorWhereItCanBeReadAndIsBlackOrWhiteElsewhere) {
+  const PackedColor grey = Rgb(109, 109, 109);
+  EXPECT_EQ(TextOn(kBlack, Rgb(227, 227, 227)), kBlack);
+  EXPECT_EQ(TextOn(grey, kWhite), grey);
+  EXPECT_EQ(TextOn(kWhite, kWhite), kBlack);
+  EXPECT_EQ(TextOn(kWhite, Rgb(255, 255, 0)), kBlack);
+  EXPECT_EQ(TextOn(kBlack, Rgb(0, 0, 128)), kWhite);
+}
+
 }  // namespace
 }  // namespace base

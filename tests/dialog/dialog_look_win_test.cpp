@@ -4,6 +4,7 @@
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
+#include "base/contrast.h"
 #include "os/handles_win.h"
 #include "support/dialog_machine.h"
 #include "support/real_dialog_win.h"
@@ -197,6 +198,53 @@ TEST_F(DialogLook, OtherColorsAreFollowedWhileItIsOpen) {
   SendMessageW(dialog.window(), WM_SYSCOLORCHANGE, 0, 0);
   EXPECT_EQ(shown, black);
   EXPECT_EQ(background(), before);
+}
+
+// The darkest and the lightest of what a field shows where its text begins.
+struct Tones {
+  base::PackedColor darkest = base::kWhite;
+  base::PackedColor lightest = base::kBlack;
+};
+
+Tones TonesOf(HWND window) {
+  RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+  RECT inside{};
+  GetClientRect(window, &inside);
+  const os::WindowDc dc(window);
+  Tones tones;
+  for (int y = inside.bottom / 3; y < inside.bottom * 2 / 3; ++y) {
+    for (int x = 6; x < inside.right / 2; ++x) {
+      const auto pixel = static_cast<base::PackedColor>(GetPixel(dc.get(), x, y));
+      if (base::GreenOf(pixel) < base::GreenOf(tones.darkest)) tones.darkest = pixel;
+      if (base::GreenOf(pixel) > base::GreenOf(tones.lightest)) tones.lightest = pixel;
+    }
+  }
+  return tones;
+}
+
+// Text and field are both white there, by the system's own colours.
+TEST_F(DialogLook, InAThemeOfHighContrastEveryFieldCanBeRead) {
+  support::DialogMachine withoutCountdown;  // whose fields have the colour of what is not in force
+  withoutCountdown.set("image", "timeDisplay", "0");
+  withoutCountdown.writeSettings();
+  RealDialog dialog(withoutCountdown);
+  const int elements[] = {COLOR_WINDOW, COLOR_WINDOWTEXT, COLOR_3DLIGHT};
+  COLORREF before[3];
+  for (int i = 0; i < 3; ++i) before[i] = GetSysColor(elements[i]);
+  const COLORREF contrast[] = {RGB(0, 0, 0), RGB(255, 255, 255), RGB(255, 255, 255)};
+  SetSysColors(3, elements, contrast);
+  SendMessageW(dialog.window(), WM_SYSCOLORCHANGE, 0, 0);
+  const auto contrastOf = [&dialog](const forms::Control& control) {
+    const Tones tones = TonesOf(dialog.windowOf(control));
+    return base::ContrastRatio(tones.darkest, tones.lightest);
+  };
+  const double total = contrastOf(dialog.form().Text3);
+  dialog.showTab(7);
+  const double month = contrastOf(dialog.form().monthCombo);
+  SetSysColors(3, elements, before);
+  SendMessageW(dialog.window(), WM_SYSCOLORCHANGE, 0, 0);
+  EXPECT_GE(total, base::kReadableContrast);
+  EXPECT_GE(month, base::kReadableContrast);
 }
 
 }  // namespace
