@@ -156,6 +156,17 @@ TEST_F(MultiFilesTest, MoreThan700PicturesBringTheAdviceUnlessItWasGiven) {
   EXPECT_EQ(dialogs.messages.size(), 1U);
 }
 
+TEST_F(MultiFilesTest, TheAdviceComesWhileTheImportIsStillOpen) {
+  disk.listed["C:\\photos"].assign(701, "x.gif");
+  MultiFiles& opened = open();
+  bool wasOpen = false;
+  dialogs.whileMessage = [&] { wasOpen = opened.host() != nullptr; };
+  opened.Command1.userClicked();
+  ASSERT_EQ(dialogs.messages.size(), 1U);
+  EXPECT_TRUE(wasOpen);
+  EXPECT_FALSE(opened.host());
+}
+
 TEST_F(MultiFilesTest, PathsThatCannotBeKeptAreLeftOutAndCounted) {
   disk.listed["C:\\photos"] = {"a.gif", std::string(30, 'l') + ".gif", "z.gif",
                                std::string(31, 'l') + ".gif"};

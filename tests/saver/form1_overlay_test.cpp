@@ -220,6 +220,16 @@ TEST(Floating, IsForEveryTextButCentInItsOwnLetters) {
   }
 }
 
+TEST(Floating, IsNotForAnEmptyTextWhichIsTheDefault) {
+  ShowStage show;
+  show.addPicture({100, 80}, kRed);
+  show.set("image/picRandom", "");
+  show.start();
+  show.runFor(600);
+  EXPECT_FALSE(show.form->FloatTimer.enabled());
+  EXPECT_EQ(show.form->DisplayingPicture.pixelRect(), (base::PixelRect{462, 344, 100, 80}));
+}
+
 // What a picture is that gives the box no width, or hardly any.
 struct Slip {
   const char* what;

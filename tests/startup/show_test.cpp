@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <string>
 #include <vector>
 
+#include "base/errors.h"
 #include "support/fake_machine.h"
 #include "support/show_stage.h"
 
@@ -157,6 +159,44 @@ TEST_F(ShowTest, ARunTimeErrorEndsItWithoutAMessageAndPutsTheSystemBack) {
   EXPECT_TRUE(window().closed);
 }
 
+enum class Way { Key, SessionEnd, Error };
+
+class ShowThatEnds : public ShowTest, public testing::WithParamInterface<Way> {
+ protected:
+  void end() {
+    switch (GetParam()) {
+      case Way::Key:
+        return window().onKeyDown(65);
+      case Way::SessionEnd:
+        return window().onSessionEnd();
+      case Way::Error:
+        return stage.loop.dispatch([] { throw base::Overflow(); });
+    }
+  }
+};
+
+TEST_P(ShowThatEnds, PutsTheSystemBackFirstThenStopsWhatRunsThenClosesItsWindows) {
+  stage.screen.others = {{1024, 0, 800, 600}};
+  stage.set("extras/otherScreens", "black");
+  start();
+  ASSERT_EQ(covers.size(), 1U);
+  std::vector<std::string> done;  // already, when a window is closed
+  const auto look = [&] {
+    std::string so;
+    if (machine.desktop.taskbarVisible) so += "taskbar ";
+    if (show->form().isOver()) so += "form ";
+    if (hasEnded()) so += "program ";
+    done.push_back(so);
+  };
+  window().onClose = look;
+  covers[0]->onClose = look;
+  end();
+  EXPECT_EQ(done, (std::vector<std::string>{"taskbar form ", "taskbar form "}));
+  EXPECT_TRUE(hasEnded());
+}
+
+INSTANTIATE_TEST_SUITE_P(ByEach, ShowThatEnds, testing::Values(Way::Key, Way::SessionEnd, Way::Error));
+
 TEST_F(ShowTest, AnErrorWhileLoadingEndsItToo) {
   stage.set("font/newFontForeColor", "white");
   start();
@@ -181,6 +221,7 @@ TEST_F(ShowTest, WhereAPasswordIsNeededAnErrorAsksForItAndARefusalLeavesTheBackg
   stage.screen.size = {800, 600};
   window().onScreenChanged();
   EXPECT_EQ(window().covered, (base::PixelRect{0, 0, 800, 600})) << "nothing comes from behind it";
+  EXPECT_EQ(stage.screenAt(400, 300), 0xFF00FF00U) << "the background is drawn anew";
   machine.passwords.accepts = true;
   window().onKeyDown(65);
   EXPECT_TRUE(hasEnded());
@@ -248,6 +289,18 @@ TEST_F(ShowTest, FurtherScreensAreCoveredOnlyWhenTheSettingSaysSoAndTheirInputEn
   covers[1]->onKeyDown(65);
   EXPECT_TRUE(hasEnded());
   EXPECT_TRUE(covers[0]->closed);
+}
+
+TEST_F(ShowTest, IsToldNothingAnyMoreWhenItIsGone) {
+  start();
+  const saver::ShowServices services = stage.services();
+  EXPECT_TRUE(services.pictures.onFailure);
+  EXPECT_TRUE(services.ahead.onFailure);
+  EXPECT_TRUE(services.stage.onPlacesChanged);
+  show.reset();
+  EXPECT_FALSE(services.pictures.onFailure);
+  EXPECT_FALSE(services.ahead.onFailure);
+  EXPECT_FALSE(services.stage.onPlacesChanged);
 }
 
 // One cover, left of and above the primary screen.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -26,6 +27,8 @@ class FakeDialogs : public forms::Dialogs {
   std::deque<std::optional<base::PackedColor>> colors;
   std::deque<std::optional<forms::ChosenFont>> fonts;
 
+  std::function<void()> whileMessage;  // runs while a message box is open
+
   std::vector<Message> messages;
   std::vector<forms::OpenFileRequest> fileRequests;
   std::vector<forms::ColorRequest> colorRequests;
@@ -33,6 +36,7 @@ class FakeDialogs : public forms::Dialogs {
 
   forms::Answer messageBox(const std::string& text, std::uint32_t style) override {
     messages.push_back({text, style});
+    if (whileMessage) whileMessage();
     return next(answers, forms::Answer::Ok);
   }
   std::optional<std::string> openFile(const forms::OpenFileRequest& request) override {

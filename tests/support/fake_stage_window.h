@@ -23,6 +23,7 @@ class FakeStageWindow : public saver::StageWindow {
   std::intptr_t handle() const override { return 4711; }
   void close() override {
     calls.push_back("close");
+    if (onClose) onClose();
     closed = true;
   }
   base::BitmapView backBuffer() override { return back_.view(); }
@@ -42,6 +43,7 @@ class FakeStageWindow : public saver::StageWindow {
   std::vector<std::string> calls;
   base::PixelRect covered;
   std::function<void()> onCover;  // what happens while the window is being placed
+  std::function<void()> onClose;  // what is so when it is closed
   bool closed = false;
   std::vector<base::PixelRect> presented;
   base::Bitmap screen;  // what the user sees
