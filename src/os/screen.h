@@ -24,8 +24,9 @@ class Screen {
   // False where the user wants nothing to move that need not.
   virtual bool showsAnimations() const = 0;
 
-  // What the primary screen shows at this moment, opaque. Black where it cannot be read.
-  virtual base::Bitmap copyDesktop() const = 0;
+  // What the screens show at this moment in an area, which is measured from the primary one's top left
+  // corner. Opaque; black where there is no screen, or it cannot be read.
+  virtual base::Bitmap copyDesktop(const base::PixelRect& area) const = 0;
 };
 
 }  // namespace os

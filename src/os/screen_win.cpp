@@ -40,14 +40,13 @@ bool ScreenWin::showsAnimations() const {
   return shown != FALSE;
 }
 
-base::Bitmap ScreenWin::copyDesktop() const {
-  const base::PixelSize size = primarySize();
+base::Bitmap ScreenWin::copyDesktop(const base::PixelRect& area) const {
+  const base::PixelSize size = area.size();
   base::Bitmap copy(size, base::OpaquePixel(base::kBlack));
   const Dib dib(size);
-  const HWND desktop = GetDesktopWindow();
-  const WindowDc source(desktop);
+  const WindowDc source(nullptr);
   if (!dib.dc() || !source.get()) return copy;
-  BitBlt(dib.dc(), 0, 0, size.width, size.height, source.get(), 0, 0, SRCCOPY);
+  BitBlt(dib.dc(), 0, 0, size.width, size.height, source.get(), area.left, area.top, SRCCOPY);
   const base::BitmapView pixels = dib.view();
   for (int y = 0; y < size.height; ++y) {
     for (int x = 0; x < size.width; ++x) copy.row(y)[x] = pixels.row(y)[x] | 0xFF000000U;

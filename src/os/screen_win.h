@@ -14,7 +14,7 @@ class ScreenWin : public Screen {
   int dpi() const override;
   std::vector<base::PixelRect> otherScreens() const override;
   bool showsAnimations() const override;
-  base::Bitmap copyDesktop() const override;
+  base::Bitmap copyDesktop(const base::PixelRect& area) const override;
 };
 
 }  // namespace os

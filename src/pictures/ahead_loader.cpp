@@ -49,7 +49,7 @@ AheadLoader::Ticket AheadLoader::wish(Wish wish, Answer answer) {
   }
   standing_.push_back({ticket, std::move(wish), std::move(answer)});
   const bool isDroppedUnderWay = isUnderWay && !standing_.front().answer;
-  if (standing_.size() - (isDroppedUnderWay ? 1 : 0) > kMostWishes) {
+  if (standing_.size() - (isDroppedUnderWay ? 1 : 0) > mostWishes_) {
     standing_.erase(standing_.begin() + (isUnderWay ? 1 : 0));
   }
   beginFirst();

@@ -41,8 +41,9 @@ class AheadLoader {
   using Answer = std::function<void(SharedPicture picture)>;
   using Ticket = std::int64_t;
 
-  static constexpr int kPatienceMs = 10'000;      // for one picture, from the moment when it is begun
-  static constexpr std::size_t kMostWishes = 2;   // that stand at a time, dropped ones aside
+  static constexpr int kPatienceMs = 10'000;  // for one picture, from the moment when it is begun
+  static constexpr std::size_t kMostWishes =
+      2;  // that stand at a time, dropped ones aside, if no more are allowed
   static constexpr std::size_t kMostHanging = 8;  // threads left to themselves at a time
 
   // The loader is used on the loading threads alone, and lives as long as one of them does.
@@ -51,9 +52,12 @@ class AheadLoader {
   AheadLoader(const AheadLoader&) = delete;
   AheadLoader& operator=(const AheadLoader&) = delete;
 
-  // Each wish is answered once, but for those that are dropped. When more than two would stand, the oldest of
-  // those that have not been begun is dropped.
+  // Each wish is answered once, but for those that are dropped. When more would stand than are allowed, the
+  // oldest of those that have not been begun is dropped.
   Ticket wish(Wish wish, Answer answer);
+
+  // How many wishes may stand from now on, for more than one screen.
+  void allowWishes(std::size_t most) { mostWishes_ = most; }
 
   // The wish is not answered any more. A picture that is being loaded for it is loaded to its end.
   void drop(Ticket ticket);
@@ -110,6 +114,7 @@ class AheadLoader {
   std::shared_ptr<Made> made_;          // by the worker's job
   std::deque<Hanging> hanging_;
   std::optional<Kept> kept_;  // came too late for its wish, and waits for the next one
+  std::size_t mostWishes_ = kMostWishes;
   std::int64_t lastJob_ = 0;
   Ticket lastTicket_ = 0;
 };

@@ -13,7 +13,6 @@ namespace saver {
 namespace {
 
 constexpr float kExtraWidth = 200;  // twips by which the label is wider than its text
-constexpr int kScrollIntervalMs = 100;
 
 // Gives a font property the value that a text stands for; a text that stands for none leaves it as it was.
 template <typename Property, typename Convert>
@@ -37,12 +36,13 @@ base::Font FontOf(const settings::SettingsRecord& record, base::Font font) {
 
 }  // namespace
 
-Caption::Caption(forms::Label& label, forms::Timer& scroller, const settings::SaverSettings& settings)
-    : label_(label), scroller_(scroller), settings_(settings) {}
+Caption::Caption(forms::Label& label, const settings::SaverSettings& settings)
+    : label_(label), settings_(settings) {}
 
 void Caption::prepare() {
   label_.setFont(FontOf(settings_.record, label_.font()));
   label_.setForeColor(base::StrictInt32(settings_.record.newFontForeColor));
+  label_.setTop(room().top);
   const std::size_t total = settings_.imageCaptions.empty() ? 0 : settings_.imageCaptions.size() - 1;
   const std::optional<std::size_t> first = FirstRealCaption(std::span(settings_.imageCaptions).first(total));
   if (first) {
@@ -61,29 +61,29 @@ void Caption::show(const std::string& text) {
   label_.sizeToText();
   label_.setWidth(label_.width() + kExtraWidth);
   const bool scrolling = scrolls();
-  if (!scrolling) label_.setLeft(CenteredEdge(screenWidth(), label_.width()));
+  if (!scrolling) label_.setLeft(room().left + CenteredEdge(room().width, label_.width()));
   label_.setVisible(true);
   if (label_.caption().empty()) label_.setHeight(0);
-  if (scrolling) {
-    label_.setLeft(screenWidth());
-    scroller_.setInterval(kScrollIntervalMs);
-    scroller_.setEnabled(true);
-  }
+  if (scrolling) label_.setLeft(room().left + room().width);
 }
 
 void Caption::ScrollerTimer_Timer() {
   const double speed = base::StrictDouble(settings_.record.scrollSpeed);
-  label_.setLeft(ScrolledCaptionLeft(label_.left(), label_.width(), speed, screenWidth()));
+  const CaptionRoom room = this->room();
+  label_.setLeft(room.left +
+                 ScrolledCaptionLeft(label_.left() - room.left, label_.width(), speed, room.width));
 }
 
 void Caption::screenChanged() {
-  label_.setLeft(scrolls() ? std::min(label_.left(), screenWidth())
-                           : CenteredEdge(screenWidth(), label_.width()));
+  const CaptionRoom room = this->room();
+  label_.setTop(room.top);
+  label_.setLeft(scrolls() ? std::min(label_.left(), room.left + room.width)
+                           : room.left + CenteredEdge(room.width, label_.width()));
 }
 
 bool Caption::scrolls() const { return base::StrictDouble(settings_.record.scroll) == 0; }
 
-float Caption::screenWidth() const { return label_.form().width(); }
+CaptionRoom Caption::room() const { return room_.value_or(CaptionRoom{.width = label_.form().width()}); }
 
 std::optional<std::size_t> FirstRealCaption(std::span<const std::string> captions) {
   const auto found =

@@ -7,15 +7,24 @@
 #include <string>
 
 #include "forms/texts.h"
-#include "forms/timer.h"
 #include "settings/load_settings.h"
 
 namespace saver {
 
+// A part of a form from a left edge on, in twips.
+struct CaptionRoom {
+  float left = 0;
+  float top = 0;
+  float width = 0;
+};
+
 class Caption {
  public:
   // `label` stands on a form that covers the screen. The settings are read from prepare() on.
-  Caption(forms::Label& label, forms::Timer& scroller, const settings::SaverSettings& settings);
+  Caption(forms::Label& label, const settings::SaverSettings& settings);
+
+  // The part of the form, in twips, in which the caption stands and scrolls; all of it where no other is set.
+  void setRoom(const CaptionRoom& room) { room_ = room; }
 
   // Gives the label its font and colour, and measures the band. Throws base::RunTimeError for a colour that
   // is no number.
@@ -23,6 +32,9 @@ class Caption {
 
   // Shows a text in the middle of the screen, or from beyond its right edge on, by the setting `scroll`.
   void show(const std::string& text);
+
+  // True where captions scroll. Throws base::RunTimeError for a setting that is no number.
+  bool scrolls() const;
 
   // Moves a scrolling caption on.
   void ScrollerTimer_Timer();
@@ -34,12 +46,11 @@ class Caption {
   std::int16_t bandHeight() const { return bandHeight_; }
 
  private:
-  bool scrolls() const;
-  float screenWidth() const;
+  CaptionRoom room() const;
 
   forms::Label& label_;
-  forms::Timer& scroller_;
   const settings::SaverSettings& settings_;
+  std::optional<CaptionRoom> room_;
   std::int16_t bandHeight_ = 0;
 };
 

@@ -22,15 +22,17 @@ void Crossfade::draw(const base::BitmapView& target, const base::PixelRect& area
   }
 }
 
-bool RunCrossfade(Crossfade& crossfade, Stage& stage, int durationMs, const os::Clock& clock,
-                  os::EventLoop& loop, const std::function<bool()>& isOver) {
+bool RunCrossfades(std::span<const RunningCrossfade> running, int durationMs, const os::Clock& clock,
+                   os::EventLoop& loop, const std::function<bool()>& isOver) {
   const std::int64_t start = clock.tickMs();
   for (;;) {
     const std::int64_t elapsed = clock.tickMs() - start;
     if (elapsed >= durationMs) return true;
-    crossfade.setWeight(static_cast<int>(elapsed * base::kWholeWeight / durationMs));
-    stage.liveChanged();
-    stage.flush();
+    for (const RunningCrossfade& one : running) {
+      one.crossfade.setWeight(static_cast<int>(elapsed * base::kWholeWeight / durationMs));
+      one.stage.liveChanged();
+      one.stage.flush();
+    }
     const std::int64_t next = start + std::min<std::int64_t>(NextFrameMs(clock.tickMs() - start), durationMs);
     do {
       loop.waitUntil(next);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <span>
 #include <utility>
 
 #include "base/bitmap.h"
@@ -36,9 +37,15 @@ class Crossfade final : public LivePicture {
   int weight_ = 0;
 };
 
-// Lets a crossfade that is live on the stage run from its one end to the other, sixty frames a second, events
-// in between. False when `isOver` has come true; nothing is touched any more then.
-bool RunCrossfade(Crossfade& crossfade, Stage& stage, int durationMs, const os::Clock& clock,
-                  os::EventLoop& loop, const std::function<bool()>& isOver);
+// A crossfade that is live on its stage.
+struct RunningCrossfade {
+  Crossfade& crossfade;
+  Stage& stage;
+};
+
+// Lets crossfades run beside each other from their one end to the other, sixty frames a second, events in
+// between. False when `isOver` has come true; nothing is touched any more then.
+bool RunCrossfades(std::span<const RunningCrossfade> running, int durationMs, const os::Clock& clock,
+                   os::EventLoop& loop, const std::function<bool()>& isOver);
 
 }  // namespace saver

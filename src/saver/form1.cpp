@@ -3,10 +3,9 @@
 #include <functional>
 #include <utility>
 
-#include "base/color.h"
 #include "base/errors.h"
 #include "base/number_text.h"
-#include "base/rounding.h"
+#include "base/text.h"
 #include "settings/settings_file.h"
 
 namespace saver {
@@ -17,19 +16,25 @@ constexpr int kStartDelayMs = 500;
 constexpr int kChangeHoldMs = 60000;  // no tick of the picture's timer is wanted while a change is under way
 constexpr int kFloatIntervalMs = 100;
 constexpr int kClockIntervalMs = 100;
+constexpr int kScrollIntervalMs = 100;
 constexpr int kNewsIntervalMs = 500;
 constexpr int kRememberIntervalMs = 10 * 60 * 1000;
 
 }  // namespace
 
+OtherScreens OtherScreensNamed(std::string_view text) {
+  if (base::EqualAsciiBlind(text, "black")) return OtherScreens::Black;
+  if (base::EqualAsciiBlind(text, "same")) return OtherScreens::Same;
+  if (base::EqualAsciiBlind(text, "different")) return OtherScreens::Different;
+  if (base::EqualAsciiBlind(text, "span")) return OtherScreens::Span;
+  return OtherScreens::Nothing;
+}
+
 Form1::Form1(const ShowServices& services, const os::SystemFacts& facts, std::string programFolder)
-    : Form("Form1"),
-      BgrImage(*this, "BgrImage"),
-      PreBgrImage(*this, "PreBgrImage"),
-      IntialPicture(*this, "IntialPicture"),
-      PictureReduce(*this, "PictureReduce"),
-      DisplayingPicture(*this, "DisplayingPicture"),
-      Label1(*this, "Label1"),
+    : Face("Form1",
+           {services.pictures, services.ahead, services.clock, services.loop, services.screen, services.stage,
+            services.window},
+           settings_, [this] { return isOver(); }),
       time(*this, "time"),
       StartSaver(services.loop),
       ImageChangeTimer(services.loop),
@@ -42,20 +47,12 @@ Form1::Form1(const ShowServices& services, const os::SystemFacts& facts, std::st
       order_(settings_, services.files, programFolder_, services.library),
       newsTimer_(services.loop, kNewsIntervalMs),
       rememberTimer_(services.loop, kRememberIntervalMs) {
-  setHost(&services_.stage);
-  setBackColor(base::kBlack);
-  IntialPicture.setAutoSize(true);
-  PreBgrImage.setAutoSize(true);
-  for (forms::Control* control : controls()) control->setVisible(false);
-  BgrImage.setVisible(true);
-  Label1.setTransparent(true);
-  Label1.setCaption(" ");
-  Label1.setAutoSize(true);
+  time.setVisible(false);
   time.setTransparent(true);
   time.setFont({.name = "MS Sans Serif", .sizePoints = 13.5F});
   time.setAutoSize(true);
   wireTimers();
-  services_.stage.show(*this, BgrImage, DisplayingPicture, {&Label1, &time});
+  showOnStage({&time});
 }
 
 void Form1::wireTimers() {
@@ -63,60 +60,61 @@ void Form1::wireTimers() {
     timer.onTimer = [this, handler = std::move(handler)] {
       if (isOver()) return;
       handler();
-      if (!isOver()) services_.stage.flush();
+      if (!isOver()) flush();
     };
   };
   on(StartSaver, [this] { StartSaver_Timer(); });
   on(ImageChangeTimer, [this] { ImageChangeTimer_Timer(); });
   on(FloatTimer, [this] { FloatTimer_Timer(); });
-  on(ScrollerTimer, [this] { caption_.ScrollerTimer_Timer(); });
+  on(ScrollerTimer, [this] {
+    for (Face* face : faces()) face->caption().ScrollerTimer_Timer();
+  });
   on(timeTimer, [this] { timeDisplay_.timeTimer_Timer(); });
   on(newsTimer_, [this] { takeNews(); });
   on(rememberTimer_, [this] { order_.save(); });
 }
 
+void Form1::flush() {
+  for (Face* face : faces()) face->stage().flush();
+}
+
 void Form1::unload() {
   if (!unloaded_) order_.save();
   unloaded_ = true;
-  next_.forget();
-  dropBackgroundWish();
   for (forms::Timer* timer : {&StartSaver, &ImageChangeTimer, &FloatTimer, &ScrollerTimer, &timeTimer,
                               &newsTimer_, &rememberTimer_}) {
     timer->setEnabled(false);
   }
-  look_.end();
+  for (Face* face : faces()) face->endFace();
 }
 
 void Form1::Form_Load() {
   const settings::IniDocument document =
       settings::OpenSettings(services_.files, services_.ansi, programFolder_);
-  copyDesktopIfWanted(document);
-  coverScreen();
-  if (facts_.guardsPassword()) services_.desktop.setScreenSaverRunning(true);
-  settings::LoadSettings(settings_, document);
-  loadsAhead_ = settings_.record.loadAhead == "1";
-  beginOrder();
-  PrepareDisplay();
-  services_.stage.flush();
-}
-
-// The window is about to cover the desktop, so the copy of it is taken before.
-void Form1::copyDesktopIfWanted(const settings::IniDocument& document) {
+  otherScreens_ = OtherScreensNamed(
+      settings::ReadIniValue(document, settings::KeyOf(&settings::SettingsRecord::otherScreens)));
+  // The windows are about to cover the desktop, so copies of it are taken before.
   const std::string background =
       settings::ReadIniValue(document, settings::KeyOf(&settings::SettingsRecord::backEffect));
-  if (base::LeadingNumber(background) != static_cast<int>(BackgroundKind::Desktop)) return;
-  desktop_ = std::make_shared<base::Bitmap>(services_.screen.copyDesktop());
+  keepsDesktop_ = base::LeadingNumber(background) == static_cast<int>(BackgroundKind::Desktop);
+  if (keepsDesktop_) keepDesktop(areaToCover());
+  coverScreen();
+  part_ = primaryPart();
+  if (facts_.guardsPassword()) services_.desktop.setScreenSaverRunning(true);
+  settings::LoadSettings(settings_, document);
+  if (onSettingsLoaded) onSettingsLoaded();
+  beginOrder();
+  PrepareDisplay();
+  flush();
 }
 
 void Form1::PrepareDisplay() {
-  look_.prepare(settings_.record);
-  caption_.prepare();
-  DrawBackground();
-  Label1.setTop(0);
+  for (Face* face : faces()) face->prepareFace();
+  isPrepared_ = true;
   timeDisplay_.prepare();
   StartSaver.setInterval(kStartDelayMs);
   StartSaver.setEnabled(true);
-  if (loadsAhead_) chooseFirst();  // made ready while the background stands alone
+  if (loadsAhead()) chooseFirst();  // made ready while the background stands alone
 }
 
 void Form1::StartSaver_Timer() {
@@ -124,7 +122,7 @@ void Form1::StartSaver_Timer() {
   if (change_ != ChangeState::None) return;
   takeNews();
   if (order_.waitsForPictures()) return;  // the timer ticks again
-  if (!loadsAhead_) chooseFirst();
+  if (!loadsAhead()) chooseFirst();
   if (floats()) {
     setFloatInterval();
   } else if (base::StrictDouble(settings_.record.timeInterval) == 0) {
@@ -171,16 +169,29 @@ void Form1::ImageChangeTimer_Timer() {
   ImageChangeTimer.setInterval(changeIntervalMs());
 }
 
-bool Form1::floats() const { return settings_.record.picRandom != "cent"; }
-
-int Form1::changeIntervalMs() const {
-  return base::ToInt32(base::StrictDouble(settings_.record.timeInterval) * 1000);
+void Form1::ShowCaption() {
+  for (Face* face : faces()) {
+    if (face->pictureShown_) face->showCaption();
+  }
+  if (!caption().scrolls()) return;
+  ScrollerTimer.setInterval(kScrollIntervalMs);
+  ScrollerTimer.setEnabled(true);
 }
 
-void Form1::ShowCaption() {
-  const auto index = static_cast<std::size_t>(currentImageIndex_);
-  const bool known = currentImageIndex_ >= 0 && index < settings_.imageCaptions.size();
-  caption_.show(known ? settings_.imageCaptions[index] : std::string());
+void Form1::PickFloatDirection() {
+  // A box that has never held a picture has no inner width to tell the size of a pixel by.
+  const bool empty = DisplayingPicture.scaleWidth() == 0;
+  const float boxWidth = empty ? static_cast<float>(twipsPerPixel()) : DisplayingPicture.width();
+  const FloatStep step = saver::PickFloatDirection(boxWidth, empty ? 1 : DisplayingPicture.scaleWidth(),
+                                                   os::SecondsSinceMidnight(services_.clock.now()), random_);
+  for (Face* face : faces()) face->floatStep_ = step;
+}
+
+void Form1::FloatTimer_Timer() {
+  // A tick in a wait of a change must not move the picture that is being drawn.
+  if (change_ != ChangeState::None) return;
+  reseed();
+  for (Face* face : faces()) face->moveFloating();
 }
 
 }  // namespace saver

@@ -1,13 +1,16 @@
-// The full-screen window in which the show runs.
+// The show: its timers, the order of steps of every change, on the primary screen and on further ones.
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <memory>
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "base/random.h"
-#include "forms/form.h"
-#include "forms/picture_boxes.h"
 #include "forms/texts.h"
 #include "forms/timer.h"
 #include "os/ansi_code_page.h"
@@ -19,20 +22,12 @@
 #include "os/machine_facts.h"
 #include "os/screen.h"
 #include "pictures/picture.h"
-#include "saver/background.h"
-#include "saver/caption.h"
-#include "saver/floating.h"
-#include "saver/next_picture.h"
-#include "saver/picture_look.h"
+#include "saver/face.h"
 #include "saver/picture_order.h"
-#include "saver/stage.h"
-#include "saver/stage_window.h"
 #include "saver/time_display.h"
 #include "settings/load_settings.h"
 
 namespace saver {
-
-struct Effect;
 
 // What the show needs of the machine.
 struct ShowServices {
@@ -48,103 +43,130 @@ struct ShowServices {
   Stage& stage;
   StageWindow& window;
   LibraryServices library = {};
+  // A stage for the window of a further screen. Without it there are none.
+  std::function<std::unique_ptr<Stage>(StageWindow&)> makeStage = nullptr;
 };
+
+// A screen beside the primary one, with a window of its own.
+struct FurtherScreen {
+  StageWindow* window = nullptr;
+  base::PixelRect area;  // in pixels, from the top left corner of the primary screen
+};
+
+// What the screens beside the primary one show: [extras] otherScreens.
+enum class OtherScreens {
+  Nothing,    // they are left alone
+  Black,      // they are covered
+  Same,       // the picture of the primary one
+  Different,  // each a picture of its own
+  Span,       // one show over all of them
+};
+
+// A text that is none of the key's values leaves them alone.
+OtherScreens OtherScreensNamed(std::string_view text);
 
 // Runs on timers from Form_Load on. Waits inside a change let any event run, the end of the show included:
 // after each of them isOver() is asked, and nothing touches a control once it is true. Run-time errors of
-// handlers (base::RunTimeError) go to the event border.
-class Form1 : public forms::Form {
+// handlers (base::RunTimeError) go to the event border. It is the face of the primary screen itself.
+class Form1 : public Face {
  public:
   Form1(const ShowServices& services, const os::SystemFacts& facts, std::string programFolder);
-  ~Form1() { dropBackgroundWish(); }
 
-  forms::PictureBox BgrImage;           // the composed background
-  forms::PictureBox PreBgrImage;        // the user's background picture as loaded
-  forms::PictureBox IntialPicture;      // the next picture; the background under the old one while it retires
-  forms::PictureBox PictureReduce;      // where a picture is drawn at the size that is shown
-  forms::PictureBox DisplayingPicture;  // the picture on the screen
-  forms::Label Label1;                  // the caption
-  forms::Label time;                    // the clock or the countdown
+  forms::Label time;  // the clock or the countdown
   forms::Timer StartSaver;
   forms::Timer ImageChangeTimer;
   forms::Timer FloatTimer;
   forms::Timer ScrollerTimer;
   forms::Timer timeTimer;
 
+  // Called when the settings have been loaded and nothing has been shown yet.
+  std::function<void()> onSettingsLoaded;
+
   // Makes the window cover the screen, reads the settings and prepares the display.
   void Form_Load();
+
+  // The screens beside the primary one that are to show pictures, each already covered by its window; all of
+  // them at each call. The show goes on at once on what is there. A window stays usable until the show has
+  // ended, even when its screen has gone.
+  void setFurtherScreens(std::span<const FurtherScreen> screens);
 
   // The screens are arranged differently now. The window goes to the primary one; where that has another
   // size, everything is laid out on it by the rules of the start, the picture on the screen too, and an
   // effect that is running is given up. Does nothing while there is no screen.
   void ScreenChanged();
 
-  // Of the screen that the window covers.
-  base::PixelSize screenSize() const { return screenSize_; }
+  // The screens are others than those that are covered.
+  bool screenIsAnother() const { return areaToCover() != area(); }
+
+  // Nothing but the backgrounds is seen any more.
+  void leaveBackground();
 
   // The end of the show: the timers stop, and isOver() is true from now on.
   void unload();
   bool isOver() const { return unloaded_ || services_.loop.isQuitting(); }
 
   const settings::SaverSettings& settings() const { return settings_; }
-  std::int16_t currentImageIndex() const { return currentImageIndex_; }
-  bool pictureShown() const { return pictureShown_; }
-  std::int16_t captionHeight() const { return caption_.bandHeight(); }
+
+  // The primary screen's part of the window, in its pixels.
+  base::PixelRect primaryPart() const;
 
   // The procedures of the show, in the order in which a run meets them. Those of the timers of caption and
   // clock are with them.
   void PrepareDisplay();
-  void DrawBackground();
   void StartSaver_Timer();
   void ImageChangeTimer_Timer();
   void AdvancePictureIndex();
   void ShowNextPicture();
   void RetireOldPicture();
-  void LoadCurrentPicture();
-  void ScalePicture();
   void RunTransition();
   void ShowCaption();
   void PickFloatDirection();
   void FloatTimer_Timer();
 
  private:
-  // Where a change of pictures stands. Timers that tick in its waits start no other. When the screen changes
+  // Where a change of pictures stands. Timers that tick in its waits start no other. When a screen changes
   // meanwhile, what its effect drew is for another screen, and the effect is given up.
   enum class ChangeState { None, UnderWay, EffectGivenUp };
   class ChangeScope;
 
+  static constexpr std::size_t kWishesOfAFace = 2;  // a picture and a background
+
+  // A face on a further screen.
+  struct Further {
+    StageWindow* window;
+    std::unique_ptr<Stage> stage;
+    std::unique_ptr<Face> face;
+  };
+
   void wireTimers();
+  void flush();
   void beginOrder();
   void takeNews();
   std::uint64_t drawSeed();
+  bool spans() const { return otherScreens_ == OtherScreens::Span; }
+  base::PixelRect areaToCover() const;
   void coverScreen();
-  void copyDesktopIfWanted(const settings::IniDocument& document);
-  base::SharedBitmap composeBackground(BackgroundKind kind);
-  base::SharedBitmap composeCustomImage();
-  base::SharedBitmap composeGradient();
+  void keepWordsOnPrimary();
   void startPictureCycle();
   void setFloatInterval();
-  bool floats() const;
-  int changeIntervalMs() const;
-  void clearBoxes();
   void chooseFirst();
-  std::optional<pictures::Wish> wishFor(std::int16_t number) const;
-  void prepareNext();
-  void awaitPicture();
-  void useLoadedPicture();
-  void wishBackground(ImageLayout layout);
-  void dropBackgroundWish();
-  void PlacePicture();
-  void runEffect(const Effect& effect, const base::SharedBitmap& pixels);
+  void chooseForFurther();
+  std::int16_t nextBehind(std::int16_t index);
+  bool isDrawn() const;
+  std::int16_t drawIndex();
+  void prepareAll();
+  std::vector<Face*> faces();
+  void addFurther(const FurtherScreen& screen);
+  void layOutFace(Face& face);
+  void moveFurther(Face& face, const base::PixelRect& area);
   void pauseAfterRetiring();
+  void runEffectOn(const std::vector<Face*>& faces);
   void ReplaceByWayOfBackground();
-  void ReplacePicture();
-  void runDirectEffect(const base::PixelRect& area);
-  int glideMs() const;
-  Composition compositionFor(base::PixelSize documented) const;
-  base::SharedBitmap composePicture(base::PixelSize documented);
-  void layOutAgain();
-  void refitPicture();
+  void ReplacePictures();
+  void bringPictures(void (Face::*bring)());
+  void fade();
+  void runDirectEffect();
+  std::function<bool()> givenUp() const;
   void reseed();
 
   ShowServices services_;
@@ -154,21 +176,16 @@ class Form1 : public forms::Form {
   PictureOrder order_;
   forms::Timer newsTimer_;      // asks for changes of the followed folders
   forms::Timer rememberTimer_;  // in case that the show is not asked when it ends
-  Caption caption_{Label1, ScrollerTimer, settings_};
   TimeDisplay timeDisplay_{time, timeTimer, settings_, services_.clock, services_.dates};
-  PictureLook look_{services_.stage, services_.clock, services_.loop, services_.screen};
   base::Random random_;
-  base::SharedBitmap desktop_;  // as it was before the window covered it; null where it is not wanted
-  base::PixelSize screenSize_;
-  std::int16_t currentImageIndex_ = 0;
-  bool loadsAhead_ = false;  // pictures come from services_.ahead, and nothing waits for a disk
-  NextPicture next_{services_.ahead, services_.loop, services_.clock};
-  std::optional<pictures::AheadLoader::Ticket> backgroundWish_;
-  pictures::SharedPicture loadedPicture_;  // as LoadCurrentPicture took it last, or null
-  int loadReduction_ = 1;  // by which power of two LoadCurrentPicture divided the picture's size
-  FloatStep floatStep_;
-  bool pictureShown_ = false;
+  base::PixelRect part_;  // the primary screen's, when everything was laid out last
+  OtherScreens otherScreens_ = OtherScreens::Nothing;
+  bool keepsDesktop_ = false;
+  std::vector<Further> further_;
+  std::vector<Face*> changing_;  // the faces of the change that is under way
+  std::vector<Further> gone_;    // their screens have gone; a change may still be at work on them
   ChangeState change_ = ChangeState::None;
+  bool isPrepared_ = false;
   bool unloaded_ = false;
 };
 

@@ -1,7 +1,9 @@
 // One picture replacing another: the order of steps of every change, and the effect that brings the new one.
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <span>
+#include <utility>
 
 #include "base/errors.h"
 #include "saver/form1.h"
@@ -36,108 +38,150 @@ bool ShowsNothing(const pictures::SharedPicture& picture) {
 // A change is under way for the life of this, however the scope is left.
 class Form1::ChangeScope {
  public:
-  explicit ChangeScope(ChangeState& state) : state_(state) { state_ = ChangeState::UnderWay; }
-  ~ChangeScope() { state_ = ChangeState::None; }
+  explicit ChangeScope(Form1& show) : show_(show) {
+    show_.change_ = ChangeState::UnderWay;
+    show_.changing_ = show_.faces();
+  }
+  ~ChangeScope() {
+    show_.change_ = ChangeState::None;
+    show_.changing_.clear();
+    show_.gone_.clear();
+  }
   ChangeScope(const ChangeScope&) = delete;
   ChangeScope& operator=(const ChangeScope&) = delete;
 
  private:
-  ChangeState& state_;
+  Form1& show_;
 };
 
+std::function<bool()> Form1::givenUp() const {
+  return [this] { return isOver() || change_ == ChangeState::EffectGivenUp; };
+}
+
 void Form1::ShowNextPicture() {
-  const ChangeScope change(change_);
-  awaitPicture();
-  if (isOver()) return;
-  look_.stopGlide(DisplayingPicture);
-  Label1.setVisible(false);
-  clearBoxes();
-  if (look_.changesWithoutPause()) {
-    ReplacePicture();
+  const ChangeScope change(*this);
+  for (Face* face : changing_) {
+    if (otherScreens_ != OtherScreens::Different) face->setNext(currentImageIndex());
+    face->awaitPicture();
+    if (isOver()) return;
+  }
+  for (Face* face : changing_) face->clearForChange();
+  if (look().changesWithoutPause()) {
+    ReplacePictures();
   } else {
     ReplaceByWayOfBackground();
   }
   if (isOver()) return;
-  if (change_ == ChangeState::EffectGivenUp) {
-    look_.showScreen();
-    refitPicture();
+  for (Face* face : changing_) {
+    if (change_ == ChangeState::EffectGivenUp) {
+      face->look().showScreen();
+      face->refitPicture();
+    }
+    face->pictureShown_ = true;
   }
-  pictureShown_ = true;
   FloatTimer.setEnabled(floats());
-  look_.startGlide(DisplayingPicture);
+  for (Face* face : changing_) face->look().startGlide(face->DisplayingPicture);
 }
 
 void Form1::ReplaceByWayOfBackground() {
-  if (pictureShown_) {
+  if (pictureShown()) {
     RetireOldPicture();
     if (isOver()) return;
   }
-  DisplayingPicture.setVisible(false);
-  change_ = ChangeState::UnderWay;  // from here on everything is for the screen as it is now
-  LoadCurrentPicture();
+  for (Face* face : changing_) face->DisplayingPicture.setVisible(false);
+  change_ = ChangeState::UnderWay;  // from here on everything is for the screens as they are now
+  bringPictures(&Face::bringPicture);
   if (isOver()) return;
-  ScalePicture();
-  PlacePicture();
-  DisplayingPicture.setVisible(true);
   RunTransition();
   if (isOver()) return;
-  DisplayingPicture.setPicture(IntialPicture.picture());
+  for (Face* face : changing_) face->showBroughtPicture();
 }
 
-void Form1::clearBoxes() {
-  IntialPicture.cls();
-  PictureReduce.cls();
-  DisplayingPicture.cls();
+void Form1::bringPictures(void (Face::*bring)()) {
+  for (Face* face : changing_) {
+    order_.shown(face->currentImageIndex());
+    (face->*bring)();
+    if (isOver()) return;
+  }
 }
 
 void Form1::RetireOldPicture() {
   FloatTimer.setEnabled(false);
-  // What lies under the old picture is drawn over it, so that it gives way to its background.
-  const auto under =
-      std::make_shared<base::Bitmap>(services_.stage.backgroundUnder(DisplayingPicture.pixelRect()));
-  IntialPicture.paintPicture(*pictures::MakePicture(under), under->size());
-  PictureReduce.setPicture(pictures::MakePicture(IntialPicture.image()));
-  IntialPicture.setPicture(PictureReduce.picture());
-  if (!ShowsNothing(DisplayingPicture.picture())) RunTransition();
+  std::vector<Face*> retiring;
+  for (Face* face : changing_) {
+    if (!face->pictureShown_) continue;  // its screen came after the last change
+    face->drawBackgroundOverPicture();
+    if (!ShowsNothing(face->DisplayingPicture.picture())) retiring.push_back(face);
+  }
+  runEffectOn(retiring);
   if (isOver()) return;
-  DisplayingPicture.setPicture(IntialPicture.picture());
-  Label1.setVisible(false);
+  for (Face* face : changing_) {
+    if (face->pictureShown_) face->showBroughtPicture();
+    face->Label1.setVisible(false);
+  }
   pauseAfterRetiring();
 }
 
-void Form1::RunTransition() {
-  // An error in an effect is not reported: whoever asked for it goes on to show the new picture in full.
+void Form1::RunTransition() { runEffectOn(changing_); }
+
+// One choice for all screens, as it is one change.
+void Form1::runEffectOn(const std::vector<Face*>& faces) {
+  // An error in an effect is not reported: whoever asked for it goes on to show the new pictures in full.
   try {
-    const pictures::SharedPicture& next = IntialPicture.picture();
-    if (ShowsNothing(next)) return;  // nobody would see the effect, only wait for it
-    const auto over = [this] { return isOver(); };
-    const std::optional<int> number =
-        ChooseEffect(FlagsOf(settings_.record), random_, services_.clock, services_.loop, over);
+    std::vector<Face*> seen;  // of the others nobody would see the effect, only wait for it
+    std::ranges::copy_if(faces, std::back_inserter(seen),
+                         [](Face* face) { return !ShowsNothing(face->IntialPicture.picture()); });
+    if (seen.empty()) return;
+    const std::optional<int> number = ChooseEffect(FlagsOf(settings_.record), random_, services_.clock,
+                                                   services_.loop, [this] { return isOver(); });
     if (!number || isOver() || change_ == ChangeState::EffectGivenUp) return;
     const Effect& effect = EffectNumbered(*number);
-    if (effect.isPlainShow()) {
-      DisplayingPicture.setPicture(next);
-      services_.stage.flush();
-      return;
+    std::vector<EffectOnBox> effects;
+    for (Face* face : seen) {
+      if (effect.isPlainShow()) {
+        face->showBroughtPicture();
+      } else if (auto one = face->effectOnBox(effect, random_)) {
+        effects.push_back(std::move(*one));
+      }
     }
-    runEffect(effect, next->drawnAt(next->size()));
+    flush();
+    TransitionRunner(services_.clock, services_.loop, givenUp())
+        .run(effects, ParseTransitionTime(settings_.record.transitionTime));
   } catch (const base::RunTimeError&) {
     return;
   }
 }
 
-void Form1::runEffect(const Effect& effect, const base::SharedBitmap& pixels) {
-  if (!pixels) return;
-  const TransitionPlan plan = effect.makePlan({.scaleWidth = IntialPicture.scaleWidth(),
-                                               .scaleHeight = IntialPicture.scaleHeight(),
-                                               .destinationWidth = DisplayingPicture.scaleWidth(),
-                                               .destinationHeight = DisplayingPicture.scaleHeight(),
-                                               .outerWidthTwips = DisplayingPicture.width(),
-                                               .random = random_});
-  services_.stage.flush();
-  const auto givenUp = [this] { return isOver() || change_ == ChangeState::EffectGivenUp; };
-  TransitionRunner(services_.clock, services_.loop, givenUp)
-      .run(plan, DisplayingPicture, pixels, ParseTransitionTime(settings_.record.transitionTime));
+void Form1::ReplacePictures() {
+  FloatTimer.setEnabled(false);
+  change_ = ChangeState::UnderWay;
+  bringPictures(&Face::freezeAndBringPicture);
+  if (isOver()) return;
+  if (look().looks().change == ChangeStyle::Direct) {
+    runDirectEffect();
+  } else {
+    fade();
+  }
+}
+
+void Form1::runDirectEffect() {
+  for (Face* face : changing_) face->beginDirectEffect();
+  RunTransition();
+  if (isOver()) return;
+  for (Face* face : changing_) face->endDirectEffect();
+}
+
+void Form1::fade() {
+  std::vector<RunningCrossfade> running;
+  for (Face* face : changing_) {
+    if (const auto one = face->fadeToPicture()) running.push_back(*one);
+  }
+  const int durationMs = ParseTransitionTime(settings_.record.transitionTime).value_or(kCrossfadeMs);
+  if (!running.empty() && !RunCrossfades(running, durationMs, services_.clock, services_.loop, givenUp())) {
+    return;
+  }
+  for (Face* face : changing_) face->look().showScreen();
+  flush();
 }
 
 void Form1::pauseAfterRetiring() {
@@ -147,7 +191,7 @@ void Form1::pauseAfterRetiring() {
     if (passed < 0) passed += kSecondsOfDay;  // midnight came in between
     if (passed >= kPauseSeconds) return;
     const auto restMs = static_cast<std::int64_t>(std::ceil((kPauseSeconds - passed) * 1000.0F));
-    services_.stage.flush();
+    flush();
     services_.loop.waitUntil(services_.clock.tickMs() + restMs);
   }
 }

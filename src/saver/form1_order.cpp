@@ -1,4 +1,7 @@
 // Which picture the show comes to next.
+#include <algorithm>
+#include <vector>
+
 #include "base/errors.h"
 #include "base/number_text.h"
 #include "base/rounding.h"
@@ -15,40 +18,82 @@ void Form1::beginOrder() {
 
 void Form1::chooseFirst() {
   reseed();
-  currentImageIndex_ = -1;
+  setNext(-1);
   const auto first = order_.first([this] { return drawSeed(); });
   if (!first) {
     AdvancePictureIndex();
     return;
   }
-  currentImageIndex_ = *first;
-  if (loadsAhead_) prepareNext();
+  setNext(*first);
+  chooseForFurther();
+  prepareAll();
 }
 
 void Form1::AdvancePictureIndex() {
   reseed();
   if (const auto next = order_.next([this] { return drawSeed(); })) {
-    currentImageIndex_ = *next;
-  } else if (base::LeadingNumber(settings_.record.randomPick) == 1) {
-    const double drawn =
-        (static_cast<double>(settings_.lastImageIndex) + 1) * static_cast<double>(random_.next());
-    currentImageIndex_ = base::ToInt16(base::Int(drawn));
+    setNext(*next);
+  } else if (isDrawn()) {
+    setNext(drawIndex());
   } else {
-    currentImageIndex_ = base::ToInt16(currentImageIndex_ + 1);
+    // Where each screen has a picture of its own, a change has taken as many as there are screens.
+    const bool several =
+        otherScreens_ == OtherScreens::Different && !further_.empty() && currentImageIndex() >= 0;
+    const std::int16_t last = several ? further_.back().face->currentImageIndex() : currentImageIndex();
+    setNext(base::ToInt16(last + 1));
   }
-  if (loadsAhead_) prepareNext();
+  chooseForFurther();
+  prepareAll();
+}
+
+bool Form1::isDrawn() const { return base::LeadingNumber(settings_.record.randomPick) == 1; }
+
+std::int16_t Form1::drawIndex() {
+  const double drawn =
+      (static_cast<double>(settings_.lastImageIndex) + 1) * static_cast<double>(random_.next());
+  return base::ToInt16(base::Int(drawn));
+}
+
+// Pictures of their own for the further screens: those that come behind the primary one's, none of them twice
+// while there are enough.
+void Form1::chooseForFurther() {
+  const int count = settings_.lastImageIndex + 1;
+  if (otherScreens_ != OtherScreens::Different || count <= 0) {
+    for (const Further& further : further_) further.face->setNext(currentImageIndex());
+    return;
+  }
+  std::int16_t index = currentImageIndex() < count ? currentImageIndex() : std::int16_t{0};
+  std::vector<std::int16_t> taken{index};
+  for (const Further& further : further_) {
+    index = nextBehind(index);
+    for (int tries = 0; tries < count && std::ranges::find(taken, index) != taken.end(); ++tries) {
+      index = static_cast<std::int16_t>((index + 1) % count);
+    }
+    taken.push_back(index);
+    further.face->setNext(index);
+  }
+}
+
+std::int16_t Form1::nextBehind(std::int16_t index) {
+  if (const auto next = order_.nextBehind(index, [this] { return drawSeed(); })) return *next;
+  return isDrawn() ? drawIndex() : static_cast<std::int16_t>((index + 1) % (settings_.lastImageIndex + 1));
+}
+
+void Form1::prepareAll() {
+  for (Face* face : faces()) face->prepareNext();
 }
 
 // A change that is under way knows its picture by the list as it was, so the news waits for its end.
 void Form1::takeNews() {
   if (change_ != ChangeState::None || !order_.takeNews()) return;
-  if (!pictureShown_) {
-    if (loadsAhead_) chooseFirst();
-  } else if (base::LeadingNumber(settings_.record.randomPick) == 1) {
+  if (!pictureShown()) {
+    if (loadsAhead()) chooseFirst();
+  } else if (isDrawn()) {
     AdvancePictureIndex();
   } else {
-    currentImageIndex_ = order_.nextInList();
-    if (loadsAhead_) prepareNext();
+    setNext(order_.nextInList());
+    chooseForFurther();
+    prepareAll();
   }
 }
 

@@ -1,56 +1,121 @@
-// The screen that the show covers, and what happens when it changes under the show.
+// The screens that the show covers, and what happens when they change under it.
+#include <algorithm>
+
 #include "saver/form1.h"
 
 namespace saver {
 
+base::PixelRect Form1::areaToCover() const {
+  base::PixelRect area = base::PixelRect::ofSize(services_.screen.primarySize());
+  if (!spans()) return area;
+  for (const base::PixelRect& other : services_.screen.otherScreens()) area = area.united(other);
+  return area;
+}
+
+base::PixelRect Form1::primaryPart() const {
+  return base::PixelRect::ofSize(services_.screen.primarySize()).movedBy(-area().left, -area().top);
+}
+
 void Form1::coverScreen() {
-  screenSize_ = services_.screen.primarySize();
-  move(0, 0, static_cast<float>(screenSize_.width * twipsPerPixel()),
-       static_cast<float>(screenSize_.height * twipsPerPixel()));
-  services_.window.cover(base::PixelRect::ofSize(screenSize_));
-  services_.stage.invalidateAll();
+  cover(areaToCover());
+  if (spans()) keepWordsOnPrimary();
+}
+
+// A caption or a clock across the frames of two screens cannot be read.
+void Form1::keepWordsOnPrimary() {
+  const base::PixelRect part = primaryPart();
+  const auto twips = [this](int pixels) { return static_cast<float>(pixels * twipsPerPixel()); };
+  caption().setRoom({.left = twips(part.left), .top = twips(part.top), .width = twips(part.width)});
+  stage().keepTextsIn(part);
+}
+
+std::vector<Face*> Form1::faces() {
+  std::vector<Face*> all{this};
+  for (const Further& further : further_) all.push_back(further.face.get());
+  return all;
 }
 
 void Form1::ScreenChanged() {
   // Between two arrangements a machine can be without any screen.
   if (isOver() || services_.screen.primarySize().isEmpty()) return;
-  const base::PixelSize before = screenSize_;
-  const float widthBefore = width();
-  const float heightBefore = height();
+  const base::PixelRect areaBefore = area();
+  const base::PixelRect partBefore = part_;
   coverScreen();
-  if (screenSize_ != before) {
-    timeDisplay_.cornerMoved(width() - widthBefore, height() - heightBefore);
-    layOutAgain();
+  part_ = primaryPart();
+  if (screenSize() != areaBefore.size() || part_ != partBefore) {
+    timeDisplay_.cornerMoved(static_cast<float>((part_.right() - partBefore.right()) * twipsPerPixel()),
+                             static_cast<float>((part_.bottom() - partBefore.bottom()) * twipsPerPixel()));
+    layOutFace(*this);
   }
   services_.stage.flush();
 }
 
-void Form1::layOutAgain() {
-  BgrImage.setPicture(nullptr);  // of the other size, should there be none of this one
-  DrawBackground();
-  if (change_ != ChangeState::None) {
-    // The change goes on behind its effect, which notices at its next step.
-    change_ = ChangeState::EffectGivenUp;
-    services_.stage.showLive(nullptr);
-    DisplayingPicture.setVisible(false);
-    return;
+void Form1::leaveBackground() {
+  for (Face* face : faces()) {
+    for (forms::Control* control : face->controls()) {
+      if (control != &face->BgrImage) control->setVisible(false);
+    }
+    face->stage().invalidateAll();
   }
-  if (loadsAhead_) prepareNext();
-  if (!pictureShown_) return;
-  look_.stopGlide(DisplayingPicture);
-  refitPicture();
-  look_.startGlide(DisplayingPicture);
-  caption_.screenChanged();
+  flush();
 }
 
-void Form1::refitPicture() {
-  clearBoxes();
-  DisplayingPicture.setVisible(false);
-  useLoadedPicture();
-  ScalePicture();
-  PlacePicture();
-  DisplayingPicture.setVisible(true);
-  DisplayingPicture.setPicture(IntialPicture.picture());
+void Form1::layOutFace(Face& face) {
+  // The change goes on behind its effect, which notices at its next step.
+  if (change_ != ChangeState::None) change_ = ChangeState::EffectGivenUp;
+  face.layOutAgain(change_ != ChangeState::None);
+}
+
+void Form1::setFurtherScreens(std::span<const FurtherScreen> screens) {
+  if (isOver() || !services_.makeStage) return;
+  const auto isThere = [screens](const Further& one) {
+    return std::ranges::find(screens, one.window, &FurtherScreen::window) != screens.end();
+  };
+  const auto gone = std::ranges::stable_partition(further_, isThere);
+  for (Further& one : gone) {
+    one.face->endFace();
+    gone_.push_back(std::move(one));
+  }
+  further_.erase(gone.begin(), gone.end());
+  services_.ahead.allowWishes(kWishesOfAFace * (1 + screens.size()));
+  for (const FurtherScreen& screen : screens) {
+    const auto found = std::ranges::find(further_, screen.window, &Further::window);
+    if (found == further_.end()) {
+      addFurther(screen);
+    } else if (found->face->area() != screen.area) {
+      moveFurther(*found->face, screen.area);
+    }
+  }
+  if (change_ == ChangeState::None) gone_.clear();
+}
+
+// It joins with the next change, and has its background until then.
+void Form1::addFurther(const FurtherScreen& screen) {
+  Further further{screen.window, services_.makeStage(*screen.window), nullptr};
+  further.face =
+      std::make_unique<Face>("Face",
+                             FaceServices{services_.pictures, services_.ahead, services_.clock,
+                                          services_.loop, services_.screen, *further.stage, *screen.window},
+                             settings_, [this] { return isOver(); });
+  Face& face = *further.face;
+  further_.push_back(std::move(further));
+  face.showOnStage();
+  if (keepsDesktop_) face.keepDesktop(screen.area);
+  face.cover(screen.area);
+  face.floatStep_ = floatStep_;
+  if (!isPrepared_) return;
+  face.prepareFace();
+  face.stage().flush();
+  if (change_ != ChangeState::None) return;
+  chooseForFurther();
+  face.prepareNext();
+}
+
+void Form1::moveFurther(Face& face, const base::PixelRect& area) {
+  const bool isOther = area.size() != face.screenSize();
+  face.cover(area);
+  if (isOther) layOutFace(face);
+  face.stage().flush();
 }
 
 }  // namespace saver

@@ -14,16 +14,16 @@ base::SharedBitmap PictureLook::compose(const pictures::Picture& picture, Compos
   ComposedPicture composed = ComposePicture(looks_, picture, on);
   if (!composed.pixels) return nullptr;
   if (!composed.glide.standsStill() && !composed.pixels->isOpaque()) {
-    composed.pixels = overBackground(*composed.pixels, composed.glide);
+    composed.pixels = overBackground(*composed.pixels, composed.glide, on.screen);
   }
   composed_ = std::move(composed);
   return FirstFrame(composed_->pixels, composed_->glide);
 }
 
 // What shows through a picture glides with it.
-base::SharedBitmap PictureLook::overBackground(const base::Bitmap& pixels, const Glide& glide) const {
+base::SharedBitmap PictureLook::overBackground(const base::Bitmap& pixels, const Glide& glide,
+                                               base::PixelSize screen) const {
   const base::PixelSize box = glide.shownSize();
-  const base::PixelSize screen = screen_.primarySize();
   base::Bitmap under =
       base::Resample(stage_.backgroundUnder({(screen.width - box.width) / 2, (screen.height - box.height) / 2,
                                              box.width, box.height}),
@@ -71,15 +71,10 @@ void PictureLook::showScreen() {
   crossfade_.reset();
 }
 
-bool PictureLook::fadeToBoxes(const base::PixelRect& area, int durationMs,
-                              const std::function<bool()>& isOver) {
-  if (screen_.showsAnimations() && !area.isEmpty()) {
-    crossfade_->setTarget(stage_.withoutTexts(), area);
-    if (!RunCrossfade(*crossfade_, stage_, durationMs, clock_, loop_, isOver)) return false;
-  }
-  showScreen();
-  stage_.flush();
-  return true;
+std::optional<RunningCrossfade> PictureLook::fadeToBoxes(const base::PixelRect& area) {
+  if (!screen_.showsAnimations() || area.isEmpty()) return std::nullopt;
+  crossfade_->setTarget(stage_.withoutTexts(), area);
+  return RunningCrossfade{*crossfade_, stage_};
 }
 
 }  // namespace saver

@@ -1,7 +1,6 @@
 // The look of the show's pictures beyond the documented one: composed, gliding, fading into each other.
 #pragma once
 
-#include <functional>
 #include <optional>
 
 #include "base/bitmap.h"
@@ -53,16 +52,17 @@ class PictureLook {
   // What the screen showed when it was frozen.
   const base::Bitmap& frozen() const { return crossfade_->from(); }
 
-  // From the frozen screen to what the boxes show now, which differs within `area` alone. False when `isOver`
-  // has come true.
-  bool fadeToBoxes(const base::PixelRect& area, int durationMs, const std::function<bool()>& isOver);
+  // The fade from the frozen screen to what the boxes show now, which differs within `area` alone. Nothing
+  // where there is none to see. In the end the screen is to be shown.
+  std::optional<RunningCrossfade> fadeToBoxes(const base::PixelRect& area);
 
   // Nothing moves any more.
   void end() { frames_.setEnabled(false); }
 
  private:
   void showFrame();
-  base::SharedBitmap overBackground(const base::Bitmap& pixels, const Glide& glide) const;
+  base::SharedBitmap overBackground(const base::Bitmap& pixels, const Glide& glide,
+                                    base::PixelSize screen) const;
 
   Stage& stage_;
   const os::Clock& clock_;

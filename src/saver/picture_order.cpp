@@ -92,8 +92,17 @@ std::optional<std::int16_t> PictureOrder::first(const DrawSeed& drawSeed) {
 }
 
 std::optional<std::int16_t> PictureOrder::next(const DrawSeed& drawSeed) {
+  return deal(state_.position, drawSeed);
+}
+
+std::optional<std::int16_t> PictureOrder::nextBehind(std::int16_t index, const DrawSeed& drawSeed) {
+  return deal({.roundSeed = dealtRound_, .lastPath = paths()[static_cast<std::size_t>(index)]}, drawSeed);
+}
+
+std::optional<std::int16_t> PictureOrder::deal(const library::DeckPosition& behind,
+                                               const DrawSeed& drawSeed) {
   if (!isDeck()) return std::nullopt;
-  const auto dealt = library::DealNext({paths().data(), count()}, state_.position, drawSeed);
+  const auto dealt = library::DealNext({paths().data(), count()}, behind, drawSeed);
   if (!dealt) return std::nullopt;
   dealtRound_ = dealt->roundSeed;
   return static_cast<std::int16_t>(dealt->index);

@@ -53,6 +53,9 @@ class PictureOrder {
   std::optional<std::int16_t> first(const DrawSeed& drawSeed);
   std::optional<std::int16_t> next(const DrawSeed& drawSeed);
 
+  // The picture to be dealt after the one at the index, which lies in the list; nothing without a deck.
+  std::optional<std::int16_t> nextBehind(std::int16_t index, const DrawSeed& drawSeed);
+
   // After a change of the list: the next picture in the list's own order.
   std::int16_t nextInList() const;
 
@@ -66,6 +69,7 @@ class PictureOrder {
   bool isDeck() const;
   std::vector<std::string>& paths() { return settings_.imageFiles; }
   std::size_t count() const { return static_cast<std::size_t>(settings_.lastImageIndex + 1); }
+  std::optional<std::int16_t> deal(const library::DeckPosition& behind, const DrawSeed& drawSeed);
   void readState();
   void leaveOutHidden();
   void putBehindOwn(const std::vector<std::string>& followed);

@@ -81,6 +81,11 @@ void Stage::composeBoxes(const base::BitmapView& target, const base::PixelRect& 
   composePicture(target, area);
 }
 
+void Stage::keepTextsIn(const base::PixelRect& part) {
+  textsIn_ = part;
+  invalidateAll();
+}
+
 void Stage::showLive(const LivePicture* live) {
   live_ = live;
   liveChanged();
@@ -124,7 +129,9 @@ void Stage::composePicture(const base::BitmapView& target, const base::PixelRect
 }
 
 void Stage::composeTexts(const base::BitmapView& target, const base::PixelRect& area) {
-  for (TextLayer& layer : texts_) layer.compose(target, area);
+  const base::PixelRect part = textsIn_ ? textsIn_->intersected(area) : area;
+  if (part.isEmpty()) return;
+  for (TextLayer& layer : texts_) layer.compose(target, part);
 }
 
 base::PixelRect Stage::shownPlace(const forms::Control& control) const {

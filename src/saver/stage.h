@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -37,6 +38,9 @@ class Stage : public forms::FormHost {
   // What the background layer alone shows in an area of the window: no picture, caption or clock. Transparent
   // outside the window.
   base::Bitmap backgroundUnder(const base::PixelRect& area);
+
+  // Texts are seen inside this part of the window alone.
+  void keepTextsIn(const base::PixelRect& part);
 
   // Shows a live picture in front of the picture box and behind the texts, until null is shown. It must
   // outlive that.
@@ -90,7 +94,8 @@ class Stage : public forms::FormHost {
   base::PixelRect painted_;          // where the box shows it for certain
   base::PixelRect ahead_;            // where the back buffer shows it already and the screen does not yet
   const LivePicture* live_ = nullptr;
-  base::PixelRect liveWas_;             // where the live picture was composed last
+  base::PixelRect liveWas_;  // where the live picture was composed last
+  std::optional<base::PixelRect> textsIn_;
   base::PixelRect pictureWas_;          // where the picture box was composed last; empty while hidden
   std::vector<base::PixelRect> dirty_;  // areas of the window to compose anew
   bool placesChanged_ = false;

@@ -71,7 +71,10 @@ class SaverMode {
         text_(machine.screen.dpi()),
         stage_(window_, text_, base::TwipsPerPixelForDpi(machine.screen.dpi())),
         show_({machine.files, machine.ansi, machine.pictures, *machine.ahead, machine.clock, machine.loop,
-               machine.screen, restore, *machine.dates, stage_, window_, startup::MakeLibraryServices()},
+               machine.screen, restore, *machine.dates, stage_, window_, startup::MakeLibraryServices(),
+               [this](saver::StageWindow& window) {
+                 return std::make_unique<saver::Stage>(window, text_, stage_.twipsPerPixel());
+               }},
               {*machine.passwords, restore, machine.screen}, restore, facts, machine.programFolder,
               [&machine] { return std::make_unique<saver::StageWindowWin>(machine.loop); }) {
     show_.start();

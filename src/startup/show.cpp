@@ -1,5 +1,6 @@
 #include "startup/show.h"
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -56,18 +57,20 @@ Show::~Show() {
 }
 
 void Show::start() {
+  form_.onSettingsLoaded = [this] {
+    watchInput();
+    coverOtherScreens();  // before any screen has its background, so that none shows the desktop beside it
+  };
   try {
     form_.Form_Load();
   } catch (const std::exception& error) {
     decideOnLog();
-    watchInput();  // where the password is asked for, the window may have to stay
+    if (!watch_) watchInput();  // where the password is asked for, the window may have to stay
     endByError(error);
     return;
   }
   decideOnLog();
-  watchInput();
-  coverOtherScreens();
-  if (screenIsAnother()) screenChanged();  // while it was loaded, with nobody to tell
+  if (form_.screenIsAnother()) screenChanged();  // while it was loaded, with nobody to tell
   services_.window.activate();
 }
 
@@ -87,17 +90,39 @@ void Show::watchInput() {
 }
 
 void Show::coverOtherScreens() {
-  if (form_.settings().record.otherScreens != "black") return;
-  const std::vector<base::PixelRect> areas = services_.screen.otherScreens();
-  while (covers_.size() > areas.size()) {
-    covers_.back()->window->close();
-    goneCovers_.push_back(std::move(covers_.back()));
-    covers_.pop_back();
+  const saver::OtherScreens kind = saver::OtherScreensNamed(form_.settings().record.otherScreens);
+  if (kind == saver::OtherScreens::Nothing || kind == saver::OtherScreens::Span) return;
+  matchCovers(services_.screen.otherScreens());
+  if (kind == saver::OtherScreens::Black || form_.isOver()) {
+    for (const auto& cover : covers_) cover->window->cover(cover->area);
+    return;
   }
-  while (covers_.size() < areas.size()) covers_.push_back(makeCover());
-  for (std::size_t i = 0; i < areas.size(); ++i) {
-    covers_[i]->area = areas[i];
-    covers_[i]->window->cover(areas[i]);
+  std::vector<saver::FurtherScreen> screens;
+  for (const auto& cover : covers_) screens.push_back({cover->window.get(), cover->area});
+  form_.setFurtherScreens(screens);
+}
+
+// A screen that stays keeps its window, and with it its picture.
+void Show::matchCovers(std::vector<base::PixelRect> areas) {
+  std::vector<std::unique_ptr<Cover>> before = std::exchange(covers_, {});
+  const auto take = [&](auto found, const base::PixelRect& area) {
+    (*found)->area = area;
+    covers_.push_back(std::move(*found));
+    before.erase(found);
+  };
+  std::erase_if(areas, [&](const base::PixelRect& area) {
+    const auto found = std::ranges::find(before, area, [](const auto& cover) { return cover->area; });
+    if (found == before.end()) return false;
+    take(found, area);
+    return true;
+  });
+  for (const base::PixelRect& area : areas) {
+    if (before.empty()) before.push_back(makeCover());
+    take(before.begin(), area);
+  }
+  for (auto& gone : before) {
+    gone->window->close();
+    goneCovers_.push_back(std::move(gone));
   }
 }
 
@@ -111,8 +136,6 @@ std::unique_ptr<Show::Cover> Show::makeCover() {
   cover.window->onSessionEnd = services_.window.onSessionEnd;
   return made;
 }
-
-bool Show::screenIsAnother() const { return services_.screen.primarySize() != form_.screenSize(); }
 
 void Show::screenChanged() {
   forgetPointer();
@@ -129,27 +152,33 @@ void Show::forgetPointer() {
   for (const auto& cover : covers_) cover->lastPlace = {};
 }
 
+base::PixelPoint Show::onScreen(base::PixelPoint inWindow) const {
+  return {inWindow.x + form_.area().left, inWindow.y + form_.area().top};
+}
+
 std::optional<PointedControl> Show::pointedControl(base::PixelPoint onScreen) const {
-  if (!base::PixelRect::ofSize(form_.screenSize()).contains(onScreen)) return std::nullopt;
+  const base::PixelPoint inWindow{onScreen.x - form_.area().left, onScreen.y - form_.area().top};
+  if (!base::PixelRect::ofSize(form_.screenSize()).contains(inWindow)) return std::nullopt;
   // A caption or a clock has no handler of its own: over them the form sees the pointer.
-  if (services_.stage.controlAt(onScreen) == &form_.DisplayingPicture) {
+  if (services_.stage.controlAt(inWindow) == &form_.DisplayingPicture) {
     const base::PixelRect place = form_.DisplayingPicture.pixelRect();
-    return PointedControl{WatchedControl::DisplayingPicture, static_cast<float>(onScreen.x - place.left),
-                          static_cast<float>(onScreen.y - place.top)};
+    return PointedControl{WatchedControl::DisplayingPicture, static_cast<float>(inWindow.x - place.left),
+                          static_cast<float>(inWindow.y - place.top)};
   }
   const auto perPixel = static_cast<float>(form_.twipsPerPixel());
-  const float x = static_cast<float>(onScreen.x) * perPixel;
-  const float y = static_cast<float>(onScreen.y) * perPixel;
+  const float x = static_cast<float>(inWindow.x) * perPixel;
+  const float y = static_cast<float>(inWindow.y) * perPixel;
   return PointedControl{WatchedControl::Form, x,
                         form_.scaleHeight() == 0 ? y : y * form_.scaleHeight() / form_.height()};
 }
 
-void Show::mouseMoved(base::PixelPoint onScreen) {
+void Show::mouseMoved(base::PixelPoint inWindow) {
   // The pointer that a change of the screen takes along can arrive before the news of the change.
-  if (screenIsAnother()) forgetPointer();
-  const std::optional<PointedControl> pointed = pointedControl(onScreen);
+  if (form_.screenIsAnother()) forgetPointer();
+  const base::PixelPoint place = onScreen(inWindow);
+  const std::optional<PointedControl> pointed = pointedControl(place);
   if (!pointed) return;
-  const MouseMove move{pointed->x, pointed->y, onScreen, os::SecondsSinceMidnight(services_.clock.now())};
+  const MouseMove move{pointed->x, pointed->y, place, os::SecondsSinceMidnight(services_.clock.now())};
   if (pointed->control == WatchedControl::DisplayingPicture) {
     watch_->DisplayingPicture_MouseMove(move);
   } else {
@@ -200,16 +229,12 @@ void Show::endByError(const std::exception& error) {
   exit_.ExitSaver();
 }
 
-// What runs of the show stops, and its window goes on covering the screen until the password is given.
+// What runs of the show stops, and its windows go on covering the screens until the password is given.
 void Show::leaveBackground() {
   form_.unload();
-  for (forms::Control* control : form_.controls()) {
-    if (control != &form_.BgrImage) control->setVisible(false);
-  }
   const base::PixelSize screen = services_.screen.primarySize();
   if (!screen.isEmpty()) services_.window.cover(base::PixelRect::ofSize(screen));
-  services_.stage.invalidateAll();
-  services_.stage.flush();
+  form_.leaveBackground();
 }
 
 void Show::endWithoutAsking() {

@@ -32,7 +32,7 @@ class Show {
   saver::Form1& form() { return form_; }
 
  private:
-  // A black window on a further screen.
+  // A window on a further screen: black, or with a picture of the show.
   struct Cover {
     std::unique_ptr<saver::StageWindow> window;
     base::PixelRect area;
@@ -41,12 +41,13 @@ class Show {
 
   void watchInput();
   void coverOtherScreens();
+  void matchCovers(std::vector<base::PixelRect> areas);
   std::unique_ptr<Cover> makeCover();
-  bool screenIsAnother() const;
   void screenChanged();
-  void mouseMoved(base::PixelPoint onScreen);
+  void mouseMoved(base::PixelPoint inWindow);
   void coverMouseMoved(Cover& cover, base::PixelPoint inside);
   void forgetPointer();
+  base::PixelPoint onScreen(base::PixelPoint inWindow) const;
   std::optional<PointedControl> pointedControl(base::PixelPoint onScreen) const;
   void decideOnLog();
   void notePicture(const std::string& path, pictures::PictureFailure failure);
@@ -60,11 +61,11 @@ class Show {
   os::SystemFacts facts_;
   WindowMaker makeWindow_;
   FailureLog log_;
-  saver::Form1 form_;
-  SaverExit exit_;
-  std::optional<InputWatch> watch_;
   std::vector<std::unique_ptr<Cover>> covers_;      // one for each further screen
   std::vector<std::unique_ptr<Cover>> goneCovers_;  // closed; one of their events may still be under way
+  saver::Form1 form_;                               // shows pictures in them
+  SaverExit exit_;
+  std::optional<InputWatch> watch_;
 };
 
 }  // namespace startup

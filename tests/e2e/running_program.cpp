@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "os/dib_win.h"
-#include "os/screen_win.h"
+#include "support/primary_screen_win.h"
 
 namespace e2e {
 
@@ -94,7 +94,7 @@ void PaintWindow(HWND window, COLORREF color) {
   GdiFlush();
 }
 
-base::Bitmap ReadScreen() { return os::ScreenWin().copyDesktop(); }
+base::Bitmap ReadScreen() { return support::PrimaryScreen(); }
 
 base::Pixel ScreenPixel(int x, int y) {
   const os::WindowDc screen(nullptr);

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "os/clock_win.h"
-#include "os/screen_win.h"
 #include "support/event_loop_contract.h"
+#include "support/primary_screen_win.h"
 
 namespace support {
 
@@ -189,7 +189,6 @@ TEST_F(EventLoopWin, WhatWasDrawnBeforeAWaitIsOnTheScreenAfterIt) {
   os::OwnedWindow window(CreateWindowExW(WS_EX_TOPMOST, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 40, 40, 60, 60,
                                          nullptr, nullptr, GetModuleHandleW(nullptr), nullptr));
   loop.waitUntil(clock.tickMs() + 50);
-  const os::ScreenWin screen;
   const COLORREF colors[] = {RGB(255, 0, 0), RGB(0, 255, 0), RGB(0, 0, 255)};
   for (const COLORREF color : colors) {
     {
@@ -203,7 +202,7 @@ TEST_F(EventLoopWin, WhatWasDrawnBeforeAWaitIsOnTheScreenAfterIt) {
     // The pixels are out of the program; the display's own process needs a moment to have them.
     base::Pixel shown = 0;
     for (int tries = 0; tries < 100 && shown != base::OpaquePixel(color); ++tries) {
-      shown = screen.copyDesktop().at(70, 70);
+      shown = support::PrimaryScreen().at(70, 70);
     }
     EXPECT_EQ(shown, base::OpaquePixel(color));
   }

@@ -6,8 +6,8 @@
 #include "os/event_loop_win.h"
 #include "os/handles_win.h"
 #include "os/instance.h"
-#include "os/screen_win.h"
 #include "startup/preview.h"
+#include "support/primary_screen_win.h"
 
 namespace {
 
@@ -74,7 +74,7 @@ TEST_F(ForeignWindowWin, KnowsWindowsFromNumbers) {
 TEST_F(ForeignWindowWin, EveryPixelOfThePictureArrivesOnTheScreen) {
   foreign->draw(handle(), image);
   settle();
-  const base::Bitmap screen = os::ScreenWin().copyDesktop();
+  const base::Bitmap screen = support::PrimaryScreen();
   int wrong = 0;
   for (int y = 0; y < 120; ++y) {
     for (int x = 0; x < 160; ++x) wrong += screen.at(64 + x, 48 + y) == image.at(x, y) ? 0 : 1;
@@ -99,10 +99,10 @@ TEST_F(ForeignWindowWin, DrawingIntoNoWindowDrawsNowhere) {
   const std::intptr_t gone = handle();
   owner.reset();
   settle();
-  const base::Bitmap before = os::ScreenWin().copyDesktop();
+  const base::Bitmap before = support::PrimaryScreen();
   foreign->draw(gone, image);
   settle();
-  EXPECT_TRUE(before == os::ScreenWin().copyDesktop());
+  EXPECT_TRUE(before == support::PrimaryScreen());
 }
 
 TEST_F(ForeignWindowWin, WindowsOfItsOwnerAndOurFollowerAreNoOthers) {

@@ -11,9 +11,10 @@ class FakeScreen : public os::Screen {
   int dpi() const override { return dotsPerInch; }
   std::vector<base::PixelRect> otherScreens() const override { return others; }
   bool showsAnimations() const override { return animations; }
-  base::Bitmap copyDesktop() const override {
+  base::Bitmap copyDesktop(const base::PixelRect& area) const override {
     ++desktopCopies;
-    return desktop.isEmpty() ? base::Bitmap(size, 0xFF204060) : desktop;
+    copied.push_back(area);
+    return desktop.isEmpty() ? base::Bitmap(area.size(), 0xFF204060) : desktop;
   }
 
   base::PixelSize size{1024, 768};
@@ -22,6 +23,7 @@ class FakeScreen : public os::Screen {
   base::Bitmap desktop;
   bool animations = true;
   mutable int desktopCopies = 0;
+  mutable std::vector<base::PixelRect> copied;
 };
 
 }  // namespace support

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <utility>
+#include <vector>
 
 #include "base/region.h"
 #include "base/text.h"
@@ -21,14 +22,37 @@ base::PixelRect Common(const forms::PictureBox& box, const base::Bitmap& source)
   return base::PixelRect::ofSize(source.size()).intersected(base::PixelRect::ofSize(box.pixelRect().size()));
 }
 
-// One picture on its way onto a box.
-class Canvas {
- public:
-  Canvas(const TransitionPlan& plan, forms::PictureBox& box, const base::SharedBitmap& source)
-      : plan_(plan), box_(box), source_(source), bounds_(Common(box, *source)) {}
+// An effect of which nobody would see a step.
+bool PaintsNothing(const TransitionPlan& plan, const base::PixelRect& bounds) {
+  const auto isUnseen = [&](int step) {
+    return std::ranges::all_of(plan.rectsOfStep(step), [&](const base::PixelRect& rect) {
+      return rect.intersected(bounds).isEmpty();
+    });
+  };
+  if (plan.stepCount == 0) return true;
+  if (plan.growth == Growth::Covering) return isUnseen(plan.stepCount - 1);
+  for (int step = 0; step < plan.stepCount; ++step) {
+    if (!isUnseen(step)) return false;
+  }
+  return true;
+}
 
-  // The step as it stands, every rectangle whole.
+}  // namespace
+
+// One picture on its way onto a box.
+class TransitionRunner::Canvas {
+ public:
+  explicit Canvas(const EffectOnBox& effect)
+      : plan_(effect.plan),
+        box_(*effect.box),
+        source_(effect.source),
+        bounds_(Common(*effect.box, *effect.source)) {}
+
+  int stepCount() const { return plan_.stepCount; }
+
+  // The step as it stands, every rectangle whole; nothing behind the last.
   void drawWhole(int step) {
+    if (step >= plan_.stepCount) return;
     addWhole(step);
     paint();
   }
@@ -79,23 +103,6 @@ class Canvas {
   std::vector<base::PixelRect> covered_;  // rectangles of the last of them
 };
 
-// An effect of which nobody would see a step.
-bool PaintsNothing(const TransitionPlan& plan, const base::PixelRect& bounds) {
-  const auto isUnseen = [&](int step) {
-    return std::ranges::all_of(plan.rectsOfStep(step), [&](const base::PixelRect& rect) {
-      return rect.intersected(bounds).isEmpty();
-    });
-  };
-  if (plan.stepCount == 0) return true;
-  if (plan.growth == Growth::Covering) return isUnseen(plan.stepCount - 1);
-  for (int step = 0; step < plan.stepCount; ++step) {
-    if (!isUnseen(step)) return false;
-  }
-  return true;
-}
-
-}  // namespace
-
 std::int64_t NextFrameMs(std::int64_t elapsedMs) {
   const std::int64_t frame = elapsedMs * kFramesPerSecond / 1000 + 1;
   return (frame * 1000 + kFramesPerSecond - 1) / kFramesPerSecond;
@@ -113,20 +120,28 @@ std::optional<int> ParseTransitionTime(std::string_view text) {
 TransitionRunner::TransitionRunner(const os::Clock& clock, os::EventLoop& loop, std::function<bool()> isOver)
     : clock_(clock), loop_(loop), isOver_(std::move(isOver)) {}
 
-bool TransitionRunner::run(const TransitionPlan& plan, forms::PictureBox& destination,
-                           const base::SharedBitmap& source, std::optional<int> transitionTimeMs) {
+bool TransitionRunner::run(std::span<const EffectOnBox> effects, std::optional<int> transitionTimeMs) {
   if (hasEnded()) return false;
-  if (PaintsNothing(plan, Common(destination, *source))) return true;
-  if (transitionTimeMs) return runPaced(plan, destination, source, *transitionTimeMs);
-  return runTight(plan, destination, source);
+  std::vector<Canvas> canvases;
+  for (const EffectOnBox& effect : effects) {
+    if (!PaintsNothing(effect.plan, Common(*effect.box, *effect.source))) canvases.emplace_back(effect);
+  }
+  if (canvases.empty()) return true;
+  return transitionTimeMs ? runPaced(canvases, *transitionTimeMs) : runTight(canvases);
 }
 
-bool TransitionRunner::runTight(const TransitionPlan& plan, forms::PictureBox& destination,
-                                const base::SharedBitmap& source) {
-  Canvas canvas(plan, destination, source);
+bool TransitionRunner::run(const TransitionPlan& plan, forms::PictureBox& destination,
+                           const base::SharedBitmap& source, std::optional<int> transitionTimeMs) {
+  const EffectOnBox effect{plan, &destination, source};
+  return run(std::span(&effect, 1), transitionTimeMs);
+}
+
+bool TransitionRunner::runTight(std::span<Canvas> canvases) {
+  int stepCount = 0;
+  for (const Canvas& canvas : canvases) stepCount = std::max(stepCount, canvas.stepCount());
   std::int64_t nextCheck = clock_.tickMs() + kEventCheckMs;
-  for (int step = 0; step < plan.stepCount; ++step) {
-    canvas.drawWhole(step);
+  for (int step = 0; step < stepCount; ++step) {
+    for (Canvas& canvas : canvases) canvas.drawWhole(step);
     if (clock_.tickMs() < nextCheck) continue;
     loop_.runPending();
     if (hasEnded()) return false;
@@ -137,19 +152,20 @@ bool TransitionRunner::runTight(const TransitionPlan& plan, forms::PictureBox& d
 
 // Every step has an equal share of the time, so the last one too is seen for its share before the effect
 // ends.
-bool TransitionRunner::runPaced(const TransitionPlan& plan, forms::PictureBox& destination,
-                                const base::SharedBitmap& source, int transitionTimeMs) {
-  Canvas canvas(plan, destination, source);
+bool TransitionRunner::runPaced(std::span<Canvas> canvases, int transitionTimeMs) {
   const std::int64_t start = clock_.tickMs();
   for (;;) {
     const std::int64_t elapsed = clock_.tickMs() - start;
     if (elapsed >= transitionTimeMs) break;
-    canvas.advanceTo(static_cast<int>(
-        std::min<std::int64_t>(plan.stepCount, elapsed * plan.stepCount / transitionTimeMs + 1)));
+    for (Canvas& canvas : canvases) {
+      const int steps = canvas.stepCount();
+      canvas.advanceTo(
+          static_cast<int>(std::min<std::int64_t>(steps, elapsed * steps / transitionTimeMs + 1)));
+    }
     const std::int64_t next = NextFrameMs(clock_.tickMs() - start);
     if (!waitUntil(start + std::min<std::int64_t>(next, transitionTimeMs))) return false;
   }
-  canvas.advanceTo(plan.stepCount);
+  for (Canvas& canvas : canvases) canvas.advanceTo(canvas.stepCount());
   return true;
 }
 

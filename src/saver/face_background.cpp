@@ -1,13 +1,13 @@
-// The background of the show: a colour, the desktop, the user's picture or a gradient.
+// The background of a screen of the show: a colour, the desktop, the user's picture or a gradient.
 #include "base/errors.h"
 #include "base/gradient.h"
 #include "base/number_text.h"
 #include "base/resample.h"
-#include "saver/form1.h"
+#include "saver/face.h"
 
 namespace saver {
 
-void Form1::DrawBackground() {
+void Face::DrawBackground() {
   // Whatever is wrong with the chosen background, the show goes on over the window's own.
   try {
     const std::optional<BackgroundKind> kind =
@@ -27,59 +27,59 @@ void Form1::DrawBackground() {
   }
 }
 
-base::SharedBitmap Form1::composeBackground(BackgroundKind kind) {
+base::SharedBitmap Face::composeBackground(BackgroundKind kind) {
   if (kind == BackgroundKind::CustomImage) return composeCustomImage();
   if (kind == BackgroundKind::Gradient) return composeGradient();
-  if (!desktop_ || desktop_->isEmpty() || desktop_->size() == screenSize_) return desktop_;
-  return std::make_shared<base::Bitmap>(base::Resample(*desktop_, screenSize_));
+  if (!desktop_ || desktop_->isEmpty() || desktop_->size() == screenSize()) return desktop_;
+  return std::make_shared<base::Bitmap>(base::Resample(*desktop_, screenSize()));
 }
 
-base::SharedBitmap Form1::composeGradient() {
+base::SharedBitmap Face::composeGradient() {
   // One unit a band from now on, for the pointer positions that the form reports too.
   setScaleHeight(base::kGradientBands);
   const settings::SettingsRecord& record = settings_.record;
   return std::make_shared<base::Bitmap>(
-      base::DrawGradient(screenSize_, {.red = base::StrictInt32(record.redBackground),
-                                       .green = base::StrictInt32(record.greenBackground),
-                                       .blue = base::StrictInt32(record.blueBackground)}));
+      base::DrawGradient(screenSize(), {.red = base::StrictInt32(record.redBackground),
+                                        .green = base::StrictInt32(record.greenBackground),
+                                        .blue = base::StrictInt32(record.blueBackground)}));
 }
 
-base::SharedBitmap Form1::composeCustomImage() {
+base::SharedBitmap Face::composeCustomImage() {
   const std::optional<ImageLayout> layout =
       ImageLayoutNumbered(base::StrictDouble(settings_.record.backgroundDisplay));
-  if (layout && loadsAhead_) {
+  if (layout && loadsAhead()) {
     wishBackground(*layout);
     return nullptr;
   }
-  const pictures::SharedPicture file = services_.pictures.open(settings_.record.backgroundImage);
+  const pictures::SharedPicture file = face_.pictures.open(settings_.record.backgroundImage);
   if (!layout || !file) return nullptr;
   PreBgrImage.setPicture(file);
   std::optional<base::Bitmap> composed =
-      ComposeImage(*file, *layout, screenSize_, twipsPerPixel(), base::OpaquePixel(backColor()));
+      ComposeImage(*file, *layout, screenSize(), twipsPerPixel(), base::OpaquePixel(backColor()));
   if (!composed) return nullptr;
   return std::make_shared<base::Bitmap>(std::move(*composed));
 }
 
 // The show begins over the window's own colour; the picture comes under it when it is ready.
-void Form1::wishBackground(ImageLayout layout) {
+void Face::wishBackground(ImageLayout layout) {
   dropBackgroundWish();
-  const auto compose = [layout, screen = screenSize_, perPixel = twipsPerPixel(),
+  const auto compose = [layout, screen = screenSize(), perPixel = twipsPerPixel(),
                         color = base::OpaquePixel(backColor())](const pictures::Picture& file) {
     std::optional<base::Bitmap> composed = ComposeImage(file, layout, screen, perPixel, color);
     return composed ? pictures::MakePicture(std::make_shared<base::Bitmap>(std::move(*composed))) : nullptr;
   };
   backgroundWish_ =
-      services_.ahead.wish({.path = settings_.record.backgroundImage, .box = screenSize_, .prepare = compose},
-                           [this](const pictures::SharedPicture& composed) {
-                             backgroundWish_.reset();
-                             if (isOver() || !composed) return;
-                             BgrImage.setPicture(composed);
-                             services_.stage.flush();
-                           });
+      face_.ahead.wish({.path = settings_.record.backgroundImage, .box = screenSize(), .prepare = compose},
+                       [this](const pictures::SharedPicture& composed) {
+                         backgroundWish_.reset();
+                         if (isOver_() || !composed) return;
+                         BgrImage.setPicture(composed);
+                         face_.stage.flush();
+                       });
 }
 
-void Form1::dropBackgroundWish() {
-  if (backgroundWish_) services_.ahead.drop(*backgroundWish_);
+void Face::dropBackgroundWish() {
+  if (backgroundWish_) face_.ahead.drop(*backgroundWish_);
   backgroundWish_.reset();
 }
 

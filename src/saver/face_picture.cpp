@@ -1,14 +1,14 @@
-// The picture of the show: loaded, scaled to the share of the screen that it may take, placed, floating.
+// The picture of a screen: loaded, scaled to the share of the screen that it may take, placed, floating.
 #include "base/number_text.h"
 #include "base/rounding.h"
 #include "base/twips.h"
-#include "saver/form1.h"
+#include "saver/face.h"
 #include "saver/picture_size.h"
 #include "saver/placement.h"
 
 namespace saver {
 
-std::optional<pictures::Wish> Form1::wishFor(std::int16_t number) const {
+std::optional<pictures::Wish> Face::wishFor(std::int16_t number) const {
   const auto index = static_cast<std::size_t>(number);
   if (number < 0 || index >= settings_.imageFiles.size() || settings_.imageFiles[index].empty()) {
     return std::nullopt;
@@ -27,32 +27,32 @@ std::optional<pictures::Wish> Form1::wishFor(std::int16_t number) const {
 }
 
 // Behind the last picture comes the first, as soon as its turn is there.
-void Form1::prepareNext() {
+void Face::prepareNext() {
+  if (!loadsAhead()) return;
   const bool isBehindLast = currentImageIndex_ > settings_.lastImageIndex;
   if (const auto wish = wishFor(isBehindLast ? std::int16_t{0} : currentImageIndex_)) next_.prepare(*wish);
 }
 
 // The old picture stands until the new one is there, or is known not to come.
-void Form1::awaitPicture() {
-  const auto wish = loadsAhead_ ? wishFor(currentImageIndex_) : std::nullopt;
-  if (wish) next_.wait(*wish, [this] { return isOver(); });
+void Face::awaitPicture() {
+  const auto wish = loadsAhead() ? wishFor(currentImageIndex_) : std::nullopt;
+  if (wish) next_.wait(*wish, isOver_);
 }
 
-void Form1::LoadCurrentPicture() {
-  order_.shown(currentImageIndex_);
+void Face::LoadCurrentPicture() {
   const auto wish = wishFor(currentImageIndex_);
   if (!wish) {
     loadedPicture_ = nullptr;
-  } else if (loadsAhead_) {
-    loadedPicture_ = next_.take(*wish, [this] { return isOver(); });
-    if (isOver()) return;
+  } else if (loadsAhead()) {
+    loadedPicture_ = next_.take(*wish, isOver_);
+    if (isOver_()) return;
   } else {
-    loadedPicture_ = services_.pictures.open(wish->path);
+    loadedPicture_ = face_.pictures.open(wish->path);
   }
   useLoadedPicture();
 }
 
-void Form1::useLoadedPicture() {
+void Face::useLoadedPicture() {
   loadReduction_ = 1;
   // None is passed over in silence: an empty picture of the box's present size, through which the background
   // shows.
@@ -63,7 +63,7 @@ void Form1::useLoadedPicture() {
       ReductionFor(limit, base::ToInt32(IntialPicture.width()), base::ToInt32(IntialPicture.height()));
 }
 
-void Form1::ScalePicture() {
+void Face::ScalePicture() {
   const PictureLimit limit = PictureLimit::of(width(), height(), settings_.pictureScale);
   const ShownSize shown = ScalePictureSize(limit, {.width = base::ToInt32(IntialPicture.width()),
                                                    .height = base::ToInt32(IntialPicture.height()),
@@ -82,7 +82,7 @@ void Form1::ScalePicture() {
   DisplayingPicture.setHeight(IntialPicture.height());
 }
 
-void Form1::PlacePicture() {
+void Face::PlacePicture() {
   const bool centred = !floats() || !pictureShown_;
   const Placement place =
       centred ? Centered(width(), height(), DisplayingPicture.width(), DisplayingPicture.height())
@@ -91,18 +91,17 @@ void Form1::PlacePicture() {
   DisplayingPicture.move(place.left, place.top, DisplayingPicture.width(), DisplayingPicture.height());
 }
 
-void Form1::PickFloatDirection() {
-  // A box that has never held a picture has no inner width to tell the size of a pixel by.
-  const bool empty = DisplayingPicture.scaleWidth() == 0;
-  const float boxWidth = empty ? static_cast<float>(twipsPerPixel()) : DisplayingPicture.width();
-  floatStep_ = saver::PickFloatDirection(boxWidth, empty ? 1 : DisplayingPicture.scaleWidth(),
-                                         os::SecondsSinceMidnight(services_.clock.now()), random_);
+void Face::refitPicture() {
+  clearBoxes();
+  DisplayingPicture.setVisible(false);
+  useLoadedPicture();
+  ScalePicture();
+  PlacePicture();
+  DisplayingPicture.setVisible(true);
+  DisplayingPicture.setPicture(IntialPicture.picture());
 }
 
-void Form1::FloatTimer_Timer() {
-  // A tick in a wait of a change must not move the picture that is being drawn.
-  if (change_ != ChangeState::None) return;
-  reseed();
+void Face::moveFloating() {
   FloatingBox box{.left = DisplayingPicture.left(),
                   .top = DisplayingPicture.top(),
                   .width = DisplayingPicture.width(),
