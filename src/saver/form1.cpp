@@ -112,6 +112,7 @@ void Form1::PrepareDisplay() {
   for (Face* face : faces()) face->prepareFace();
   isPrepared_ = true;
   timeDisplay_.prepare();
+  moveClock(base::PixelRect::ofSize(screenSize()));
   StartSaver.setInterval(kStartDelayMs);
   StartSaver.setEnabled(true);
   if (loadsAhead()) chooseFirst();  // made ready while the background stands alone

@@ -147,6 +147,7 @@ class Form1 : public Face {
   base::PixelRect areaToCover() const;
   void coverScreen();
   void keepWordsOnPrimary();
+  void moveClock(const base::PixelRect& from);
   void startPictureCycle();
   void setFloatInterval();
   void chooseFirst();

@@ -29,6 +29,12 @@ void Form1::keepWordsOnPrimary() {
   stage().keepTextsIn(part);
 }
 
+// Into the corner of the primary screen, from that of another part of the window.
+void Form1::moveClock(const base::PixelRect& from) {
+  timeDisplay_.cornerMoved(static_cast<float>((part_.right() - from.right()) * twipsPerPixel()),
+                           static_cast<float>((part_.bottom() - from.bottom()) * twipsPerPixel()));
+}
+
 std::vector<Face*> Form1::faces() {
   std::vector<Face*> all{this};
   for (const Further& further : further_) all.push_back(further.face.get());
@@ -43,8 +49,7 @@ void Form1::ScreenChanged() {
   coverScreen();
   part_ = primaryPart();
   if (screenSize() != areaBefore.size() || part_ != partBefore) {
-    timeDisplay_.cornerMoved(static_cast<float>((part_.right() - partBefore.right()) * twipsPerPixel()),
-                             static_cast<float>((part_.bottom() - partBefore.bottom()) * twipsPerPixel()));
+    moveClock(partBefore);
     layOutFace(*this);
   }
   services_.stage.flush();

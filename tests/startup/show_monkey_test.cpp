@@ -49,8 +49,19 @@ class MonkeyShow {
     drawSettings();
     stage_.writeSettings();
     const saver::ShowServices s = stage_.services();
-    show_.emplace(saver::ShowServices{s.files, s.ansi, s.pictures, s.ahead, s.clock, s.loop, s.screen,
-                                      restore_, s.dates, s.stage, s.window},
+    show_.emplace(saver::ShowServices{s.files,
+                                      s.ansi,
+                                      s.pictures,
+                                      s.ahead,
+                                      s.clock,
+                                      s.loop,
+                                      s.screen,
+                                      restore_,
+                                      s.dates,
+                                      s.stage,
+                                      s.window,
+                                      {},
+                                      s.makeStage},
                   startup::SaverExit::Services{machine_.passwords, restore_, stage_.screen}, restore_, facts_,
                   support::ShowStage::programFolder(), [] {
                     return std::make_unique<support::FakeStageWindow>(base::PixelSize{1, 1});
@@ -120,7 +131,8 @@ class MonkeyShow {
     stage_.set("background/backgroundImage", "C:\\back.jpg");
     stage_.pictures.add("C:\\back.jpg", DrawSize(random_, 40), base::Rgb(9, 9, 90));
     for (const char* effect : kEffects) choose((std::string("transitions/") + effect).c_str(), kFlag);
-    if (Draw(random_, 0, 1) == 0) stage_.set("extras/otherScreens", "black");
+    static constexpr const char* kOthers[] = {"", "black", "same", "different", "span"};
+    choose("extras/otherScreens", kOthers);
     if (Draw(random_, 0, 19) == 0) spoil();
   }
 
@@ -130,6 +142,20 @@ class MonkeyShow {
                                             "background/newBackColor"};
     stage_.set(OneOf(random_, kKeys), "soon");
     settingsAreGood_ = false;
+  }
+
+  // Beside each other to the right, or left of the primary screen.
+  void drawOtherScreens() {
+    std::vector<base::PixelRect>& others = stage_.screen.others;
+    others.resize(static_cast<std::size_t>(Draw(random_, 0, 3)));
+    int right = kMostScreen;
+    for (base::PixelRect& other : others) {
+      if (!other.isEmpty() && Draw(random_, 0, 2) != 0) continue;
+      const base::PixelSize size = DrawSize(random_, kMostScreen);
+      const int left = Draw(random_, 0, 3) == 0 ? -size.width : right;
+      other = {left, Draw(random_, -20, 20), size.width, size.height};
+      right += kMostScreen;
+    }
   }
 
   // One thing that a user or a system does.
@@ -142,7 +168,7 @@ class MonkeyShow {
         stage_.window.onScreenChanged();
         break;
       case 1:
-        stage_.screen.others.resize(static_cast<std::size_t>(Draw(random_, 0, 3)), {64, 0, 8, 8});
+        drawOtherScreens();
         stage_.window.onScreenChanged();
         break;
       case 2:
@@ -230,7 +256,7 @@ class MonkeyShow {
     checkCaption();
     checkClock();
     if (form().DisplayingPicture.visible()) checkPicture();
-    EXPECT_EQ(stage_.window.covered, base::PixelRect::ofSize(form().screenSize()));
+    EXPECT_EQ(stage_.window.covered, form().area());
     EXPECT_GE(form().currentImageIndex(), -1);
     EXPECT_LE(form().currentImageIndex(), lastIndex_ + 1);
   }
@@ -282,25 +308,30 @@ class MonkeyShow {
   // The caption is hidden while a change is under way, and is the shown picture's otherwise.
   void checkCaption() {
     const forms::Label& caption = form().Label1;
-    EXPECT_FLOAT_EQ(caption.top(), 0);
+    const base::PixelRect part = form().primaryPart();
+    const auto perPixel = static_cast<float>(form().twipsPerPixel());
+    EXPECT_FLOAT_EQ(caption.top(), static_cast<float>(part.top) * perPixel);
     if (!settingsAreGood_) return;
     if (!caption.visible()) return;
     EXPECT_TRUE(form().pictureShown());
     EXPECT_FALSE(changing()) << "a caption over a change";
-    const float screen = form().width();
+    const float left = static_cast<float>(part.left) * perPixel;
+    const float width = static_cast<float>(part.width) * perPixel;
     if (number(record().scroll) != 0) {
-      EXPECT_FLOAT_EQ(caption.left(), saver::CenteredEdge(screen, caption.width()));
+      EXPECT_FLOAT_EQ(caption.left(), left + saver::CenteredEdge(width, caption.width()));
     } else if (number(record().scrollSpeed) >= 0) {
-      EXPECT_LE(caption.left(), screen);
-      EXPECT_GE(caption.left() + caption.width(), 0);
+      EXPECT_LE(caption.left(), left + width);
+      EXPECT_GE(caption.left() + caption.width(), left);
     }
   }
 
   // The clock's last letter stands in the corner or left of it; the clock may be wider than a small screen.
   void checkClock() {
     if (!form().time.visible()) return;
-    EXPECT_LE(form().time.left() + form().time.width(), form().width() + 0.5F);
-    EXPECT_NEAR(form().time.top() + form().time.height(), form().height(), 0.5F);
+    const base::PixelRect part = form().primaryPart();
+    const auto perPixel = static_cast<float>(form().twipsPerPixel());
+    EXPECT_LE(form().time.left() + form().time.width(), static_cast<float>(part.right()) * perPixel + 0.5F);
+    EXPECT_NEAR(form().time.top() + form().time.height(), static_cast<float>(part.bottom()) * perPixel, 0.5F);
   }
 
   void checkPicture() {

@@ -36,7 +36,21 @@ class ShowStage {
 
   // What a show on this machine runs on.
   saver::ShowServices services() {
-    return {files, ansi, pictures, ahead, clock, loop, screen, desktop, dates, stage, window, library};
+    return {files,
+            ansi,
+            pictures,
+            ahead,
+            clock,
+            loop,
+            screen,
+            desktop,
+            dates,
+            stage,
+            window,
+            library,
+            [this](saver::StageWindow& other) {
+              return std::make_unique<saver::Stage>(other, text, stage.twipsPerPixel());
+            }};
   }
   static const char* programFolder();
 
