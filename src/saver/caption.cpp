@@ -39,6 +39,12 @@ base::Font FontOf(const settings::SettingsRecord& record, base::Font font) {
 Caption::Caption(forms::Label& label, const settings::SaverSettings& settings)
     : label_(label), settings_(settings) {}
 
+void Caption::setRoom(const CaptionRoom& room) {
+  label_.setLeft(label_.left() + room.left - this->room().left);  // it goes along
+  label_.setTop(room.top);
+  room_ = room;
+}
+
 void Caption::prepare() {
   label_.setFont(FontOf(settings_.record, label_.font()));
   label_.setForeColor(base::StrictInt32(settings_.record.newFontForeColor));
@@ -76,7 +82,6 @@ void Caption::ScrollerTimer_Timer() {
 
 void Caption::screenChanged() {
   const CaptionRoom room = this->room();
-  label_.setTop(room.top);
   label_.setLeft(scrolls() ? std::min(label_.left(), room.left + room.width)
                            : room.left + CenteredEdge(room.width, label_.width()));
 }

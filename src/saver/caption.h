@@ -24,7 +24,7 @@ class Caption {
   Caption(forms::Label& label, const settings::SaverSettings& settings);
 
   // The part of the form, in twips, in which the caption stands and scrolls; all of it where no other is set.
-  void setRoom(const CaptionRoom& room) { room_ = room; }
+  void setRoom(const CaptionRoom& room);
 
   // Gives the label its font and colour, and measures the band. Throws base::RunTimeError for a colour that
   // is no number.

@@ -99,7 +99,6 @@ void Form1::Form_Load() {
   keepsDesktop_ = base::LeadingNumber(background) == static_cast<int>(BackgroundKind::Desktop);
   if (keepsDesktop_) keepDesktop(areaToCover());
   coverScreen();
-  part_ = primaryPart();
   if (facts_.guardsPassword()) services_.desktop.setScreenSaverRunning(true);
   settings::LoadSettings(settings_, document);
   if (onSettingsLoaded) onSettingsLoaded();

@@ -107,8 +107,8 @@ class Form1 : public Face {
 
   const settings::SaverSettings& settings() const { return settings_; }
 
-  // The primary screen's part of the window, in its pixels.
-  base::PixelRect primaryPart() const;
+  // The primary screen's part of the window, in its pixels, as everything was laid out last.
+  const base::PixelRect& primaryPart() const { return part_; }
 
   // The procedures of the show, in the order in which a run meets them. Those of the timers of caption and
   // clock are with them.
@@ -179,7 +179,7 @@ class Form1 : public Face {
   forms::Timer rememberTimer_;  // in case that the show is not asked when it ends
   TimeDisplay timeDisplay_{time, timeTimer, settings_, services_.clock, services_.dates};
   base::Random random_;
-  base::PixelRect part_;  // the primary screen's, when everything was laid out last
+  base::PixelRect part_;
   OtherScreens otherScreens_ = OtherScreens::Nothing;
   bool keepsDesktop_ = false;
   std::vector<Further> further_;

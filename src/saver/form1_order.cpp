@@ -37,8 +37,8 @@ void Form1::AdvancePictureIndex() {
     setNext(drawIndex());
   } else {
     // Where each screen has a picture of its own, a change has taken as many as there are screens.
-    const bool several =
-        otherScreens_ == OtherScreens::Different && !further_.empty() && currentImageIndex() >= 0;
+    const bool several = otherScreens_ == OtherScreens::Different && !further_.empty() &&
+                         currentImageIndex() >= 0 && settings_.lastImageIndex >= 0;
     const std::int16_t last = several ? further_.back().face->currentImageIndex() : currentImageIndex();
     setNext(base::ToInt16(last + 1));
   }

@@ -12,21 +12,17 @@ base::PixelRect Form1::areaToCover() const {
   return area;
 }
 
-base::PixelRect Form1::primaryPart() const {
-  return base::PixelRect::ofSize(services_.screen.primarySize()).movedBy(-area().left, -area().top);
-}
-
 void Form1::coverScreen() {
   cover(areaToCover());
+  part_ = base::PixelRect::ofSize(services_.screen.primarySize()).movedBy(-area().left, -area().top);
   if (spans()) keepWordsOnPrimary();
 }
 
 // A caption or a clock across the frames of two screens cannot be read.
 void Form1::keepWordsOnPrimary() {
-  const base::PixelRect part = primaryPart();
   const auto twips = [this](int pixels) { return static_cast<float>(pixels * twipsPerPixel()); };
-  caption().setRoom({.left = twips(part.left), .top = twips(part.top), .width = twips(part.width)});
-  stage().keepTextsIn(part);
+  caption().setRoom({.left = twips(part_.left), .top = twips(part_.top), .width = twips(part_.width)});
+  stage().keepTextsIn(part_);
 }
 
 // Into the corner of the primary screen, from that of another part of the window.
@@ -47,7 +43,6 @@ void Form1::ScreenChanged() {
   const base::PixelRect areaBefore = area();
   const base::PixelRect partBefore = part_;
   coverScreen();
-  part_ = primaryPart();
   if (screenSize() != areaBefore.size() || part_ != partBefore) {
     moveClock(partBefore);
     layOutFace(*this);
