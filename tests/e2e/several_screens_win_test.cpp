@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -210,6 +211,90 @@ TEST_F(SeveralScreens, AScreenThatIsUnpluggedTakesItsCoverAlongAndBringsItBack) 
     EXPECT_TRUE(e2e::WaitFor([&] { return Shows(other, kBlack); })) << other.left << ", " << other.top;
   }
   EXPECT_TRUE(show.endsByKey());
+}
+
+base::Pixel Middle(const base::PixelRect& screen) {
+  return e2e::ScreenPixel(screen.left + screen.width / 2, screen.top + screen.height / 2);
+}
+
+// How many pixels of a screen's middle row have a colour, looked at in steps of four.
+int Columns(const base::PixelRect& screen, base::Pixel color) {
+  int found = 0;
+  for (int x = 0; x < screen.width; x += 4) {
+    if (e2e::ScreenPixel(screen.left + x, screen.top + screen.height / 2) == color) found += 4;
+  }
+  return found;
+}
+
+// Four pictures of plain colours, larger than any screen; half of each screen's width is for them.
+class PicturesOnSeveralScreens : public SeveralScreens {
+ protected:
+  void startShowing(const char* otherScreens) {
+    for (const base::PackedColor color : colors) folder.addPicture({2400, 1200}, color, "a caption");
+    folder.set("image/picturePercent", "50");
+    folder.set("extras/otherScreens", otherScreens);
+    folder.set("extras/loadAhead", "1");
+    folder.writeSettings();
+    show.emplace(folder.program(), L"/S");
+    ASSERT_TRUE(show->waitForShow());
+  }
+
+  static base::Pixel pixel(std::size_t picture) { return base::OpaquePixel(colors[picture % 4]); }
+
+  static constexpr base::PackedColor colors[] = {base::Rgb(250, 0, 0), base::Rgb(0, 250, 0),
+                                                 base::Rgb(0, 0, 250), base::Rgb(250, 250, 0)};
+  std::optional<e2e::RunningProgram> show;
+};
+
+TEST_F(PicturesOnSeveralScreens, TheSameOneIsSizedForEach) {
+  startShowing("same");
+  std::vector<base::PixelRect> all = screens.others;
+  all.push_back(screens.primary);
+  EXPECT_TRUE(e2e::WaitFor([&] {
+    return std::ranges::all_of(all, [](const base::PixelRect& screen) { return Middle(screen) == pixel(0); });
+  }));
+  for (const base::PixelRect& screen : all) EXPECT_NEAR(Columns(screen, pixel(0)), screen.width / 2, 8);
+  EXPECT_TRUE(e2e::WaitFor([&] {
+    return std::ranges::all_of(all, [](const base::PixelRect& screen) { return Middle(screen) == pixel(1); });
+  })) << "all of them change";
+  EXPECT_TRUE(show->endsByKey());
+}
+
+TEST_F(PicturesOnSeveralScreens, ThreeChangeToTheNextThree) {
+  startShowing("different");
+  const auto shows = [&](std::size_t first) {
+    return Middle(screens.primary) == pixel(first) && Middle(screens.others[0]) == pixel(first + 1) &&
+           Middle(screens.others[1]) == pixel(first + 2);
+  };
+  EXPECT_TRUE(e2e::WaitFor([&] { return shows(0); }));
+  EXPECT_TRUE(e2e::WaitFor([&] { return shows(3); }));
+  EXPECT_TRUE(show->endsByKey());
+}
+
+TEST_F(PicturesOnSeveralScreens, OneSpansAllOfThem) {
+  startShowing("span");
+  base::PixelRect whole = screens.primary;
+  for (const base::PixelRect& other : screens.others) whole = whole.united(other);
+  EXPECT_EQ(PlacesOf(*show), std::vector{whole});
+  EXPECT_TRUE(e2e::WaitFor([&] { return Middle(whole) == pixel(0); }));
+  EXPECT_TRUE(show->endsByKey());
+}
+
+TEST_F(PicturesOnSeveralScreens, AScreenThatIsUnpluggedLeavesTheOthersTheirPictures) {
+  folder.set("image/timeInterval", "30");
+  startShowing("different");
+  ASSERT_TRUE(e2e::WaitFor([&] { return Middle(screens.others[1]) == pixel(2); }));
+  ASSERT_TRUE(StartNamedBy(L"LUMORA_UNPLUG"));
+  ASSERT_TRUE(e2e::WaitFor([&] { return FindScreens().others.size() == 1; }));
+  TellOfTheChange();
+  EXPECT_TRUE(e2e::WaitFor([&] { return PlacesOf(*show).size() == 2; }));
+  EXPECT_EQ(Middle(screens.primary), pixel(0));
+  EXPECT_EQ(Middle(FindScreens().others.front()), pixel(1));
+  ASSERT_TRUE(StartNamedBy(L"LUMORA_PLUG"));
+  ASSERT_TRUE(e2e::WaitFor([&] { return FindScreens().others.size() == 2; }));
+  TellOfTheChange();
+  EXPECT_TRUE(e2e::WaitFor([&] { return PlacesOf(*show).size() == 3; }));
+  EXPECT_TRUE(show->endsByKey());
 }
 
 }  // namespace
