@@ -52,6 +52,7 @@ Form1::Form1(const ShowServices& services, const os::SystemFacts& facts, std::st
   time.setFont({.name = "MS Sans Serif", .sizePoints = 13.5F});
   time.setAutoSize(true);
   wireTimers();
+  shapes_.onNews = [this] { dealAgainWhereItMisfits(); };
   showOnStage({&time});
 }
 
@@ -86,6 +87,7 @@ void Form1::unload() {
     timer->setEnabled(false);
   }
   for (Face* face : faces()) face->endFace();
+  shapes_.forget();
 }
 
 void Form1::Form_Load() {

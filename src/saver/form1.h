@@ -24,7 +24,9 @@
 #include "pictures/picture.h"
 #include "saver/face.h"
 #include "saver/picture_order.h"
+#include "saver/picture_shapes.h"
 #include "saver/time_display.h"
+#include "saver/upcoming_pictures.h"
 #include "settings/load_settings.h"
 
 namespace saver {
@@ -130,6 +132,7 @@ class Form1 : public Face {
   class ChangeScope;
 
   static constexpr std::size_t kWishesOfAFace = 2;  // a picture and a background
+  static constexpr std::size_t kWishesForShapes = 1;
 
   // A face on a further screen.
   struct Further {
@@ -152,6 +155,14 @@ class Form1 : public Face {
   void setFloatInterval();
   void chooseFirst();
   void chooseForFurther();
+  bool matchesShapes() const;
+  std::string pathOf(std::int16_t index) const;
+  void startDealing(std::optional<std::int16_t> first);
+  void dealByShape();
+  void dealTo(Face& face);
+  void findOutShapes();
+  void dealAgainWhereItMisfits();
+  bool fits(std::int16_t index, const Face& face);
   std::int16_t nextBehind(std::int16_t index);
   bool isDrawn() const;
   std::int16_t drawIndex();
@@ -181,6 +192,8 @@ class Form1 : public Face {
   base::Random random_;
   base::PixelRect part_;
   OtherScreens otherScreens_ = OtherScreens::Nothing;
+  PictureShapes shapes_{services_.pictures, services_.ahead};
+  UpcomingPictures upcoming_;
   bool keepsDesktop_ = false;
   std::vector<Further> further_;
   std::vector<Face*> changing_;  // the faces of the change that is under way

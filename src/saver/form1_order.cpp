@@ -1,5 +1,6 @@
 // Which picture the show comes to next.
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "base/errors.h"
@@ -20,6 +21,10 @@ void Form1::chooseFirst() {
   reseed();
   setNext(-1);
   const auto first = order_.first([this] { return drawSeed(); });
+  if (matchesShapes()) {
+    startDealing(first);
+    return;
+  }
   if (!first) {
     AdvancePictureIndex();
     return;
@@ -31,6 +36,10 @@ void Form1::chooseFirst() {
 
 void Form1::AdvancePictureIndex() {
   reseed();
+  if (matchesShapes()) {
+    dealByShape();
+    return;
+  }
   if (const auto next = order_.next([this] { return drawSeed(); })) {
     setNext(*next);
   } else if (isDrawn()) {
@@ -79,6 +88,65 @@ std::int16_t Form1::nextBehind(std::int16_t index) {
   return isDrawn() ? drawIndex() : static_cast<std::int16_t>((index + 1) % (settings_.lastImageIndex + 1));
 }
 
+bool Form1::matchesShapes() const {
+  return settings_.record.matchOrientation == "1" && otherScreens_ == OtherScreens::Different &&
+         !further_.empty() && settings_.lastImageIndex >= 0;
+}
+
+void Form1::startDealing(std::optional<std::int16_t> first) {
+  upcoming_.startWith(first ? *first : isDrawn() ? drawIndex() : std::int16_t{0});
+  dealByShape();
+}
+
+// A picture of the shape of its screen for each, the primary one first.
+void Form1::dealByShape() {
+  if (upcoming_.isEmpty()) upcoming_.startWith(nextBehind(std::max(currentImageIndex(), std::int16_t{0})));
+  for (Face* face : faces()) face->setNext(-1);
+  for (Face* face : faces()) dealTo(*face);
+  prepareAll();
+  findOutShapes();
+}
+
+void Form1::dealTo(Face& face) {
+  std::vector<std::int16_t> taken;
+  for (const Face* other : faces()) {
+    if (other != &face) taken.push_back(other->currentImageIndex());
+  }
+  face.setNext(upcoming_.take([&](std::int16_t index) { return fits(index, face); }, taken,
+                              [this](std::int16_t behind) { return nextBehind(behind); }));
+}
+
+void Form1::findOutShapes() {
+  if (!loadsAhead()) return;
+  std::vector<std::string> paths;
+  for (const Face* face : faces()) paths.push_back(pathOf(face->currentImageIndex()));
+  for (const std::int16_t index : upcoming_.inSight()) paths.push_back(pathOf(index));
+  shapes_.findOut(std::move(paths));
+}
+
+// What is not known yet fits until it is known.
+bool Form1::fits(std::int16_t index, const Face& face) {
+  const std::string path = pathOf(index);
+  const Shape shape = loadsAhead() ? shapes_.known(path).value_or(Shape::Neither) : shapes_.read(path);
+  return shape == Shape::Neither || shape == ShapeOf(face.screenSize());
+}
+
+// Between two changes nothing of what was dealt has been seen yet.
+void Form1::dealAgainWhereItMisfits() {
+  if (isOver() || change_ != ChangeState::None || !matchesShapes()) return;
+  const std::vector<Face*> all = faces();
+  if (std::ranges::all_of(all, [this](Face* face) { return fits(face->currentImageIndex(), *face); })) return;
+  std::vector<std::int16_t> dealt;
+  for (const Face* face : all) dealt.push_back(face->currentImageIndex());
+  upcoming_.putBack(dealt);
+  dealByShape();
+}
+
+std::string Form1::pathOf(std::int16_t index) const {
+  const auto at = static_cast<std::size_t>(index);
+  return at < settings_.imageFiles.size() ? settings_.imageFiles[at] : std::string();
+}
+
 void Form1::prepareAll() {
   for (Face* face : faces()) face->prepareNext();
 }
@@ -86,6 +154,7 @@ void Form1::prepareAll() {
 // A change that is under way knows its picture by the list as it was, so the news waits for its end.
 void Form1::takeNews() {
   if (change_ != ChangeState::None || !order_.takeNews()) return;
+  upcoming_ = {};
   if (!pictureShown()) {
     if (loadsAhead()) chooseFirst();
   } else if (isDrawn()) {

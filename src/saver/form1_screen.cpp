@@ -77,7 +77,7 @@ void Form1::setFurtherScreens(std::span<const FurtherScreen> screens) {
     gone_.push_back(std::move(one));
   }
   further_.erase(gone.begin(), gone.end());
-  services_.ahead.allowWishes(kWishesOfAFace * (1 + screens.size()));
+  services_.ahead.allowWishes(kWishesOfAFace * (1 + screens.size()) + kWishesForShapes);
   for (const FurtherScreen& screen : screens) {
     const auto found = std::ranges::find(further_, screen.window, &Further::window);
     if (found == further_.end()) {
@@ -107,7 +107,11 @@ void Form1::addFurther(const FurtherScreen& screen) {
   face.prepareFace();
   face.stage().flush();
   if (change_ != ChangeState::None) return;
-  chooseForFurther();
+  if (matchesShapes()) {
+    dealTo(face);
+  } else {
+    chooseForFurther();
+  }
   face.prepareNext();
 }
 

@@ -28,8 +28,8 @@ struct SettingsRecord {
   // [date]
   std::string countdownMonth, countdownDay, countdownYear;
   // [extras]: settings beyond the documented file; each is empty when absent
-  std::string transitionTime, fit, surround, change, panZoom, otherScreens, livePreview, log, loadAhead,
-      shuffle, resume, subfolders;
+  std::string transitionTime, fit, surround, change, panZoom, otherScreens, matchOrientation, livePreview,
+      log, loadAhead, shuffle, resume, subfolders;
 };
 
 // A setting's text in the record.
@@ -96,6 +96,7 @@ inline constexpr auto kExtraKeys = std::to_array<Key>({
     {"extras", "change", &SettingsRecord::change, ""},
     {"extras", "panZoom", &SettingsRecord::panZoom, ""},
     {"extras", "otherScreens", &SettingsRecord::otherScreens, ""},
+    {"extras", "matchOrientation", &SettingsRecord::matchOrientation, ""},
     {"extras", "livePreview", &SettingsRecord::livePreview, ""},
     {"extras", "log", &SettingsRecord::log, ""},
     {"extras", "loadAhead", &SettingsRecord::loadAhead, ""},

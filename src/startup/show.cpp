@@ -92,7 +92,13 @@ void Show::watchInput() {
 void Show::coverOtherScreens() {
   const saver::OtherScreens kind = saver::OtherScreensNamed(form_.settings().record.otherScreens);
   if (kind == saver::OtherScreens::Nothing || kind == saver::OtherScreens::Span) return;
-  matchCovers(services_.screen.otherScreens());
+  std::vector<base::PixelRect> areas;
+  for (const base::PixelRect& area : services_.screen.otherScreens()) {
+    // Screens that mirror each other have one place, and one show.
+    const bool isMirror = area == form_.area() || std::ranges::find(areas, area) != areas.end();
+    if (!isMirror) areas.push_back(area);
+  }
+  matchCovers(std::move(areas));
   if (kind == saver::OtherScreens::Black || form_.isOver()) {
     for (const auto& cover : covers_) cover->window->cover(cover->area);
     return;

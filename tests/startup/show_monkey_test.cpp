@@ -133,6 +133,7 @@ class MonkeyShow {
     for (const char* effect : kEffects) choose((std::string("transitions/") + effect).c_str(), kFlag);
     static constexpr const char* kOthers[] = {"", "black", "same", "different", "span"};
     choose("extras/otherScreens", kOthers);
+    choose("extras/matchOrientation", kFlag);
     if (Draw(random_, 0, 19) == 0) spoil();
   }
 
