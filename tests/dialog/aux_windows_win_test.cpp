@@ -112,8 +112,7 @@ TEST_F(AuxWindows, TheViewerGoesWithTheDialog) {
 }
 
 TEST_F(AuxWindows, AFolderIsImportedByTheDefaultButton) {
-  machine.files.pictures = "C:\\photos";
-  machine.files.listed["C:\\photos"] = {"b.jpg", "a.gif", "notes.txt"};
+  machine.files.listed["C:\\"] = {"b.jpg", "a.gif", "notes.txt"};  // where the list's picture is
   open({400, 300});
   bool usable = true;
   // Runs inside the import's own loop.
@@ -125,7 +124,7 @@ TEST_F(AuxWindows, AFolderIsImportedByTheDefaultButton) {
   });
   const forms::ListBox& list = dialog->form().List1;
   for (const char* name : {"b.jpg", "a.gif"}) {
-    machine.pictures.add(std::string("C:\\photos\\") + name, {4, 3}, base::kBlack);
+    machine.pictures.add(std::string("C:\\") + name, {4, 3}, base::kBlack);
   }
   dialog->click(dialog->form().FolderCommand);
   EXPECT_TRUE(dialog->waitFor([&] { return list.listCount() == 3; }));
