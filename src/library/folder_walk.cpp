@@ -37,8 +37,10 @@ void FolderWalk::read(const std::string& below) {
   auto entries = reader_.read(root_ + below);
   if (!entries) {
     if (below.empty()) away_ = true;
+    ++foldersPassedOver_;
     return;
   }
+  ++foldersRead_;
   std::vector<std::string> files;
   std::vector<std::string> folders;
   std::vector<std::string> links;

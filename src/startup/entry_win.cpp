@@ -31,6 +31,7 @@
 #include "startup/main.h"
 #include "startup/preview.h"
 #include "startup/show.h"
+#include "startup/workers_win.h"
 
 namespace {
 
@@ -110,7 +111,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
           [&] {
             settings = std::make_unique<dialog::SettingsDialogWin>(
                 dialog::DialogMachineWin{machine.loop, machine.savedFiles, machine.ansi, machine.pictures,
-                                         machine.ahead.get()},
+                                         machine.ahead.get(), startup::MakeWorkers(machine.loop)},
                 machine.programFolder);
           },
       .drawPreview = [&](const std::string& text) { DrawPreview(machine, text); }};
