@@ -105,11 +105,22 @@ std::int16_t PictureOrder::nextInList() const {
 
 void PictureOrder::shown(std::int16_t index) {
   if (index < 0 || index > settings_.lastImageIndex) return;
+  const std::lock_guard lock(stateMutex_);
   state_.position = {.roundSeed = dealtRound_, .lastPath = paths()[static_cast<std::size_t>(index)]};
   state_.lastIndex = static_cast<std::uint32_t>(index);
 }
 
 void PictureOrder::save() noexcept {
+  const std::lock_guard lock(stateMutex_);
+  write();
+}
+
+void PictureOrder::saveAfterCrash() noexcept {
+  const std::unique_lock lock(stateMutex_, std::try_to_lock);
+  if (lock) write();
+}
+
+void PictureOrder::write() noexcept {
   if (!resumes_ || state_.position.lastPath.empty()) return;
   try {
     stateFile_.save(library::PayloadOf(state_));

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <set>
+#include <thread>
 
 #include "base/errors.h"
 #include "support/show_stage.h"
@@ -161,6 +162,35 @@ TEST_F(Form1OrderTest, AnErrorIsAnEndTooThatIsRemembered) {
   next(5, {{"extras/resume", "1"}});
   run(1);
   EXPECT_EQ(shown().front(), Own(5)[2]);
+}
+
+TEST_F(Form1OrderTest, ACrashOnAnyThreadIsAnEndTooThatIsRemembered) {
+  next(5, {{"extras/resume", "1"}});
+  run(2);
+  std::thread([this] { show->form->rememberAfterCrash(); }).join();
+  EXPECT_EQ(kept().position.lastPath, Own(5)[1]);
+  next(5, {{"extras/resume", "1"}});
+  run(1);
+  EXPECT_EQ(shown().front(), Own(5)[2]);
+}
+
+TEST_F(Form1OrderTest, ACrashInTheMiddleOfRememberingLeavesWhatWasRemembered) {
+  next(5, {{"extras/resume", "1"}});
+  run(2);
+  int writes = 0;
+  show->files.onReplace = [&] {
+    if (++writes == 1) std::thread([this] { show->form->rememberAfterCrash(); }).join();
+  };
+  end();
+  EXPECT_EQ(writes, 1) << "nobody waits for a thread that has crashed";
+  EXPECT_EQ(kept().position.lastPath, Own(5)[1]);
+}
+
+TEST_F(Form1OrderTest, AShowThatIsNotToGoOnRemembersNothingOfItsCrash) {
+  next(3, deck);
+  run(3);
+  show->form->rememberAfterCrash();
+  EXPECT_TRUE(show->files.writes.empty());
 }
 
 TEST_F(Form1OrderTest, WhereTheProgramsFolderCannotBeWrittenTheUsersOwnRemembers) {
