@@ -66,18 +66,18 @@ bool PictureOrder::isDeck() const {
 
 bool PictureOrder::takeNews() {
   if (!follower_) return false;
-  const auto followed = follower_->news();
+  auto followed = follower_->news();
   if (!followed) return false;
-  putBehindOwn(*followed);
+  putBehindOwn(std::move(*followed));
   return true;
 }
 
-// The last entry of both lists stays empty.
-void PictureOrder::putBehindOwn(const std::vector<std::string>& followed) {
+// The last entry of both lists stays empty. A frame may be due, so no path is copied.
+void PictureOrder::putBehindOwn(std::vector<std::string> followed) {
   paths().resize(ownCount_);
   paths().reserve(ownCount_ + followed.size() + 1);
-  for (const std::string& path : followed) {
-    if (!hidden_.contains(library::PathHash(path))) paths().push_back(path);
+  for (std::string& path : followed) {
+    if (hidden_.empty() || !hidden_.contains(library::PathHash(path))) paths().push_back(std::move(path));
   }
   settings_.lastImageIndex = static_cast<std::int16_t>(paths().size() - 1);
   paths().emplace_back();

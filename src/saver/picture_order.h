@@ -74,7 +74,7 @@ class PictureOrder {
   void readState();
   void write() noexcept;
   void leaveOutHidden();
-  void putBehindOwn(const std::vector<std::string>& followed);
+  void putBehindOwn(std::vector<std::string> followed);
 
   settings::SaverSettings& settings_;
   LibraryServices services_;

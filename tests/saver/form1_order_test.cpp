@@ -26,11 +26,11 @@ class FakeFollower : public library::PictureFollower {
  public:
   struct Desk {
     library::FollowRequest request;
-    std::shared_ptr<const Names> news;
+    std::optional<Names> news;
   };
 
   explicit FakeFollower(Desk& desk) : desk_(desk) {}
-  std::shared_ptr<const Names> news() override { return std::exchange(desk_.news, nullptr); }
+  std::optional<Names> news() override { return std::exchange(desk_.news, std::nullopt); }
 
  private:
   Desk& desk_;
@@ -69,7 +69,7 @@ class Form1OrderTest : public testing::Test {
     return library::ShowStateOf(unsealed->payload).value();
   }
   const Names& shown() const { return show->pictures.opened; }
-  void bring(const Names& pictures) { desk.news = std::make_shared<Names>(pictures); }
+  void bring(const Names& pictures) { desk.news = pictures; }
 
   std::unique_ptr<ShowStage> show;
   FakeFollower::Desk desk;
