@@ -2,8 +2,10 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 
+#include "auxwin/picture_target.h"
 #include "base/font.h"
 #include "dialog/awaited_picture.h"
 #include "forms/buttons.h"
@@ -17,6 +19,8 @@
 #include "forms/window_system.h"
 #include "os/ansi_code_page.h"
 #include "os/files.h"
+#include "os/folder_reader.h"
+#include "os/worker.h"
 #include "pictures/picture.h"
 #include "settings/ini_document.h"
 #include "settings/settings_record.h"
@@ -32,6 +36,8 @@ struct DialogServices {
   forms::WindowSystem& windows;
   std::function<bool(const std::string& path)> isReadOnly = nullptr;  // without it no file is
   pictures::AheadLoader* ahead = nullptr;  // used where the settings ask for it; null: there is none
+  std::shared_ptr<os::FolderReader> folders = nullptr;  // to look below folders, and for the system's formats
+  os::MakeWorker makeWorker = nullptr;                  // there where `folders` is
 };
 
 // What the font dialog starts with.
@@ -218,6 +224,12 @@ class Form2 : public forms::Form {
   void setSavingNote(std::string note);
   void showNotes();
 
+  // The files that are taken for pictures when a folder is added, as patterns between ";".
+  const std::string& importedPatterns() const { return importedPatterns_; }
+
+  // Every format that the system can decode is offered, not only the documented ones.
+  bool offersMoreFormats() const { return record.moreFormats == "1"; }
+
   // The loader of previews where the settings ask for one, else null: then they are loaded on the spot.
   pictures::AheadLoader* ahead() const { return loadsAhead_ ? services_.ahead : nullptr; }
 
@@ -281,6 +293,7 @@ class Form2 : public forms::Form {
   std::string savingNote_;
   bool loadsAhead_ = false;
   bool followsFolders_ = false;
+  std::string importedPatterns_ = auxwin::kImportedPatterns;
   AwaitedPicture awaitedBackground_;
 };
 

@@ -180,6 +180,10 @@ void PictureList::append(std::vector<std::string> paths) {
 }
 
 void PictureList::add_Click() {
+  if (form_.offersMoreFormats()) {
+    appendStorable(paths_.askForSeveral(form_.importedPatterns()));
+    return;
+  }
   if (const std::optional<std::string> path = paths_.ask()) append({*path});
 }
 
@@ -194,8 +198,8 @@ std::vector<std::string> PictureList::picturesOf(const std::string& dropped) con
     return isPicture(dropped) ? std::vector{dropped} : std::vector<std::string>();
   }
   std::vector<std::string> pictures = services_.files.filesIn(dropped);
-  std::erase_if(pictures, [](const std::string& name) {
-    return !forms::MatchesPatterns(name, auxwin::kImportedPatterns);
+  std::erase_if(pictures, [this](const std::string& name) {
+    return !forms::MatchesPatterns(name, form_.importedPatterns());
   });
   services_.files.sortNames(pictures);
   for (std::string& name : pictures) name = os::JoinPath(dropped, name);
@@ -203,17 +207,19 @@ std::vector<std::string> PictureList::picturesOf(const std::string& dropped) con
 }
 
 void PictureList::userDropped(const std::vector<std::string>& paths) {
-  std::vector<std::string> added;
-  int leftOut = 0;
+  std::vector<std::string> pictures;
   for (const std::string& dropped : paths) {
-    for (const std::string& picture : picturesOf(dropped)) {
-      if (std::optional<std::string> path = paths_.storable(picture)) {
-        added.push_back(std::move(*path));
-      } else {
-        ++leftOut;
-      }
-    }
+    for (std::string& picture : picturesOf(dropped)) pictures.push_back(std::move(picture));
   }
+  appendStorable(pictures);
+}
+
+void PictureList::appendStorable(const std::vector<std::string>& chosen) {
+  std::vector<std::string> added;
+  for (const std::string& picture : chosen) {
+    if (std::optional<std::string> path = paths_.storable(picture)) added.push_back(std::move(*path));
+  }
+  const auto leftOut = static_cast<int>(chosen.size() - added.size());
   if (!added.empty()) append(std::move(added));
   paths_.tellLeftOut(leftOut);
 }

@@ -77,6 +77,7 @@ class PictureList {
 
  private:
   void append(std::vector<std::string> paths);
+  void appendStorable(const std::vector<std::string>& chosen);
   void select(int index);
   void swapWithNeighbour(int step);
   bool refused(bool nothingSelected);

@@ -82,10 +82,15 @@ void SettingsDialog::Save_Click() { save(); }
 void SettingsDialog::FolderCommand_Click() {
   const std::string workingFolder = services_.files.currentFolder();
   enterPicturesFolder();
-  folderImport.emplace(pictures.target(), services_.files, services_.dialogs, services_.windows);
+  folderImport.emplace(pictures.target(),
+                       auxwin::ImportServices{services_.files, services_.dialogs, services_.windows, loop_,
+                                              services_.folders, services_.makeWorker},
+                       form.importedPatterns());
+  folderImport->chkSubfolders.setDesignValue(importsSubfolders_);
   services_.files.enterFolder(workingFolder);
   services_.windows.showModal(*folderImport);
   pictures.listChanged();
+  importsSubfolders_ = folderImport->chkSubfolders.value();
   if (!folderImport->addedFolder().empty()) lastFolder_ = folderImport->addedFolder();
 }
 

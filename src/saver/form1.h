@@ -86,6 +86,9 @@ class Form1 : public forms::Form {
   void unload();
   bool isOver() const { return unloaded_ || services_.loop.isQuitting(); }
 
+  // On any thread, when the program has crashed: see PictureOrder.
+  void rememberAfterCrash() noexcept { order_.saveAfterCrash(); }
+
   const settings::SaverSettings& settings() const { return settings_; }
   std::int16_t currentImageIndex() const { return currentImageIndex_; }
   bool pictureShown() const { return pictureShown_; }

@@ -49,6 +49,7 @@ Show::Show(const saver::ShowServices& services, const SaverExit::Services& exit,
 }
 
 Show::~Show() {
+  form_.unload();  // where the loop has ended by itself
   services_.pictures.onFailure = nullptr;
   services_.ahead.onFailure = nullptr;
   services_.stage.onPlacesChanged = nullptr;

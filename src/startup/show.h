@@ -31,6 +31,9 @@ class Show {
 
   saver::Form1& form() { return form_; }
 
+  // On any thread, when the program has crashed: what the next show needs to go on is kept.
+  void rememberAfterCrash() noexcept { form_.rememberAfterCrash(); }
+
  private:
   // A black window on a further screen.
   struct Cover {

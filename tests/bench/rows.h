@@ -20,4 +20,7 @@ void BenchDayOfShow();
 // Needs e2e::builtFolder.
 void BenchProgramSize();
 
+// Folders that are followed. Needs e2e::builtFolder.
+void BenchFollowedFolders();
+
 }  // namespace bench

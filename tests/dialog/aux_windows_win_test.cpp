@@ -5,7 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include "os/utf16_win.h"
 #include "support/real_dialog_win.h"
+#include "support/temporary_folder_win.h"
 
 namespace dialog {
 namespace {
@@ -135,6 +137,34 @@ TEST_F(AuxWindows, AFolderIsImportedByTheDefaultButton) {
   EXPECT_EQ(list.listIndex(), 2);
   EXPECT_EQ(SendMessageW(dialog->windowOf(list), LB_GETCOUNT, 0, 0), 3);
   EXPECT_EQ(dialog->form().Text3.text(), "3");
+  EXPECT_TRUE(IsWindowEnabled(dialog->window()));
+}
+
+// The folders are the system's own here, and the search runs on a thread.
+TEST_F(AuxWindows, AFolderIsImportedWithWhatLiesBelowItByTheKeyboard) {
+  const support::TemporaryFolder place;
+  const std::string deep = place.path() + "\\deep";
+  CreateDirectoryW(os::ToWide(deep).c_str(), nullptr);
+  for (const std::string& path : {place.path() + "\\b.jpg", deep + "\\a.gif", deep + "\\notes.txt"}) {
+    CloseHandle(CreateFileW(os::ToWide(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+  }
+  machine.files.pictures = place.path();
+  machine.pictures.add(deep + "\\a.gif", {4, 3}, base::kBlack);
+  open({400, 300});
+  bool pressed = false;
+  const auto timer = dialog->loop().startTimer(50, [&] {
+    const HWND import = FindWindowW(nullptr, L"Add Images From a Folder");
+    if (!import || GetForegroundWindow() != import || pressed) return;
+    pressed = true;
+    dialog->press('S', VK_MENU);
+    dialog->press(VK_RETURN);
+  });
+  dialog->click(dialog->form().FolderCommand);
+  const forms::ListBox& list = dialog->form().List1;
+  EXPECT_TRUE(dialog->waitFor([&] { return list.listCount() == 3; }));
+  dialog->loop().stopTimer(timer);
+  EXPECT_EQ(list.item(1), place.path() + "\\b.jpg");
+  EXPECT_EQ(list.item(2), deep + "\\a.gif");
   EXPECT_TRUE(IsWindowEnabled(dialog->window()));
 }
 
