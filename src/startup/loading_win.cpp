@@ -42,7 +42,8 @@ std::unique_ptr<pictures::AheadLoader> MakeAheadLoader(os::EventLoop& loop) {
         [] { return std::make_shared<ComponentThread>(); });
   };
   const std::shared_ptr<pictures::PictureLoader> loader(parts, &parts->loader);
-  return std::make_unique<pictures::AheadLoader>(loader, loop, makeWorker);
+  return std::make_unique<pictures::AheadLoader>(
+      loader, loop, makeWorker, [parts](const std::string& path) { return parts->files.exists(path); });
 }
 
 void EndLoading(std::unique_ptr<pictures::AheadLoader> loader) {
