@@ -7,7 +7,7 @@
 
 #include "auxwin/picture_target.h"
 #include "base/font.h"
-#include "dialog/awaited_picture.h"
+#include "dialog/awaited_pictures.h"
 #include "forms/buttons.h"
 #include "forms/containers.h"
 #include "forms/dialogs.h"
@@ -235,7 +235,10 @@ class Form2 : public forms::Form {
 
   // Shows the background's picture when ahead() has it, and tells when it cannot be had. Needs ahead().
   void wishBackgroundPreview(const std::string& path);
-  void dropBackgroundPreview() { awaitedBackground_.drop(); }
+  void dropBackgroundPreview() { awaited_.drop(AwaitedPictures::Place::Background); }
+
+  // What the dialog waits for of ahead().
+  AwaitedPictures& awaited() { return awaited_; }
 
   // What depends on a choice.
   void EnableSolidColorControls(bool enabled);
@@ -294,7 +297,7 @@ class Form2 : public forms::Form {
   bool loadsAhead_ = false;
   bool followsFolders_ = false;
   std::string importedPatterns_ = auxwin::kImportedPatterns;
-  AwaitedPicture awaitedBackground_;
+  AwaitedPictures awaited_;
 };
 
 }  // namespace dialog

@@ -146,12 +146,11 @@ void Form2::wishBackgroundPreview(const std::string& path) {
     base::SharedBitmap bitmap = file.drawnAt(forms::FitInside(file.size(), box));
     return bitmap ? pictures::MakePicture(std::move(bitmap)) : nullptr;
   };
-  awaitedBackground_.wish(*ahead(), {.path = path, .box = box, .prepare = drawn},
-                          [this](pictures::SharedPicture picture) {
-                            Image1.setPicture(picture);
-                            if (!picture)
-                              services_.dialogs.messageBox(kCouldNotLoadBackground, forms::kExclamation);
-                          });
+  awaited_.wish(AwaitedPictures::Place::Background, *ahead(), {.path = path, .box = box, .prepare = drawn},
+                [this](pictures::SharedPicture picture) {
+                  Image1.setPicture(picture);
+                  if (!picture) services_.dialogs.messageBox(kCouldNotLoadBackground, forms::kExclamation);
+                });
 }
 
 }  // namespace dialog

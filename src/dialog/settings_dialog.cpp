@@ -14,7 +14,7 @@ SettingsDialog::SettingsDialog(const DialogServices& services, os::EventLoop& lo
     : form(services, programFolder),
       pictures(form, loop),
       background(form),
-      viewer(form.List1, services.pictures, services.dialogs, services.windows),
+      viewer(form.List1, services.pictures, services.dialogs, services.windows, aheadOfViewer()),
       about(std::move(icon), shell, services.windows),
       services_(services),
       loop_(loop),
@@ -107,6 +107,16 @@ void SettingsDialog::enterPicturesFolder() {
 std::string SettingsDialog::listsLastFolder() const {
   const std::string folder = os::FolderOf(form.List1.item(form.List1.listCount() - 1));
   return folder == form.programFolder() ? std::string() : folder;
+}
+
+auxwin::AheadSource SettingsDialog::aheadOfViewer() {
+  constexpr auto kViewer = AwaitedPictures::Place::Viewer;
+  return {.isWanted = [this] { return form.ahead() != nullptr; },
+          .wish =
+              [this](pictures::Wish wish, pictures::AheadLoader::Answer answer) {
+                form.awaited().wish(kViewer, *form.ahead(), std::move(wish), std::move(answer));
+              },
+          .drop = [this] { form.awaited().drop(kViewer); }};
 }
 
 // One viewer at a time; another picture takes the place of the one that it shows.

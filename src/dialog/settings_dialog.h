@@ -50,6 +50,7 @@ class SettingsDialog {
   void connect();
   void save();
   void openViewer();
+  auxwin::AheadSource aheadOfViewer();
   void enterPicturesFolder();
   std::string listsLastFolder() const;
   void closed();

@@ -92,6 +92,7 @@ class Form1 : public forms::Form {
   const settings::SaverSettings& settings() const { return settings_; }
   std::int16_t currentImageIndex() const { return currentImageIndex_; }
   bool pictureShown() const { return pictureShown_; }
+  bool loadsAhead() const { return loadsAhead_; }
   std::int16_t captionHeight() const { return caption_.bandHeight(); }
 
   // The procedures of the show, in the order in which a run meets them. Those of the timers of caption and
@@ -111,9 +112,10 @@ class Form1 : public forms::Form {
   void FloatTimer_Timer();
 
  private:
-  // Where a change of pictures stands. Timers that tick in its waits start no other. When the screen changes
-  // meanwhile, what its effect drew is for another screen, and the effect is given up.
-  enum class ChangeState { None, UnderWay, EffectGivenUp };
+  // Where a change of pictures stands. Timers that tick in its waits start no other. As long as the new
+  // picture is awaited, the old one goes on as between two changes. When the screen changes later, what the
+  // effect drew is for another screen, and the effect is given up.
+  enum class ChangeState { None, Awaiting, UnderWay, EffectGivenUp };
   class ChangeScope;
 
   void wireTimers();
@@ -134,6 +136,7 @@ class Form1 : public forms::Form {
   std::optional<pictures::Wish> wishFor(std::int16_t number) const;
   void prepareNext();
   void awaitPicture();
+  bool drawsChange() const { return change_ != ChangeState::None && change_ != ChangeState::Awaiting; }
   void useLoadedPicture();
   void wishBackground(ImageLayout layout);
   void dropBackgroundWish();

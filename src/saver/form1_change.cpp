@@ -36,7 +36,7 @@ bool ShowsNothing(const pictures::SharedPicture& picture) {
 // A change is under way for the life of this, however the scope is left.
 class Form1::ChangeScope {
  public:
-  explicit ChangeScope(ChangeState& state) : state_(state) { state_ = ChangeState::UnderWay; }
+  explicit ChangeScope(ChangeState& state) : state_(state) { state_ = ChangeState::Awaiting; }
   ~ChangeScope() { state_ = ChangeState::None; }
   ChangeScope(const ChangeScope&) = delete;
   ChangeScope& operator=(const ChangeScope&) = delete;
@@ -49,6 +49,7 @@ void Form1::ShowNextPicture() {
   const ChangeScope change(change_);
   awaitPicture();
   if (isOver()) return;
+  change_ = ChangeState::UnderWay;
   look_.stopGlide(DisplayingPicture);
   Label1.setVisible(false);
   clearBoxes();

@@ -1,4 +1,6 @@
 // The picture of the show: loaded, scaled to the share of the screen that it may take, placed, floating.
+#include <utility>
+
 #include "base/number_text.h"
 #include "base/rounding.h"
 #include "base/twips.h"
@@ -34,8 +36,13 @@ void Form1::prepareNext() {
 
 // The old picture stands until the new one is there, or is known not to come.
 void Form1::awaitPicture() {
-  const auto wish = loadsAhead_ ? wishFor(currentImageIndex_) : std::nullopt;
-  if (wish) next_.wait(*wish, [this] { return isOver(); });
+  if (!loadsAhead_) return;
+  for (auto wish = wishFor(currentImageIndex_); wish && !isOver();) {
+    next_.wait(*wish, [this] { return isOver(); });
+    auto now = wishFor(currentImageIndex_);  // on the screen as it has become
+    if (now && now->isSameAs(*wish)) return;
+    wish = std::move(now);
+  }
 }
 
 void Form1::LoadCurrentPicture() {
@@ -101,7 +108,7 @@ void Form1::PickFloatDirection() {
 
 void Form1::FloatTimer_Timer() {
   // A tick in a wait of a change must not move the picture that is being drawn.
-  if (change_ != ChangeState::None) return;
+  if (drawsChange()) return;
   reseed();
   FloatingBox box{.left = DisplayingPicture.left(),
                   .top = DisplayingPicture.top(),

@@ -28,7 +28,7 @@ void Form1::ScreenChanged() {
 void Form1::layOutAgain() {
   BgrImage.setPicture(nullptr);  // of the other size, should there be none of this one
   DrawBackground();
-  if (change_ != ChangeState::None) {
+  if (drawsChange()) {
     // The change goes on behind its effect, which notices at its next step.
     change_ = ChangeState::EffectGivenUp;
     services_.stage.showLive(nullptr);

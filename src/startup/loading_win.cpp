@@ -26,7 +26,9 @@ struct LoadingParts {
 std::unique_ptr<pictures::AheadLoader> MakeAheadLoader(os::EventLoop& loop) {
   const auto parts = std::make_shared<LoadingParts>();
   const std::shared_ptr<pictures::PictureLoader> loader(parts, &parts->loader);
-  return std::make_unique<pictures::AheadLoader>(loader, loop, MakeWorkers(loop));
+  return std::make_unique<pictures::AheadLoader>(
+      loader, loop, MakeWorkers(loop),
+      [parts](const std::string& path) { return parts->files.exists(path); });
 }
 
 void EndLoading(std::unique_ptr<pictures::AheadLoader> loader) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "saver/form1.h"
+#include "saver/show_time.h"
 #include "startup/exit_saver.h"
 #include "startup/failure_log.h"
 #include "startup/input_watch.h"
@@ -47,12 +48,14 @@ class Show {
   std::unique_ptr<Cover> makeCover();
   bool screenIsAnother() const;
   void screenChanged();
+  void displayPowerChanged(bool isOn);
   void mouseMoved(base::PixelPoint onScreen);
   void coverMouseMoved(Cover& cover, base::PixelPoint inside);
   void forgetPointer();
   std::optional<PointedControl> pointedControl(base::PixelPoint onScreen) const;
   void decideOnLog();
   void notePicture(const std::string& path, pictures::PictureFailure failure);
+  void noteUnopened(const std::string& path);
   void endByError(const std::exception& error);
   void endWithoutAsking();
   void leaveBackground();
@@ -63,9 +66,11 @@ class Show {
   os::SystemFacts facts_;
   WindowMaker makeWindow_;
   FailureLog log_;
+  saver::ShowTime time_{services_.loop, services_.clock};
   saver::Form1 form_;
   SaverExit exit_;
   std::optional<InputWatch> watch_;
+  bool missedScreenChange_ = false;                 // while the display was off
   std::vector<std::unique_ptr<Cover>> covers_;      // one for each further screen
   std::vector<std::unique_ptr<Cover>> goneCovers_;  // closed; one of their events may still be under way
 };

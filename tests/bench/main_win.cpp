@@ -27,6 +27,8 @@ constexpr Group kGroups[] = {
     {"drawing", bench::BenchDrawing},
     {"frames", bench::BenchFrames},
     {"looks", bench::BenchLooks},
+    {"loading", bench::BenchLoading},
+    {"first", bench::BenchFirstPicture},
     {"changes", bench::BenchManyChanges},
     {"day", bench::BenchDayOfShow},
     {"size", bench::BenchProgramSize},

@@ -2,46 +2,21 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "base/errors.h"
-#include "support/fake_machine.h"
-#include "support/show_stage.h"
+#include "support/started_show.h"
 
 namespace {
 
 constexpr base::PackedColor kRed = base::Rgb(255, 0, 0);
 
-// The show with everything around it, on fakes: started as the program starts it.
-class ShowTest : public testing::Test {
+class ShowTest : public testing::Test, protected support::StartedShow {
  protected:
-  void start(const os::SystemFacts& facts = {}) {
-    stage.writeSettings();
-    saver::ShowServices services = stage.services();
-    show.emplace(saver::ShowServices{services.files, services.ansi, services.pictures, services.ahead,
-                                     services.clock, services.loop, services.screen, restore, services.dates,
-                                     services.stage, services.window, services.library},
-                 startup::SaverExit::Services{machine.passwords, restore, stage.screen}, restore, facts,
-                 support::ShowStage::programFolder(), [this] {
-                   auto cover = std::make_unique<support::FakeStageWindow>(base::PixelSize{1, 1});
-                   covers.push_back(cover.get());
-                   return cover;
-                 });
-    restore.hideTaskbar(restore.findTaskbar());
-    show->start();
-  }
-
   bool hasEnded() const { return stage.loop.isQuitting(); }
   support::FakeStageWindow& window() { return stage.window; }
   void move(int x, int y) { window().onMouseMove({x, y}); }
-
-  support::FakeMachine machine;
-  support::ShowStage stage;
-  startup::SystemRestore restore{machine.desktop};
-  std::vector<support::FakeStageWindow*> covers;
-  std::optional<startup::Show> show;
 };
 
 TEST_F(ShowTest, CoversTheScreenAndTakesTheKeyboard) {
