@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <memory>
+#include <utility>
 
 #include "forms/file_name.h"
 
@@ -23,13 +23,20 @@ constexpr int kEscape = 27;
 }  // namespace
 
 ImageView::ImageView(const forms::ListBox& pictures, pictures::PictureLoader& loader, forms::Dialogs& dialogs,
-                     forms::WindowSystem& windows)
-    : Form("ImageView"), pictures_(pictures), loader_(loader), dialogs_(dialogs), windows_(windows) {
+                     forms::WindowSystem& windows, AheadSource ahead)
+    : Form("ImageView"),
+      pictures_(pictures),
+      loader_(loader),
+      dialogs_(dialogs),
+      windows_(windows),
+      ahead_(std::move(ahead)) {
   Picture1.setAutoSize(true);
   Picture1.setAccessibleName("Image at its actual size");
   onLoad = [this] { Form_Load(); };
-  // The pixels of a large photo are not kept behind a closed window.
-  onUnload = [this] { Picture1.setPicture(nullptr); };
+  onUnload = [this] {
+    dropAwaited();
+    Picture1.setPicture(nullptr);  // the pixels of a large photo are not kept behind a closed window
+  };
   onKeyDown = [this](int keyCode) {
     if (keyCode == kEscape) close();
   };
@@ -44,25 +51,46 @@ void ImageView::Form_Load() {
   setCaption(path.empty() ? "Image" : forms::LastName(path));
   Picture1.setPicture(nullptr);
   Picture1.move(0, 0, kEmptySize, kEmptySize);
-  const bool loaded = loadPicture(path);
+  pressed_ = dragged_ = false;
+  if (path.empty()) {
+    layOut();
+  } else if (ahead_.isWanted && ahead_.isWanted()) {
+    layOut();
+    awaitPicture(path);
+  } else {
+    showPicture(loadPicture(path));
+  }
+}
+
+void ImageView::layOut() {
   const float wide = Picture1.width() <= kNarrowest ? kNarrowest : Picture1.width() + kBorders;
   move(left(), top(), wide, Picture1.height() + kTitleAndBorders);
   centerOn(windows_.screenWidthTwips(), windows_.screenHeightTwips());
-  pressed_ = dragged_ = false;
+}
+
+void ImageView::showPicture(pictures::SharedPicture picture) {
+  const bool loaded = picture != nullptr;
+  if (loaded) Picture1.setPicture(std::move(picture));
+  layOut();
   if (loaded) return;
   dialogs_.messageBox(kCannotLoadImage, forms::kExclamation);
   close();
 }
 
-bool ImageView::loadPicture(const std::string& path) {
-  if (path.empty()) return true;
+// Decoded once: the window is painted anew whenever something has covered it.
+pictures::SharedPicture ImageView::loadPicture(const std::string& path) {
   const pictures::SharedPicture file = loader_.open(path);
-  if (!file) return false;
-  // Decoded once: the window is painted anew whenever something has covered it.
-  base::SharedBitmap pixels = file->drawnAt(file->size());
-  if (!pixels) return false;
-  Picture1.setPicture(pictures::MakePicture(std::move(pixels)));
-  return true;
+  return file ? pictures::DrawAhead(*file, file->size()) : nullptr;
+}
+
+void ImageView::awaitPicture(const std::string& path) {
+  const auto atItsSize = [](const pictures::Picture& file) { return pictures::DrawAhead(file, file.size()); };
+  ahead_.wish({.path = path, .box = {}, .prepare = atItsSize},
+              [this](pictures::SharedPicture picture) { showPicture(std::move(picture)); });
+}
+
+void ImageView::dropAwaited() {
+  if (ahead_.drop) ahead_.drop();
 }
 
 // Letting go after a drag is no click.

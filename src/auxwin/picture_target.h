@@ -13,6 +13,9 @@ namespace auxwin {
 
 constexpr int kAdvisedImages = 700;
 
+// The files of a folder that are taken for pictures.
+inline constexpr char kImportedPatterns[] = "*.bmp;*.gif;*.dib;*.jpeg;*.jpg";
+
 // Given once in the life of the dialog, whichever way the list grew.
 struct ManyImagesAdvice {
   bool manyImagesWarned = false;

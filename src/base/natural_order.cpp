@@ -44,4 +44,15 @@ int CompareNaturally(std::string_view a, std::string_view b) {
   return a.compare(b);
 }
 
+bool IsNumberedBefore(std::string_view a, std::string_view b) {
+  std::size_t at = 0;
+  while (at < a.size() && at < b.size() && AsciiLower(a[at]) == AsciiLower(b[at])) ++at;
+  const auto isDigitAt = [](std::string_view text, std::size_t i) {
+    return i < text.size() && IsDigit(text[i]);
+  };
+  if (!isDigitAt(a, at) || !isDigitAt(b, at) || a[at] > b[at]) return false;
+  while (isDigitAt(a, at) && isDigitAt(b, at)) ++at;
+  return !isDigitAt(a, at) && !isDigitAt(b, at);
+}
+
 }  // namespace base

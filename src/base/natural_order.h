@@ -9,4 +9,9 @@ namespace base {
 // Z as a to z; only texts that are equal letter for letter give 0.
 int CompareNaturally(std::string_view a, std::string_view b);
 
+// True for a text that comes before another however people sort: up to where they differ they are the same
+// but for the case of A to Z, and there each has a number, of as many digits as the other's. False for all
+// others, of which nothing is said.
+bool IsNumberedBefore(std::string_view a, std::string_view b);
+
 }  // namespace base

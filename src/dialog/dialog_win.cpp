@@ -6,6 +6,7 @@
 
 #include "forms/surface_win.h"
 #include "os/files_win.h"
+#include "os/folder_reader_win.h"
 #include "os/program_resources_win.h"
 
 namespace dialog {
@@ -28,7 +29,8 @@ SettingsDialogWin::SettingsDialogWin(const DialogMachineWin& machine, const std:
       windows_(loop_),
       dialogs_([this] { return windows_.activeWindow(); }),
       dialog_({machine.files, machine.ansi, machine.pictures, dialogs_, windows_, os::IsReadOnlyFile,
-               machine.ahead},
+               machine.ahead, machine.makeWorker ? std::make_shared<os::FolderReaderWin>() : nullptr,
+               machine.makeWorker},
               loop_, *shell_, programFolder, ProductIcon()),
       filter_(loop_.addMessageFilter([this](MSG& message) { return windows_.filterMessage(message); })) {
   dialog_.show();

@@ -11,6 +11,7 @@
 #include "os/event_loop_win.h"
 #include "os/files.h"
 #include "os/shell.h"
+#include "os/worker.h"
 #include "pictures/picture.h"
 
 namespace dialog {
@@ -22,6 +23,7 @@ struct DialogMachineWin {
   const os::AnsiCodePage& ansi;
   pictures::PictureLoader& pictures;
   pictures::AheadLoader* ahead = nullptr;
+  os::MakeWorker makeWorker = nullptr;  // for what is looked for beside the dialog; null: nothing is
 };
 
 class SettingsDialogWin {

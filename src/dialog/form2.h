@@ -2,10 +2,12 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 
+#include "auxwin/picture_target.h"
 #include "base/font.h"
-#include "dialog/awaited_picture.h"
+#include "dialog/awaited_pictures.h"
 #include "forms/buttons.h"
 #include "forms/containers.h"
 #include "forms/dialogs.h"
@@ -17,6 +19,8 @@
 #include "forms/window_system.h"
 #include "os/ansi_code_page.h"
 #include "os/files.h"
+#include "os/folder_reader.h"
+#include "os/worker.h"
 #include "pictures/picture.h"
 #include "settings/ini_document.h"
 #include "settings/settings_record.h"
@@ -32,6 +36,8 @@ struct DialogServices {
   forms::WindowSystem& windows;
   std::function<bool(const std::string& path)> isReadOnly = nullptr;  // without it no file is
   pictures::AheadLoader* ahead = nullptr;  // used where the settings ask for it; null: there is none
+  std::shared_ptr<os::FolderReader> folders = nullptr;  // to look below folders, and for the system's formats
+  os::MakeWorker makeWorker = nullptr;                  // there where `folders` is
 };
 
 // What the font dialog starts with.
@@ -218,12 +224,21 @@ class Form2 : public forms::Form {
   void setSavingNote(std::string note);
   void showNotes();
 
+  // The files that are taken for pictures when a folder is added, as patterns between ";".
+  const std::string& importedPatterns() const { return importedPatterns_; }
+
+  // Every format that the system can decode is offered, not only the documented ones.
+  bool offersMoreFormats() const { return record.moreFormats == "1"; }
+
   // The loader of previews where the settings ask for one, else null: then they are loaded on the spot.
   pictures::AheadLoader* ahead() const { return loadsAhead_ ? services_.ahead : nullptr; }
 
   // Shows the background's picture when ahead() has it, and tells when it cannot be had. Needs ahead().
   void wishBackgroundPreview(const std::string& path);
-  void dropBackgroundPreview() { awaitedBackground_.drop(); }
+  void dropBackgroundPreview() { awaited_.drop(AwaitedPictures::Place::Background); }
+
+  // What the dialog waits for of ahead().
+  AwaitedPictures& awaited() { return awaited_; }
 
   // What depends on a choice.
   void EnableSolidColorControls(bool enabled);
@@ -281,7 +296,8 @@ class Form2 : public forms::Form {
   std::string savingNote_;
   bool loadsAhead_ = false;
   bool followsFolders_ = false;
-  AwaitedPicture awaitedBackground_;
+  std::string importedPatterns_ = auxwin::kImportedPatterns;
+  AwaitedPictures awaited_;
 };
 
 }  // namespace dialog

@@ -9,6 +9,7 @@
 #include "dialog/form2.h"
 #include "dialog/messages.h"
 #include "dialog/option_table.h"
+#include "library/picture_names.h"
 #include "pictures/picture.h"
 #include "settings/load_settings.h"
 #include "settings/settings_file.h"
@@ -67,6 +68,12 @@ void Form2::loadSettings(settings::SettingsRecord& read) {
   }
   loadsAhead_ = read.loadAhead == "1";
   followsFolders_ = !settings::FollowedFolders(document).empty();
+  record.moreFormats = read.moreFormats;
+  if (offersMoreFormats() && services_.folders) {
+    std::vector<std::string> further = services_.folders->pictureEndings();
+    further.emplace_back(".jif");
+    importedPatterns_ = library::PatternsWith(auxwin::kImportedPatterns, further);
+  }
   loadPictureList(document, read);
   for (const OptionRow& row : OptionTable()) {
     const settings::Key& key = settings::KeyOf(row.field);
@@ -139,12 +146,11 @@ void Form2::wishBackgroundPreview(const std::string& path) {
     base::SharedBitmap bitmap = file.drawnAt(forms::FitInside(file.size(), box));
     return bitmap ? pictures::MakePicture(std::move(bitmap)) : nullptr;
   };
-  awaitedBackground_.wish(*ahead(), {.path = path, .box = box, .prepare = drawn},
-                          [this](pictures::SharedPicture picture) {
-                            Image1.setPicture(picture);
-                            if (!picture)
-                              services_.dialogs.messageBox(kCouldNotLoadBackground, forms::kExclamation);
-                          });
+  awaited_.wish(AwaitedPictures::Place::Background, *ahead(), {.path = path, .box = box, .prepare = drawn},
+                [this](pictures::SharedPicture picture) {
+                  Image1.setPicture(picture);
+                  if (!picture) services_.dialogs.messageBox(kCouldNotLoadBackground, forms::kExclamation);
+                });
 }
 
 }  // namespace dialog

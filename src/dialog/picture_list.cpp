@@ -16,6 +16,12 @@
 
 namespace dialog {
 
+namespace {
+
+constexpr AwaitedPictures::Place kPreview = AwaitedPictures::Place::Preview;
+
+}  // namespace
+
 base::SharedBitmap DrawThumbnail(const pictures::Picture& picture, base::PixelSize box) {
   const base::PixelSize size = forms::FitInside(picture.size(), box);
   const base::SharedBitmap drawn = picture.drawnAt(size);
@@ -49,6 +55,8 @@ void SelectionRest::settle() {
   timer_.setEnabled(false);
   waiting_ = false;
 }
+
+PictureList::~PictureList() { form_.awaited().drop(kPreview); }
 
 PictureList::PictureList(Form2& form, os::EventLoop& loop)
     : form_(form), services_(form.services()), paths_(services_), rest_(loop, [this] { selectionRested(); }) {
@@ -103,7 +111,7 @@ bool PictureList::ShowPreview(const std::string& path) {
 
 bool PictureList::preview(const std::string& path) {
   if (form_.photo1.picture() && previewed_ == path) {
-    awaited_.drop();
+    form_.awaited().drop(kPreview);
     return true;
   }
   if (pictures::AheadLoader* ahead = form_.ahead(); ahead && !path.empty()) {
@@ -125,26 +133,26 @@ bool PictureList::preview(const std::string& path) {
 
 // The row before stays in sight until this one's picture is there; a row that was passed is forgotten.
 void PictureList::wishPreview(pictures::AheadLoader& loader, const std::string& path) {
-  if (awaited_.isFor(path)) return;
+  if (form_.awaited().isFor(kPreview, path)) return;
   const base::PixelSize box = form_.photo1.scaleSize();
   const auto thumbnail = [box](const pictures::Picture& file) {
     base::SharedBitmap drawn = DrawThumbnail(file, box);
     return drawn ? pictures::MakePicture(std::move(drawn)) : nullptr;
   };
-  awaited_.wish(loader, {.path = path, .box = box, .prepare = thumbnail},
-                [this, path](const pictures::SharedPicture& picture) {
-                  if (!picture) {
-                    clearPreview();
-                    tellCannotLoad();
-                    return;
-                  }
-                  form_.photo1.setPicture(picture);
-                  previewed_ = path;
-                });
+  form_.awaited().wish(kPreview, loader, {.path = path, .box = box, .prepare = thumbnail},
+                       [this, path](const pictures::SharedPicture& picture) {
+                         if (!picture) {
+                           clearPreview();
+                           tellCannotLoad();
+                           return;
+                         }
+                         form_.photo1.setPicture(picture);
+                         previewed_ = path;
+                       });
 }
 
 void PictureList::clearPreview() {
-  awaited_.drop();
+  form_.awaited().drop(kPreview);
   if (form_.photo1.picture()) form_.photo1.setPicture(nullptr);
   previewed_.clear();
 }
@@ -180,6 +188,10 @@ void PictureList::append(std::vector<std::string> paths) {
 }
 
 void PictureList::add_Click() {
+  if (form_.offersMoreFormats()) {
+    appendStorable(paths_.askForSeveral(form_.importedPatterns()));
+    return;
+  }
   if (const std::optional<std::string> path = paths_.ask()) append({*path});
 }
 
@@ -194,8 +206,8 @@ std::vector<std::string> PictureList::picturesOf(const std::string& dropped) con
     return isPicture(dropped) ? std::vector{dropped} : std::vector<std::string>();
   }
   std::vector<std::string> pictures = services_.files.filesIn(dropped);
-  std::erase_if(pictures, [](const std::string& name) {
-    return !forms::MatchesPatterns(name, auxwin::kImportedPatterns);
+  std::erase_if(pictures, [this](const std::string& name) {
+    return !forms::MatchesPatterns(name, form_.importedPatterns());
   });
   services_.files.sortNames(pictures);
   for (std::string& name : pictures) name = os::JoinPath(dropped, name);
@@ -203,17 +215,19 @@ std::vector<std::string> PictureList::picturesOf(const std::string& dropped) con
 }
 
 void PictureList::userDropped(const std::vector<std::string>& paths) {
-  std::vector<std::string> added;
-  int leftOut = 0;
+  std::vector<std::string> pictures;
   for (const std::string& dropped : paths) {
-    for (const std::string& picture : picturesOf(dropped)) {
-      if (std::optional<std::string> path = paths_.storable(picture)) {
-        added.push_back(std::move(*path));
-      } else {
-        ++leftOut;
-      }
-    }
+    for (std::string& picture : picturesOf(dropped)) pictures.push_back(std::move(picture));
   }
+  appendStorable(pictures);
+}
+
+void PictureList::appendStorable(const std::vector<std::string>& chosen) {
+  std::vector<std::string> added;
+  for (const std::string& picture : chosen) {
+    if (std::optional<std::string> path = paths_.storable(picture)) added.push_back(std::move(*path));
+  }
+  const auto leftOut = static_cast<int>(chosen.size() - added.size());
   if (!added.empty()) append(std::move(added));
   paths_.tellLeftOut(leftOut);
 }

@@ -49,6 +49,9 @@ class SelectionRest {
 class PictureList {
  public:
   PictureList(Form2& form, os::EventLoop& loop);
+  ~PictureList();
+  PictureList(const PictureList&) = delete;
+  PictureList& operator=(const PictureList&) = delete;
 
   void List1_Click();
   void add_Click();
@@ -77,6 +80,7 @@ class PictureList {
 
  private:
   void append(std::vector<std::string> paths);
+  void appendStorable(const std::vector<std::string>& chosen);
   void select(int index);
   void swapWithNeighbour(int step);
   bool refused(bool nothingSelected);
@@ -94,7 +98,6 @@ class PictureList {
   PicturePaths paths_;
   SelectionRest rest_;
   auxwin::ManyImagesAdvice advice_;
-  AwaitedPicture awaited_;
   std::string previewed_;  // the path whose thumbnail photo1 shows
 };
 

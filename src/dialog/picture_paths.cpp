@@ -1,5 +1,7 @@
 #include "dialog/picture_paths.h"
 
+#include <utility>
+
 #include "base/number_text.h"
 #include "settings/settings_file.h"
 
@@ -12,15 +14,26 @@ constexpr char kFilter[] =
     "Jpeg Files (*.jpg)|*.jpg|Jif files (*.jif)|*.jif|Windows Bitmap Files (*.bmp)|*.bmp|"
     "Windows DIB files (*.dib)|*.dib";
 
+forms::OpenFileRequest RequestFor(std::string filter) {
+  return {std::move(filter), "Select a file to open", forms::kFileMustExist | forms::kHideReadOnly};
+}
+
 }  // namespace
 
 std::optional<std::string> PicturePaths::ask() const {
-  const std::optional<std::string> chosen = services_.dialogs.openFile(
-      {kFilter, "Select a file to open", forms::kFileMustExist | forms::kHideReadOnly});
+  const std::optional<std::string> chosen = services_.dialogs.openFile(RequestFor(kFilter));
   if (!chosen) return std::nullopt;
   std::optional<std::string> path = storable(*chosen);
   if (!path) tellLeftOut(1);
   return path;
+}
+
+// The system gives them in the order in which they were marked, or in none.
+std::vector<std::string> PicturePaths::askForSeveral(const std::string& patterns) const {
+  std::vector<std::string> chosen =
+      services_.dialogs.openFiles(RequestFor(std::string(kFilter) + "|All pictures|" + patterns));
+  services_.files.sortNames(chosen);
+  return chosen;
 }
 
 std::optional<std::string> PicturePaths::storable(const std::string& path) const {

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "dialog/form2.h"
 
@@ -15,6 +16,10 @@ class PicturePaths {
   // Lets the user choose a picture's file. Nothing when they cancel, or when the settings file cannot hold
   // its path, which they are told.
   std::optional<std::string> ask() const;
+
+  // Lets the user choose several pictures' files, of these patterns too. Empty when they cancel. Sorted by
+  // their names.
+  std::vector<std::string> askForSeveral(const std::string& patterns) const;
 
   // The path itself while the settings file can hold it, else its short form where that fits, else nothing.
   std::optional<std::string> storable(const std::string& path) const;

@@ -14,7 +14,7 @@ SettingsDialog::SettingsDialog(const DialogServices& services, os::EventLoop& lo
     : form(services, programFolder),
       pictures(form, loop),
       background(form),
-      viewer(form.List1, services.pictures, services.dialogs, services.windows),
+      viewer(form.List1, services.pictures, services.dialogs, services.windows, aheadOfViewer()),
       about(std::move(icon), shell, services.windows),
       services_(services),
       loop_(loop),
@@ -82,10 +82,15 @@ void SettingsDialog::Save_Click() { save(); }
 void SettingsDialog::FolderCommand_Click() {
   const std::string workingFolder = services_.files.currentFolder();
   enterPicturesFolder();
-  folderImport.emplace(pictures.target(), services_.files, services_.dialogs, services_.windows);
+  folderImport.emplace(pictures.target(),
+                       auxwin::ImportServices{services_.files, services_.dialogs, services_.windows, loop_,
+                                              services_.folders, services_.makeWorker},
+                       form.importedPatterns());
+  folderImport->chkSubfolders.setDesignValue(importsSubfolders_);
   services_.files.enterFolder(workingFolder);
   services_.windows.showModal(*folderImport);
   pictures.listChanged();
+  importsSubfolders_ = folderImport->chkSubfolders.value();
   if (!folderImport->addedFolder().empty()) lastFolder_ = folderImport->addedFolder();
 }
 
@@ -102,6 +107,16 @@ void SettingsDialog::enterPicturesFolder() {
 std::string SettingsDialog::listsLastFolder() const {
   const std::string folder = os::FolderOf(form.List1.item(form.List1.listCount() - 1));
   return folder == form.programFolder() ? std::string() : folder;
+}
+
+auxwin::AheadSource SettingsDialog::aheadOfViewer() {
+  constexpr auto kViewer = AwaitedPictures::Place::Viewer;
+  return {.isWanted = [this] { return form.ahead() != nullptr; },
+          .wish =
+              [this](pictures::Wish wish, pictures::AheadLoader::Answer answer) {
+                form.awaited().wish(kViewer, *form.ahead(), std::move(wish), std::move(answer));
+              },
+          .drop = [this] { form.awaited().drop(kViewer); }};
 }
 
 // One viewer at a time; another picture takes the place of the one that it shows.

@@ -50,6 +50,7 @@ class SettingsDialog {
   void connect();
   void save();
   void openViewer();
+  auxwin::AheadSource aheadOfViewer();
   void enterPicturesFolder();
   std::string listsLastFolder() const;
   void closed();
@@ -58,8 +59,9 @@ class SettingsDialog {
   DialogServices services_;
   os::EventLoop& loop_;
   os::Shell& shell_;
-  std::string lastFolder_;  // from which pictures were added last
-  bool telling_ = false;    // of an error
+  std::string lastFolder_;     // from which pictures were added last
+  int importsSubfolders_ = 0;  // 1: the last import was told to
+  bool telling_ = false;       // of an error
 };
 
 }  // namespace dialog

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "base/color.h"
 #include "base/font.h"
@@ -55,6 +56,9 @@ class Dialogs {
 
   virtual Answer messageBox(const std::string& text, std::uint32_t style) = 0;
   virtual std::optional<std::string> openFile(const OpenFileRequest& request) = 0;
+  // Several files of one folder, in no order; none when the user cancelled.
+  virtual std::vector<std::string> openFiles(const OpenFileRequest& request) = 0;
+
   virtual std::optional<base::PackedColor> chooseColor(const ColorRequest& request) = 0;
   virtual std::optional<ChosenFont> chooseFont(const FontRequest& request) = 0;
 };

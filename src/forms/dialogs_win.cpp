@@ -1,11 +1,14 @@
 #include "forms/dialogs_win.h"
 
+#include <cderr.h>
 #include <commdlg.h>
 
 #include <algorithm>
-#include <cwchar>
+#include <stdexcept>
 #include <string>
+#include <string_view>
 
+#include "forms/file_name.h"
 #include "forms/surface_win.h"
 #include "os/screen_win.h"
 #include "os/text_renderer_win.h"
@@ -17,6 +20,7 @@ namespace {
 
 constexpr wchar_t kTitle[] = L"Lumora Screen Saver";
 constexpr std::size_t kLongestPath = 32768;
+constexpr std::size_t kLongestSelection = 4'000'000;  // letters of all names: more than a folder has
 
 // The system separates the parts by zeros, with one more at the end.
 std::wstring FilterOf(const std::string& filter) {
@@ -26,6 +30,26 @@ std::wstring FilterOf(const std::string& filter) {
   return parts;
 }
 
+// What the user chose, as the system writes it into as many letters; nothing when they cancelled.
+std::optional<std::wstring> AskForFiles(HWND owner, const OpenFileRequest& request, DWORD furtherFlags,
+                                        std::size_t letters) {
+  const std::wstring filter = FilterOf(request.filter);
+  const std::wstring title = os::ToWide(request.title);
+  std::wstring chosen(letters, L'\0');
+  OPENFILENAMEW open{};
+  open.lStructSize = sizeof(open);
+  open.hwndOwner = owner;
+  open.lpstrFilter = filter.c_str();
+  open.nFilterIndex = 1;
+  open.lpstrFile = chosen.data();
+  open.nMaxFile = static_cast<DWORD>(chosen.size());
+  open.lpstrTitle = title.c_str();
+  // The program goes on working in its own folder.
+  open.Flags = request.flags | furtherFlags | OFN_EXPLORER | OFN_NOCHANGEDIR;
+  if (GetOpenFileNameW(&open)) return chosen;
+  if (CommDlgExtendedError() == FNERR_BUFFERTOOSMALL) throw std::length_error("Too many files are selected.");
+  return std::nullopt;
+}
 
 }  // namespace
 
@@ -43,22 +67,17 @@ Answer DialogsWin::messageBox(const std::string& text, std::uint32_t style) {
 }
 
 std::optional<std::string> DialogsWin::openFile(const OpenFileRequest& request) {
-  const std::wstring filter = FilterOf(request.filter);
-  const std::wstring title = os::ToWide(request.title);
-  std::wstring path(kLongestPath, L'\0');
-  OPENFILENAMEW open{};
-  open.lStructSize = sizeof(open);
-  open.hwndOwner = owner_();
-  open.lpstrFilter = filter.c_str();
-  open.nFilterIndex = 1;
-  open.lpstrFile = path.data();
-  open.nMaxFile = static_cast<DWORD>(path.size());
-  open.lpstrTitle = title.c_str();
-  // The program goes on working in its own folder.
-  open.Flags = request.flags | OFN_EXPLORER | OFN_NOCHANGEDIR;
-  if (!GetOpenFileNameW(&open)) return std::nullopt;
-  path.resize(std::wcslen(path.c_str()));
-  return os::FromWide(path);
+  std::optional<std::wstring> chosen = AskForFiles(owner_(), request, 0, kLongestPath);
+  if (!chosen) return std::nullopt;
+  return os::FromWide(chosen->c_str());
+}
+
+std::vector<std::string> DialogsWin::openFiles(const OpenFileRequest& request) {
+  std::optional<std::wstring> chosen =
+      AskForFiles(owner_(), request, OFN_ALLOWMULTISELECT, kLongestSelection);
+  if (!chosen) return {};
+  chosen->resize(chosen->find(std::wstring_view(L"\0", 2)));
+  return FilesOfSelection(os::FromWide(*chosen));
 }
 
 std::optional<base::PackedColor> DialogsWin::chooseColor(const ColorRequest& request) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/text.h"
+#include "os/paths.h"
 
 namespace forms {
 
@@ -63,6 +64,22 @@ std::vector<std::string> FoldersOnTheWay(const std::string& path) {
   }
   if (!whole.empty()) way.push_back(whole);
   return way;
+}
+
+std::vector<std::string> FilesOfSelection(std::string_view selection) {
+  const std::string folder(selection.substr(0, selection.find('\0')));
+  std::vector<std::string> files;
+  for (std::size_t end = folder.size(); end < selection.size();) {
+    const std::size_t begin = end + 1;
+    end = std::min(selection.find('\0', begin), selection.size());
+    std::string name(selection.substr(begin, end - begin));
+    if (name.empty()) continue;
+    // What the system found elsewhere, such as in a search, comes with its whole path.
+    const bool isWhole = name.find('\\') != std::string::npos;
+    files.push_back(isWhole ? std::move(name) : os::JoinPath(folder, name));
+  }
+  if (files.empty() && !folder.empty()) files.push_back(folder);
+  return files;
 }
 
 std::string LastName(const std::string& path) {

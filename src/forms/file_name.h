@@ -17,6 +17,10 @@ std::string WithoutTrailingSlash(std::string folder);
 // The drive's root and every folder on the way to `path`, itself included, outermost first.
 std::vector<std::string> FoldersOnTheWay(const std::string& path);
 
+// The paths of a selection as the system's dialog writes it, its parts between zeros: a folder and the names
+// of files in it, or one whole path.
+std::vector<std::string> FilesOfSelection(std::string_view selection);
+
 // The last part of a path; a drive's root is its own name.
 std::string LastName(const std::string& path);
 

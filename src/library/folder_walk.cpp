@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/natural_order.h"
 #include "base/text.h"
 
 namespace library {
@@ -17,6 +18,14 @@ std::string WithBackslash(std::string folder) {
 // Whether a folder lies in another or is the other, each with its backslash.
 bool IsIn(std::string_view folder, std::string_view outer) {
   return base::EqualAsciiBlind(folder.substr(0, outer.size()), outer);
+}
+
+// Pictures as cameras number them, in the order in which most file systems name them.
+bool IsSortedAnyway(const std::vector<std::string>& names) {
+  const auto isNotBefore = [](const std::string& a, const std::string& b) {
+    return !base::IsNumberedBefore(a, b);
+  };
+  return std::adjacent_find(names.begin(), names.end(), isNotBefore) == names.end();
 }
 
 }  // namespace
@@ -37,8 +46,10 @@ void FolderWalk::read(const std::string& below) {
   auto entries = reader_.read(root_ + below);
   if (!entries) {
     if (below.empty()) away_ = true;
+    ++foldersPassedOver_;
     return;
   }
+  ++foldersRead_;
   std::vector<std::string> files;
   std::vector<std::string> folders;
   std::vector<std::string> links;
@@ -55,8 +66,7 @@ void FolderWalk::read(const std::string& below) {
 }
 
 void FolderWalk::take(const std::string& below, std::vector<std::string> names) {
-  reader_.sortNames(names);
-  pictures_.reserve(pictures_.size() + names.size());
+  if (!IsSortedAnyway(names)) reader_.sortNames(names);
   for (const std::string& name : names) pictures_.push_back(below + name);
   // Not at each folder, so that the cutting is no work to speak of.
   if (pictures_.size() > 2 * rules_.most) rules_.choice.cut(pictures_, root_, rules_.most);

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "library/day_choice.h"
@@ -36,6 +37,11 @@ class FolderWalk {
   // The folder with a backslash at its end, and the paths below it, so far.
   const std::string& root() const { return root_; }
   const std::vector<std::string>& pictures() const { return pictures_; }
+  std::vector<std::string> takePictures() { return std::move(pictures_); }
+
+  // Folders that were read, and those that could not be and were passed over, so far.
+  int foldersRead() const { return foldersRead_; }
+  int foldersPassedOver() const { return foldersPassedOver_; }
 
  private:
   void read(const std::string& below);
@@ -49,6 +55,8 @@ class FolderWalk {
   std::vector<std::string> pending_;  // folders below the root, each with its backslash; the next one last
   std::vector<std::string> trees_;  // final paths of the root and of the links followed, once there is a link
   std::vector<std::string> pictures_;
+  int foldersRead_ = 0;
+  int foldersPassedOver_ = 0;
   bool away_ = false;
 };
 

@@ -25,6 +25,6 @@ FollowedFolders::FollowedFolders(Services services, FollowRequest request)
 
 FollowedFolders::~FollowedFolders() { following_->stop(); }
 
-std::shared_ptr<const std::vector<std::string>> FollowedFolders::news() { return following_->news(); }
+std::optional<std::vector<std::string>> FollowedFolders::news() { return following_->news(); }
 
 }  // namespace library

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,8 +30,8 @@ class PictureFollower {
  public:
   virtual ~PictureFollower() = default;
 
-  // Whole paths, when they are others than at the last call; else null. Never waits.
-  virtual std::shared_ptr<const std::vector<std::string>> news() = 0;
+  // Whole paths, when they are others than at the last call; else nothing. Never waits.
+  virtual std::optional<std::vector<std::string>> news() = 0;
 };
 
 // A thread for each folder asks the file system, since a disk that starts up or a share that does not answer
@@ -47,6 +48,7 @@ class FollowedFolders : public PictureFollower {
     std::shared_ptr<os::Files> files;
     std::shared_ptr<os::FolderReader> reader;
     std::shared_ptr<const os::Clock> clock;
+    std::function<void()> enterThread = nullptr;  // first thing on each thread: to give way to the show
   };
 
   FollowedFolders(Services services, FollowRequest request);
@@ -54,7 +56,7 @@ class FollowedFolders : public PictureFollower {
   FollowedFolders(const FollowedFolders&) = delete;
   FollowedFolders& operator=(const FollowedFolders&) = delete;
 
-  std::shared_ptr<const std::vector<std::string>> news() override;
+  std::optional<std::vector<std::string>> news() override;
 
  private:
   std::shared_ptr<Following> following_;

@@ -36,6 +36,7 @@ Following::Following(FollowedFolders::Services services, FollowRequest request)
 
 void Following::follow(std::size_t number) noexcept {
   try {
+    if (services_.enterThread) services_.enterThread();
     followFolder(number);
   } catch (const std::exception&) {
     // Without memory the folder's list stays as it is.
@@ -114,18 +115,16 @@ void Following::combine() {
     std::erase_if(found, [&](const auto& entry) { return numberOf(entry) > limit; });
     if (found.size() > request_.most) found.resize(request_.most);
   }
-  auto whole = std::make_shared<std::vector<std::string>>();
-  whole->reserve(found.size());
-  for (const auto& [folder, picture] : found) whole->push_back(folder->root + *picture);
+  std::vector<std::string> whole;
+  whole.reserve(found.size());
+  for (const auto& [folder, picture] : found) whole.push_back(folder->root + *picture);
   list_ = std::move(whole);
-  isNews_ = true;
 }
 
-std::shared_ptr<const std::vector<std::string>> Following::news() {
+std::optional<std::vector<std::string>> Following::news() {
   const std::unique_lock lock(mutex_, std::try_to_lock);
-  if (!lock || !isNews_) return nullptr;
-  isNews_ = false;
-  return std::exchange(list_, nullptr);
+  if (!lock) return std::nullopt;
+  return std::exchange(list_, std::nullopt);
 }
 
 void Following::readIndexOnce() {

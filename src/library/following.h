@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -26,7 +27,7 @@ class Following {
   // The threads end as soon as they come back from the system. Waits for them a moment, not for ever.
   void stop();
 
-  std::shared_ptr<const std::vector<std::string>> news();
+  std::optional<std::vector<std::string>> news();
 
   void threadBegins();
   void threadEnds();
@@ -59,9 +60,8 @@ class Following {
   int threads_ = 0;
   bool stopping_ = false;
   std::vector<Folder> folders_;
-  std::shared_ptr<const std::vector<std::string>> list_;
-  bool isNews_ = false;
-  std::uint64_t combinedOn_ = 0;  // the day whose choice the list is, if it is a choice
+  std::optional<std::vector<std::string>> list_;  // that nobody has asked for yet
+  std::uint64_t combinedOn_ = 0;                  // the day whose choice the list is, if it is a choice
 
   std::mutex indexMutex_;  // for the file; taken before mutex_ where both are
   KeptFile index_;

@@ -31,8 +31,11 @@ SharedPicture DrawAhead(const Picture& file, base::PixelSize shown) {
 }
 
 AheadLoader::AheadLoader(std::shared_ptr<PictureLoader> loader, os::EventLoop& loop,
-                         os::MakeWorker makeWorker)
-    : loader_(std::move(loader)), loop_(loop), makeWorker_(std::move(makeWorker)) {}
+                         os::MakeWorker makeWorker, IsThere isThere)
+    : loader_(std::move(loader)),
+      loop_(loop),
+      makeWorker_(std::move(makeWorker)),
+      isThere_(std::move(isThere)) {}
 
 AheadLoader::~AheadLoader() {
   if (patience_) loop_.stopTimer(*patience_);
@@ -67,11 +70,32 @@ void AheadLoader::drop(Ticket ticket) {
 }
 
 void AheadLoader::beginFirst() {
-  if (standing_.empty() || waiting_ != Waiting::Nothing) return;
+  if (rests_ || standing_.empty() || waiting_ != Waiting::Nothing) return;
   waiting_ = waitingForFirst();
   if (waiting_ == Waiting::Job) startJob(standing_.front().wish);
+  startPatience();
+}
+
+void AheadLoader::startPatience() {
   const bool isAnswered = waiting_ == Waiting::Kept || waiting_ == Waiting::Refusal;
   patience_ = loop_.startTimer(isAnswered ? kAtOnceMs : kPatienceMs, [this] { patienceEnded(); });
+}
+
+void AheadLoader::rest() {
+  rests_ = true;
+  if (patience_) loop_.stopTimer(*std::exchange(patience_, std::nullopt));
+}
+
+void AheadLoader::goOn() {
+  if (!std::exchange(rests_, false)) return;
+  if (waiting_ != Waiting::Nothing) startPatience();
+  // In whose answers it may be told to rest again.
+  while (!rests_ && !doneMeanwhile_.empty()) {
+    const std::int64_t job = doneMeanwhile_.front();
+    doneMeanwhile_.pop_front();
+    jobDone(job);
+  }
+  beginFirst();
 }
 
 AheadLoader::Waiting AheadLoader::waitingForFirst() const {
@@ -91,10 +115,13 @@ void AheadLoader::startJob(const Wish& wish) {
   made_ = std::make_shared<Made>();
   const std::int64_t job = ++lastJob_;
   worker_->run(
-      [loader = loader_, path = wish.path, prepare = wish.prepare, made = made_] {
+      [loader = loader_, isThere = isThere_, path = wish.path, prepare = wish.prepare, made = made_] {
         try {
           const SharedPicture file = loader->open(path);
-          if (!file) return;
+          if (!file) {
+            if (isThere && !isThere(path)) made->failure = PictureFailure::Missing;
+            return;
+          }
           made->failure = PictureFailure::NotDrawn;
           made->picture = prepare(*file);
         } catch (const std::exception&) {
@@ -105,6 +132,10 @@ void AheadLoader::startJob(const Wish& wish) {
 }
 
 void AheadLoader::jobDone(std::int64_t job) {
+  if (rests_) {
+    doneMeanwhile_.push_back(job);
+    return;
+  }
   const auto late = std::ranges::find(hanging_, job, &Hanging::job);
   if (late != hanging_.end()) {
     arrivedLate(late);

@@ -46,8 +46,13 @@ class AheadLoader {
       2;  // that stand at a time, dropped ones aside, if no more are allowed
   static constexpr std::size_t kMostHanging = 8;  // threads left to themselves at a time
 
-  // The loader is used on the loading threads alone, and lives as long as one of them does.
-  AheadLoader(std::shared_ptr<PictureLoader> loader, os::EventLoop& loop, os::MakeWorker makeWorker);
+  // Whether there is a file at a path, whatever it holds.
+  using IsThere = std::function<bool(const std::string& path)>;
+
+  // The loader is used on the loading threads alone, and lives as long as one of them does; so is `isThere`,
+  // which is asked about what cannot be opened, if there is one.
+  AheadLoader(std::shared_ptr<PictureLoader> loader, os::EventLoop& loop, os::MakeWorker makeWorker,
+              IsThere isThere = nullptr);
   ~AheadLoader();
   AheadLoader(const AheadLoader&) = delete;
   AheadLoader& operator=(const AheadLoader&) = delete;
@@ -61,6 +66,14 @@ class AheadLoader {
 
   // The wish is not answered any more. A picture that is being loaded for it is loaded to its end.
   void drop(Ticket ticket);
+
+  // Nothing is begun, answered or passed over any more; wishes and drops are noted. A picture that is being
+  // loaded is loaded to its end.
+  void rest();
+
+  // Goes on after a rest. The picture that is waited for gets its whole time anew: its disk may have slept
+  // too.
+  void goOn();
 
   // Told of what cannot be shown, before the answer of null.
   std::function<void(const std::string& path, PictureFailure failure)> onFailure;
@@ -101,12 +114,14 @@ class AheadLoader {
   void jobDone(std::int64_t job);
   void arrivedLate(std::deque<Hanging>::iterator hanging);
   void patienceEnded();
+  void startPatience();
   void answerFirst(SharedPicture picture, PictureFailure failure);
   bool hangsWith(const Wish& wish) const;
 
   std::shared_ptr<PictureLoader> loader_;
   os::EventLoop& loop_;
   os::MakeWorker makeWorker_;
+  IsThere isThere_;
   std::deque<Standing> standing_;
   Waiting waiting_ = Waiting::Nothing;
   std::optional<os::EventLoop::TimerId> patience_;
@@ -115,6 +130,8 @@ class AheadLoader {
   std::deque<Hanging> hanging_;
   std::optional<Kept> kept_;  // came too late for its wish, and waits for the next one
   std::size_t mostWishes_ = kMostWishes;
+  bool rests_ = false;
+  std::deque<std::int64_t> doneMeanwhile_;  // jobs whose end is to be told after the rest
   std::int64_t lastJob_ = 0;
   Ticket lastTicket_ = 0;
 };

@@ -38,6 +38,7 @@ enum class PictureFailure {
   NotOpened,  // missing, in use, or of no kind that can be read
   NotDrawn,   // broken, changed since it was opened, or too large to decode
   Late,       // not there in time, and may come later
+  Missing,    // where somebody has asked already whether it is there
 };
 
 class PictureLoader {

@@ -69,6 +69,9 @@ class Face : public forms::Form {
   bool pictureShown() const { return pictureShown_; }
   std::int16_t captionHeight() const { return caption_.bandHeight(); }
 
+  // Pictures come from the loader, and nothing waits for a disk.
+  bool loadsAhead() const { return settings_.record.loadAhead == "1"; }
+
   void DrawBackground();
   void LoadCurrentPicture();
   void ScalePicture();
@@ -121,7 +124,6 @@ class Face : public forms::Form {
   void moveFloating();
 
   bool floats() const { return settings_.record.picRandom != "cent"; }
-  bool loadsAhead() const { return settings_.record.loadAhead == "1"; }
   int changeIntervalMs() const;
 
   Stage& stage() { return face_.stage; }

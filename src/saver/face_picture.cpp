@@ -1,4 +1,6 @@
 // The picture of a screen: loaded, scaled to the share of the screen that it may take, placed, floating.
+#include <utility>
+
 #include "base/number_text.h"
 #include "base/rounding.h"
 #include "base/twips.h"
@@ -35,8 +37,13 @@ void Face::prepareNext() {
 
 // The old picture stands until the new one is there, or is known not to come.
 void Face::awaitPicture() {
-  const auto wish = loadsAhead() ? wishFor(currentImageIndex_) : std::nullopt;
-  if (wish) next_.wait(*wish, isOver_);
+  if (!loadsAhead()) return;
+  for (auto wish = wishFor(currentImageIndex_); wish && !isOver_();) {
+    next_.wait(*wish, isOver_);
+    auto now = wishFor(currentImageIndex_);  // on the screen as it has become
+    if (now && now->isSameAs(*wish)) return;
+    wish = std::move(now);
+  }
 }
 
 void Face::LoadCurrentPicture() {

@@ -191,7 +191,7 @@ void Form1::PickFloatDirection() {
 
 void Form1::FloatTimer_Timer() {
   // A tick in a wait of a change must not move the picture that is being drawn.
-  if (change_ != ChangeState::None) return;
+  if (drawsChange()) return;
   reseed();
   for (Face* face : faces()) face->moveFloating();
 }

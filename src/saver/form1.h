@@ -107,6 +107,9 @@ class Form1 : public Face {
   void unload();
   bool isOver() const { return unloaded_ || services_.loop.isQuitting(); }
 
+  // On any thread, when the program has crashed: see PictureOrder.
+  void rememberAfterCrash() noexcept { order_.saveAfterCrash(); }
+
   const settings::SaverSettings& settings() const { return settings_; }
 
   // The primary screen's part of the window, in its pixels, as everything was laid out last.
@@ -126,9 +129,10 @@ class Form1 : public Face {
   void FloatTimer_Timer();
 
  private:
-  // Where a change of pictures stands. Timers that tick in its waits start no other. When a screen changes
-  // meanwhile, what its effect drew is for another screen, and the effect is given up.
-  enum class ChangeState { None, UnderWay, EffectGivenUp };
+  // Where a change of pictures stands. Timers that tick in its waits start no other. As long as the new
+  // picture is awaited, the old one goes on as between two changes. When the screen changes later, what the
+  // effect drew is for another screen, and the effect is given up.
+  enum class ChangeState { None, Awaiting, UnderWay, EffectGivenUp };
   class ChangeScope;
 
   static constexpr std::size_t kWishesOfAFace = 2;  // a picture and a background
@@ -171,6 +175,7 @@ class Form1 : public Face {
   void addFurther(const FurtherScreen& screen);
   void layOutFace(Face& face);
   void moveFurther(Face& face, const base::PixelRect& area);
+  bool drawsChange() const { return change_ != ChangeState::None && change_ != ChangeState::Awaiting; }
   void pauseAfterRetiring();
   void runEffectOn(const std::vector<Face*>& faces);
   void ReplaceByWayOfBackground();

@@ -39,7 +39,7 @@ bool ShowsNothing(const pictures::SharedPicture& picture) {
 class Form1::ChangeScope {
  public:
   explicit ChangeScope(Form1& show) : show_(show) {
-    show_.change_ = ChangeState::UnderWay;
+    show_.change_ = ChangeState::Awaiting;
     show_.changing_ = show_.faces();
   }
   ~ChangeScope() {
@@ -65,6 +65,7 @@ void Form1::ShowNextPicture() {
     face->awaitPicture();
     if (isOver()) return;
   }
+  change_ = ChangeState::UnderWay;
   for (Face* face : changing_) face->clearForChange();
   if (look().changesWithoutPause()) {
     ReplacePictures();

@@ -51,6 +51,7 @@ void Form1::ScreenChanged() {
 }
 
 void Form1::leaveBackground() {
+  if (!services_.screen.primarySize().isEmpty()) services_.window.cover(areaToCover());
   for (Face* face : faces()) {
     for (forms::Control* control : face->controls()) {
       if (control != &face->BgrImage) control->setVisible(false);
@@ -62,8 +63,8 @@ void Form1::leaveBackground() {
 
 void Form1::layOutFace(Face& face) {
   // The change goes on behind its effect, which notices at its next step.
-  if (change_ != ChangeState::None) change_ = ChangeState::EffectGivenUp;
-  face.layOutAgain(change_ != ChangeState::None);
+  if (drawsChange()) change_ = ChangeState::EffectGivenUp;
+  face.layOutAgain(drawsChange());
 }
 
 void Form1::setFurtherScreens(std::span<const FurtherScreen> screens) {

@@ -66,18 +66,18 @@ bool PictureOrder::isDeck() const {
 
 bool PictureOrder::takeNews() {
   if (!follower_) return false;
-  const auto followed = follower_->news();
+  auto followed = follower_->news();
   if (!followed) return false;
-  putBehindOwn(*followed);
+  putBehindOwn(std::move(*followed));
   return true;
 }
 
-// The last entry of both lists stays empty.
-void PictureOrder::putBehindOwn(const std::vector<std::string>& followed) {
+// The last entry of both lists stays empty. A frame may be due, so no path is copied.
+void PictureOrder::putBehindOwn(std::vector<std::string> followed) {
   paths().resize(ownCount_);
   paths().reserve(ownCount_ + followed.size() + 1);
-  for (const std::string& path : followed) {
-    if (!hidden_.contains(library::PathHash(path))) paths().push_back(path);
+  for (std::string& path : followed) {
+    if (hidden_.empty() || !hidden_.contains(library::PathHash(path))) paths().push_back(std::move(path));
   }
   settings_.lastImageIndex = static_cast<std::int16_t>(paths().size() - 1);
   paths().emplace_back();
@@ -114,11 +114,22 @@ std::int16_t PictureOrder::nextInList() const {
 
 void PictureOrder::shown(std::int16_t index) {
   if (index < 0 || index > settings_.lastImageIndex) return;
+  const std::lock_guard lock(stateMutex_);
   state_.position = {.roundSeed = dealtRound_, .lastPath = paths()[static_cast<std::size_t>(index)]};
   state_.lastIndex = static_cast<std::uint32_t>(index);
 }
 
 void PictureOrder::save() noexcept {
+  const std::lock_guard lock(stateMutex_);
+  write();
+}
+
+void PictureOrder::saveAfterCrash() noexcept {
+  const std::unique_lock lock(stateMutex_, std::try_to_lock);
+  if (lock) write();
+}
+
+void PictureOrder::write() noexcept {
   if (!resumes_ || state_.position.lastPath.empty()) return;
   try {
     stateFile_.save(library::PayloadOf(state_));

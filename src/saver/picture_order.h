@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <unordered_set>
@@ -65,14 +66,19 @@ class PictureOrder {
   // Remembers for the next show. Never throws; what cannot be written is forgotten.
   void save() noexcept;
 
+  // The same from any thread, when the show has crashed. Waits for nobody: when the show got no further than
+  // the middle of remembering, what it remembered before stands.
+  void saveAfterCrash() noexcept;
+
  private:
   bool isDeck() const;
   std::vector<std::string>& paths() { return settings_.imageFiles; }
   std::size_t count() const { return static_cast<std::size_t>(settings_.lastImageIndex + 1); }
   std::optional<std::int16_t> deal(const library::DeckPosition& behind, const DrawSeed& drawSeed);
   void readState();
+  void write() noexcept;
   void leaveOutHidden();
-  void putBehindOwn(const std::vector<std::string>& followed);
+  void putBehindOwn(std::vector<std::string> followed);
 
   settings::SaverSettings& settings_;
   LibraryServices services_;
@@ -80,6 +86,7 @@ class PictureOrder {
   library::KeptFile stateFile_;
   std::unique_ptr<library::PictureFollower> follower_;
   library::ShowState state_;
+  std::mutex stateMutex_;                     // for a crash on another thread, which looks at the state
   std::unordered_set<std::uint64_t> hidden_;  // hashes of the paths that are not to be shown
   std::uint64_t dealtRound_ = 0;              // of the picture that was dealt last
   std::size_t ownCount_ = 0;                  // pictures of the settings' list

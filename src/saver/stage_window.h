@@ -18,7 +18,8 @@ class StageWindow {
   // Places the window over `area` of the screen, above everything, and shows it without taking the focus.
   virtual void cover(base::PixelRect area) = 0;
 
-  // Shows the window again where it stands, with the keyboard's focus.
+  // Shows the window again where it stands, with the keyboard's focus. From the first time on there is news
+  // of the display's power.
   virtual void activate() = 0;
 
   // The window as the system knows it.
@@ -40,9 +41,10 @@ class StageWindow {
   std::function<void(int keyCode)> onKeyDown;
   std::function<void(base::PixelPoint)> onMouseDown;
   std::function<void(base::PixelPoint)> onMouseMove;
-  std::function<void()> onCloseRequest;   // somebody asks the window politely to go
-  std::function<void()> onSessionEnd;     // the user's session ends now
-  std::function<void()> onScreenChanged;  // size or arrangement of the screens
+  std::function<void()> onCloseRequest;           // somebody asks the window politely to go
+  std::function<void()> onSessionEnd;             // the user's session ends now
+  std::function<void()> onScreenChanged;          // size or arrangement of the screens
+  std::function<void(bool isOn)> onDisplayPower;  // the display went on or off; one that is dimmed is on
 };
 
 }  // namespace saver

@@ -2,6 +2,7 @@
 
 #include <windowsx.h>
 
+#include "os/display_power_win.h"
 #include "os/window_class_win.h"
 
 namespace saver {
@@ -38,9 +39,11 @@ void StageWindowWin::activate() {
   ShowWindow(window_.get(), SW_SHOW);
   SetForegroundWindow(window_.get());
   SetFocus(window_.get());
+  if (!displayPower_) displayPower_ = os::AskForDisplayPower(window_.get());
 }
 
 void StageWindowWin::close() {
+  displayPower_.reset();
   if (window_) os::LeaveWindow(window_.get());
   window_.reset();
   owner_.reset();
@@ -118,6 +121,9 @@ LRESULT StageWindowWin::receive(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_DPICHANGED:  // the size that comes with it is for windows that do not cover a screen
       raise(onScreenChanged);
       return 0;
+    case WM_POWERBROADCAST:
+      if (const std::optional<bool> isOn = os::DisplayIsOn(wParam, lParam)) raise(onDisplayPower, *isOn);
+      return TRUE;
     default:
       break;
   }

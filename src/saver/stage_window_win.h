@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <memory>
 #include <optional>
 
 #include "os/dib_win.h"
@@ -32,6 +33,7 @@ class StageWindowWin : public StageWindow {
   os::EventLoop& loop_;
   os::OwnedWindow owner_;  // never shown
   os::OwnedWindow window_;
+  std::shared_ptr<void> displayPower_;  // the system's news of it
   std::optional<os::Dib> back_;
   base::PixelSize size_;
 };

@@ -29,7 +29,7 @@ struct SettingsRecord {
   std::string countdownMonth, countdownDay, countdownYear;
   // [extras]: settings beyond the documented file; each is empty when absent
   std::string transitionTime, fit, surround, change, panZoom, otherScreens, matchOrientation, livePreview,
-      log, loadAhead, shuffle, resume, subfolders;
+      log, loadAhead, shuffle, resume, subfolders, moreFormats;
 };
 
 // A setting's text in the record.
@@ -103,6 +103,7 @@ inline constexpr auto kExtraKeys = std::to_array<Key>({
     {"extras", "shuffle", &SettingsRecord::shuffle, ""},
     {"extras", "resume", &SettingsRecord::resume, ""},
     {"extras", "subfolders", &SettingsRecord::subfolders, ""},
+    {"extras", "moreFormats", &SettingsRecord::moreFormats, ""},
 });
 // clang-format on
 

@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <exception>
+#include <functional>
 
 #include "startup/system_restore.h"
 
@@ -17,10 +18,16 @@ class CrashGuard {
  public:
   explicit CrashGuard(SystemRestore& restore);
   ~CrashGuard();
+
+  // What a crash does besides, once the system has been put back; null: nothing. It runs on a thread of its
+  // own, with a stack and a second of its own, and the process ends whatever becomes of it.
+  void setFarewell(std::function<void()> farewell);
+
   CrashGuard(const CrashGuard&) = delete;
   CrashGuard& operator=(const CrashGuard&) = delete;
 
  private:
+  std::function<void()> farewell_;
   LPTOP_LEVEL_EXCEPTION_FILTER filterBefore_;
   std::terminate_handler terminateBefore_;
   void (*abortBefore_)(int);

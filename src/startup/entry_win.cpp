@@ -31,6 +31,7 @@
 #include "startup/main.h"
 #include "startup/preview.h"
 #include "startup/show.h"
+#include "startup/workers_win.h"
 
 namespace {
 
@@ -80,6 +81,8 @@ class SaverMode {
     show_.start();
   }
 
+  void rememberAfterCrash() noexcept { show_.rememberAfterCrash(); }
+
  private:
   saver::StageWindowWin window_;
   os::TextRendererWin text_;
@@ -100,7 +103,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
   os::LoadLibrariesFromSystemFolderOnly();
   Machine machine;
   startup::SystemRestore restore(*machine.desktop);
-  const startup::CrashGuard guard(restore);
+  startup::CrashGuard guard(restore);
   std::unique_ptr<SaverMode> saver;
   std::unique_ptr<dialog::SettingsDialogWin> settings;
   const startup::RunModes modes{
@@ -108,18 +111,20 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
           [&](const os::SystemFacts& facts) {
             machine.files.enterFolder(machine.programFolder);
             saver = std::make_unique<SaverMode>(machine, restore, facts);
+            guard.setFarewell([&show = *saver] { show.rememberAfterCrash(); });
           },
       .showDialog =
           [&] {
             settings = std::make_unique<dialog::SettingsDialogWin>(
                 dialog::DialogMachineWin{machine.loop, machine.savedFiles, machine.ansi, machine.pictures,
-                                         machine.ahead.get()},
+                                         machine.ahead.get(), startup::MakeWorkers(machine.loop)},
                 machine.programFolder);
           },
       .drawPreview = [&](const std::string& text) { DrawPreview(machine, text); }};
   startup::Main(startup::TextAfterProgramName(machine.facts->commandLine(), machine.facts->programPath()),
                 {*machine.facts, *machine.only, *machine.passwords, restore, machine.screen}, modes);
   if (saver || settings) machine.loop.run();
+  guard.setFarewell(nullptr);
   saver.reset();
   settings.reset();
   restore.restore();

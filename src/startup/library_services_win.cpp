@@ -20,6 +20,9 @@ std::string LocalFolder() {
   return folder.empty() ? std::string() : os::FromWide(folder) + "\\Lumora";
 }
 
+// No frame of the show waits for a listing.
+void GiveWay() { SetThreadPriority(GetCurrentThread(), THREAD_PRIORITY_BELOW_NORMAL); }
+
 }  // namespace
 
 saver::LibraryServices MakeLibraryServices() {
@@ -28,7 +31,7 @@ saver::LibraryServices MakeLibraryServices() {
                 return std::make_unique<library::FollowedFolders>(
                     library::FollowedFolders::Services{std::make_shared<os::FilesWin>(),
                                                        std::make_shared<os::FolderReaderWin>(),
-                                                       std::make_shared<os::ClockWin>()},
+                                                       std::make_shared<os::ClockWin>(), GiveWay},
                     std::move(request));
               },
           .userFolder = LocalFolder(),

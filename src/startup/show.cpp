@@ -12,6 +12,9 @@ namespace startup {
 
 namespace {
 
+constexpr const char* kMissing = "picture: no such file: ";
+constexpr const char* kNotOpened = "picture: in use, or of no kind that can be read: ";
+
 // How many counted moves end the show. Settings that could not be loaded to their end may lack the number.
 double MovesToEnd(const std::string& mouseSensitivity) {
   constexpr double kUsual = 7;
@@ -20,6 +23,11 @@ double MovesToEnd(const std::string& mouseSensitivity) {
   } catch (const base::RunTimeError&) {
     return kUsual;
   }
+}
+
+saver::ShowServices InTime(const saver::ShowServices& s, saver::ShowTime& time) {
+  return {s.files,   s.ansi,  s.pictures, s.ahead,  time,      time,       s.screen,
+          s.desktop, s.dates, s.stage,    s.window, s.library, s.makeStage};
 }
 
 }  // namespace
@@ -31,7 +39,7 @@ Show::Show(const saver::ShowServices& services, const SaverExit::Services& exit,
       facts_(facts),
       makeWindow_(std::move(makeWindow)),
       log_(services.files, services.clock, programFolder),
-      form_(services, facts, programFolder),
+      form_(InTime(services_, time_), facts, programFolder),
       exit_(facts, exit,
             {.window = [this] { return services_.window.handle(); },
              .showFormAgain =
@@ -44,12 +52,19 @@ Show::Show(const saver::ShowServices& services, const SaverExit::Services& exit,
   services_.loop.setErrorHandler([this](const std::exception& error) { endByError(error); });
   services_.window.onSessionEnd = [this] { endWithoutAsking(); };
   services_.pictures.onFailure = [this](const std::string& path, pictures::PictureFailure failure) {
+    if (failure == pictures::PictureFailure::NotOpened) {
+      noteUnopened(path);
+    } else {
+      notePicture(path, failure);
+    }
+  };
+  services_.ahead.onFailure = [this](const std::string& path, pictures::PictureFailure failure) {
     notePicture(path, failure);
   };
-  services_.ahead.onFailure = services_.pictures.onFailure;
 }
 
 Show::~Show() {
+  form_.unload();  // where the loop has ended by itself
   services_.pictures.onFailure = nullptr;
   services_.ahead.onFailure = nullptr;
   services_.stage.onPlacesChanged = nullptr;
@@ -84,6 +99,7 @@ void Show::watchInput() {
   window.onMouseMove = [this](base::PixelPoint place) { mouseMoved(place); };
   window.onCloseRequest = [this] { exit_.ExitSaver(); };
   window.onScreenChanged = [this] { screenChanged(); };
+  window.onDisplayPower = [this](bool isOn) { displayPowerChanged(isOn); };
   services_.stage.onPlacesChanged = [this] {
     watch_->controlsMoved([this](base::PixelPoint place) { return pointedControl(place); });
   };
@@ -145,12 +161,27 @@ std::unique_ptr<Show::Cover> Show::makeCover() {
 
 void Show::screenChanged() {
   forgetPointer();
+  missedScreenChange_ = time_.standsStill();
+  if (missedScreenChange_) return;
   if (form_.isOver()) {
     leaveBackground();
   } else {
     form_.ScreenChanged();
   }
   coverOtherScreens();
+}
+
+// While nobody can see it the show stands still, and lets the disk sleep.
+void Show::displayPowerChanged(bool isOn) {
+  if (form_.isOver() || !form_.loadsAhead()) return;
+  if (!isOn) {
+    time_.standStill();
+    services_.ahead.rest();
+    return;
+  }
+  time_.goOn();
+  if (missedScreenChange_) screenChanged();
+  services_.ahead.goOn();
 }
 
 void Show::forgetPointer() {
@@ -209,12 +240,10 @@ void Show::decideOnLog() {
 void Show::notePicture(const std::string& path, pictures::PictureFailure failure) {
   switch (failure) {
     case pictures::PictureFailure::NotOpened:
-      // Asked when the log is on alone: a share that has gone lets whoever asks wait.
-      log_.note([&files = services_.files, path] {
-        return (files.exists(path) ? "picture: in use, or of no kind that can be read: "
-                                   : "picture: no such file: ") +
-               path;
-      });
+      log_.note(kNotOpened + path);
+      break;
+    case pictures::PictureFailure::Missing:
+      log_.note(kMissing + path);
       break;
     case pictures::PictureFailure::NotDrawn:
       log_.note("picture: broken, changed, or too large to decode: " + path);
@@ -223,6 +252,11 @@ void Show::notePicture(const std::string& path, pictures::PictureFailure failure
       log_.note("picture: not there in time: " + path);
       break;
   }
+}
+
+// Asked when the log is on alone: a share that has gone lets whoever asks wait.
+void Show::noteUnopened(const std::string& path) {
+  log_.note([&files = services_.files, path] { return (files.exists(path) ? kNotOpened : kMissing) + path; });
 }
 
 void Show::endByError(const std::exception& error) {
@@ -238,8 +272,7 @@ void Show::endByError(const std::exception& error) {
 // What runs of the show stops, and its windows go on covering the screens until the password is given.
 void Show::leaveBackground() {
   form_.unload();
-  const base::PixelSize screen = services_.screen.primarySize();
-  if (!screen.isEmpty()) services_.window.cover(base::PixelRect::ofSize(screen));
+  time_.goOn();
   form_.leaveBackground();
 }
 
@@ -251,6 +284,7 @@ void Show::endWithoutAsking() {
 
 void Show::unloadForm() {
   form_.unload();
+  time_.goOn();  // for a wait that it is in
   services_.window.close();
   for (const auto& cover : covers_) cover->window->close();
 }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "saver/form1.h"
+#include "saver/show_time.h"
 #include "startup/exit_saver.h"
 #include "startup/failure_log.h"
 #include "startup/input_watch.h"
@@ -31,6 +32,9 @@ class Show {
 
   saver::Form1& form() { return form_; }
 
+  // On any thread, when the program has crashed: what the next show needs to go on is kept.
+  void rememberAfterCrash() noexcept { form_.rememberAfterCrash(); }
+
  private:
   // A window on a further screen: black, or with a picture of the show.
   struct Cover {
@@ -44,6 +48,7 @@ class Show {
   void matchCovers(std::vector<base::PixelRect> areas);
   std::unique_ptr<Cover> makeCover();
   void screenChanged();
+  void displayPowerChanged(bool isOn);
   void mouseMoved(base::PixelPoint inWindow);
   void coverMouseMoved(Cover& cover, base::PixelPoint inside);
   void forgetPointer();
@@ -51,6 +56,7 @@ class Show {
   std::optional<PointedControl> pointedControl(base::PixelPoint onScreen) const;
   void decideOnLog();
   void notePicture(const std::string& path, pictures::PictureFailure failure);
+  void noteUnopened(const std::string& path);
   void endByError(const std::exception& error);
   void endWithoutAsking();
   void leaveBackground();
@@ -63,9 +69,11 @@ class Show {
   FailureLog log_;
   std::vector<std::unique_ptr<Cover>> covers_;      // one for each further screen
   std::vector<std::unique_ptr<Cover>> goneCovers_;  // closed; one of their events may still be under way
+  saver::ShowTime time_{services_.loop, services_.clock};
   saver::Form1 form_;                               // shows pictures in them
   SaverExit exit_;
   std::optional<InputWatch> watch_;
+  bool missedScreenChange_ = false;  // while the display was off
 };
 
 }  // namespace startup

@@ -2,11 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cctype>
 #include <chrono>
+#include <stdexcept>
 
 #include "support/fake_dialogs.h"
 #include "support/fake_files.h"
+#include "support/fake_folder_reader.h"
 #include "support/fake_window_system.h"
+#include "support/fake_workers.h"
 
 namespace auxwin {
 namespace {
@@ -15,6 +20,10 @@ using Paths = std::vector<std::string>;
 
 struct MultiFilesTest : testing::Test {
   support::FakeFiles disk;
+  support::FakeClock clock;
+  support::FakeEventLoop loop{clock};
+  support::FakeWorkers workers{loop};
+  std::shared_ptr<support::FakeFolderReader> folders = std::make_shared<support::FakeFolderReader>();
   support::FakeDialogs dialogs;
   support::FakeWindowSystem windows;
   forms::Form dialog{"Form2"};
@@ -24,6 +33,7 @@ struct MultiFilesTest : testing::Test {
   ManyImagesAdvice advice;
   std::vector<int> leftOut;
   Paths order;  // what happened, in order
+  std::string patterns = kImportedPatterns;
   std::unique_ptr<MultiFiles> form;
 
   MultiFilesTest() {
@@ -45,7 +55,7 @@ struct MultiFilesTest : testing::Test {
                         return path.size() > 30 ? std::nullopt : std::optional<std::string>(path);
                       },
                       [this](int count) { leftOut.push_back(count); }},
-        disk, dialogs, windows);
+        ImportServices{disk, dialogs, windows, loop, folders, workers.maker()}, patterns);
     windows.show(*form);
     return *form;
   }
@@ -204,6 +214,225 @@ TEST_F(MultiFilesTest, TheListsStandTogetherInAFrame) {
         static_cast<forms::Control*>(&opened.filFilenames)}) {
     EXPECT_EQ(list->container(), &opened.fraFileControls);
   }
+}
+
+TEST_F(MultiFilesTest, PatternsThatAreGivenSayWhatIsListed) {
+  patterns = "*.bmp;*.png";
+  disk.listed["C:\\photos"] = {"a.bmp", "b.jpg", "c.PNG"};
+  EXPECT_EQ(open().filFilenames.files(), (Paths{"a.bmp", "c.PNG"}));
+}
+
+// An import that looks below the folder, and what a person does meanwhile.
+struct TreeImport : MultiFilesTest {
+  TreeImport() {
+    for (const char* file :
+         {"2.jpg", "10.jpg", "notes.txt", "x.jif", "b\\sea.gif", "a\\deep\\x.BMP", "a\\1.dib"})
+      folders->addFile(std::string("C:\\photos\\") + file);
+    open().chkSubfolders.userClicked();
+  }
+};
+
+TEST_F(TreeImport, TheBoxIsNotCheckedAndWithoutItNoFolderIsLookedInto) {
+  MultiFiles& opened = open();
+  EXPECT_EQ(opened.chkSubfolders.value(), 0);
+  opened.Command1.userClicked();
+  EXPECT_EQ(List1.listCount(), 5) << "what the list shows";
+  EXPECT_EQ(folders->reads(), 0);
+}
+
+TEST_F(TreeImport, AFoldersOwnPicturesComeFirstAndThenThoseOfEachOfItsFolders) {
+  List1.addItem("first.gif");
+  photo_caption.addItem("First");
+  form->Command1.userClicked();
+  EXPECT_EQ(List1.items(),
+            (Paths{"first.gif", "C:\\photos\\2.jpg", "C:\\photos\\10.jpg", "C:\\photos\\a\\1.dib",
+                   "C:\\photos\\a\\deep\\x.BMP", "C:\\photos\\b\\sea.gif"}));
+  EXPECT_EQ(photo_caption.items(), (Paths{"First", "", "", "", "", ""}));
+  EXPECT_EQ(order, (Paths{"total 6", "selected 5"}));
+  EXPECT_EQ(form->addedFolder(), "C:\\photos");
+  EXPECT_FALSE(isOpen());
+  EXPECT_TRUE(dialogs.messages.empty());
+  EXPECT_EQ(workers.alive, 0);
+}
+
+TEST_F(TreeImport, AFolderThatIsOnlySelectedIsTheOneThatIsLookedInto) {
+  folders->addFile("C:\\photos\\sea\\deep\\wave.gif");
+  form->dirDirectories.userSelected(2);
+  form->Command1.userClicked();
+  EXPECT_EQ(List1.items(), Paths{"C:\\photos\\sea\\deep\\wave.gif"});
+}
+
+TEST_F(TreeImport, TheFormSaysHowFarItIsAndOnlyCancelTakesInput) {
+  workers.delayMs = [] { return std::optional(1000); };
+  std::string said;
+  bool usable = true;
+  bool cancels = false;
+  loop.postAfter(500, [&] {
+    said = form->lblProgress.caption();
+    usable = form->Command1.enabled() || form->chkSubfolders.enabled() || form->filFilenames.takesInput();
+    cancels = form->cmdQuit.takesInput();
+  });
+  form->Command1.userClicked();
+  EXPECT_EQ(said, "Looking for images: 0 images in 0 folders so far");
+  EXPECT_FALSE(usable);
+  EXPECT_TRUE(cancels);
+  EXPECT_EQ(List1.listCount(), 5);
+}
+
+TEST_F(TreeImport, CancelAddsNothingSaysSoAndLeavesTheFormOpen) {
+  workers.delayMs = [] { return std::optional<int>(); };  // a share that does not answer
+  loop.postAfter(500, [&] { form->cmdQuit.userClicked(); });
+  form->Command1.userClicked();
+  EXPECT_EQ(List1.listCount(), 0);
+  EXPECT_TRUE(order.empty());
+  ASSERT_TRUE(isOpen());
+  EXPECT_EQ(form->lblProgress.caption(), "Cancelled: no images were added.");
+  EXPECT_TRUE(form->Command1.enabled() && form->chkSubfolders.enabled() && form->filFilenames.takesInput());
+  EXPECT_EQ(form->addedFolder(), "");
+  EXPECT_EQ(workers.alive, 0) << "nobody waits for the share";
+  workers.comeBack();
+  EXPECT_EQ(List1.listCount(), 0) << "it comes back to nobody";
+  workers.delayMs = [] { return std::optional(20); };
+  form->Command1.userClicked();
+  EXPECT_EQ(List1.listCount(), 5) << "it can be tried again";
+}
+
+TEST_F(TreeImport, CancelledTwiceTheFormCloses) {
+  loop.postAfter(5, [&] { form->cmdQuit.userClicked(); });
+  form->Command1.userClicked();
+  ASSERT_TRUE(isOpen());
+  form->cmdQuit.userClicked();
+  EXPECT_FALSE(isOpen());
+  EXPECT_EQ(List1.listCount(), 0);
+}
+
+TEST_F(TreeImport, AFormThatIsClosedMeanwhileAddsNothing) {
+  loop.postAfter(5, [&] { windows.unload(*form); });
+  form->Command1.userClicked();
+  EXPECT_EQ(List1.listCount(), 0);
+  EXPECT_TRUE(order.empty());
+}
+
+TEST_F(TreeImport, TheEndOfTheProgramIsTheEndOfTheImport) {
+  workers.delayMs = [] { return std::optional<int>(); };
+  loop.postAfter(5, [&] { loop.quit(); });
+  form->Command1.userClicked();
+  EXPECT_EQ(List1.listCount(), 0);
+  EXPECT_TRUE(order.empty());
+}
+
+TEST_F(TreeImport, AFolderThatCannotBeReadIsSaidAndNothingIsAdded) {
+  folders->setAway("C:\\photos", true);
+  form->Command1.userClicked();
+  EXPECT_EQ(form->lblProgress.caption(), "The folder cannot be read.");
+  EXPECT_TRUE(isOpen());
+  EXPECT_EQ(List1.listCount(), 0);
+}
+
+TEST_F(TreeImport, FoldersThatArePassedOverAreSaid) {
+  folders->setAway("C:\\photos\\b", true);
+  form->Command1.userClicked();
+  EXPECT_EQ(List1.listCount(), 4);
+  ASSERT_EQ(dialogs.messages.size(), 1U);
+  EXPECT_EQ(dialogs.messages[0].text, "1 folder could not be read. The images in it were not added.");
+  EXPECT_EQ(dialogs.messages[0].style, 48U);
+  folders->setAway("C:\\photos\\a", true);
+  open().chkSubfolders.userClicked();
+  form->Command1.userClicked();
+  EXPECT_EQ(dialogs.messages.back().text, "2 folders could not be read. The images in them were not added.");
+}
+
+TEST_F(TreeImport, ATreeWithoutPicturesRewritesTheCountAndCloses) {
+  folders->addFile("D:\\empty\\deep\\notes.txt");
+  form->filFilenames.setPath("D:\\empty");
+  form->Command1.userClicked();
+  EXPECT_EQ(order, Paths{"total 0"});
+  EXPECT_FALSE(isOpen());
+}
+
+TEST_F(TreeImport, AnErrorOfTheSearchLeavesTheFormAsItWas) {
+  struct Failing : support::FakeFolderReader {
+    void sortNames(Paths&) override { throw std::bad_alloc(); }
+  };
+  folders = std::make_shared<Failing>();
+  folders->addFile("C:\\photos\\1.jpg");
+  open().chkSubfolders.userClicked();
+  EXPECT_THROW(form->Command1.userClicked(), std::bad_alloc);
+  EXPECT_EQ(List1.listCount(), 0);
+  EXPECT_TRUE(form->Command1.enabled());
+  EXPECT_EQ(form->lblProgress.caption(), "");
+}
+
+TEST_F(TreeImport, PathsThatCannotBeKeptAreLeftOutAndCounted) {
+  folders->addFile("C:\\photos\\a\\" + std::string(30, 'l') + ".gif");
+  form->Command1.userClicked();
+  EXPECT_EQ(List1.listCount(), 5);
+  EXPECT_EQ(leftOut, std::vector<int>{1});
+}
+
+TEST_F(MultiFilesTest, ALongListOfFilesSaysHowFarItIsAndCanBeCancelled) {
+  disk.listed["C:\\photos"].assign(1000, "x.gif");
+  open();
+  std::string said;
+  loop.post([&] {
+    said = form->lblProgress.caption();
+    form->cmdQuit.userClicked();
+  });
+  form->Command1.userClicked();
+  EXPECT_EQ(said, "Adding: 250 of 1000 images");
+  EXPECT_EQ(List1.listCount(), 0);
+  EXPECT_TRUE(isOpen());
+  EXPECT_EQ(form->lblProgress.caption(), "Cancelled: no images were added.");
+}
+
+TEST_F(MultiFilesTest, WithoutAReaderNobodyLooksBelowFolders) {
+  folders = nullptr;
+  EXPECT_FALSE(open().chkSubfolders.enabled());
+  form->Command1.userClicked();
+  EXPECT_EQ(List1.listCount(), 5);
+}
+
+TEST_F(MultiFilesTest, NothingOverlapsAndEverythingLiesInsideTheForm) {
+  MultiFiles& opened = open();
+  const auto& controls = opened.controls();
+  for (std::size_t i = 0; i < controls.size(); ++i) {
+    const forms::Control& a = *controls[i];
+    const float width = a.container() ? a.container()->width() : opened.clientWidth();
+    const float height = a.container() ? a.container()->height() : opened.clientHeight();
+    EXPECT_LE(a.left() + a.width(), width) << a.name();
+    EXPECT_LE(a.top() + a.height(), height) << a.name();
+    for (std::size_t j = i + 1; j < controls.size(); ++j) {
+      const forms::Control& b = *controls[j];
+      if (a.container() != b.container()) continue;
+      EXPECT_TRUE(a.pixelRect().intersected(b.pixelRect()).isEmpty()) << a.name() << " and " << b.name();
+    }
+  }
+}
+
+// The documented controls stand where they stood before the import could look below a folder.
+TEST_F(MultiFilesTest, TheDocumentedControlsKeepTheirPlaces) {
+  MultiFiles& opened = open();
+  const auto place = [](const forms::Control& control) { return control.pixelRect(); };
+  EXPECT_EQ(place(opened.fraFileControls), (base::PixelRect{12, 12, 476, 312}));
+  EXPECT_EQ(place(opened.drvDrives), (base::PixelRect{16, 26, 216, 24}));
+  EXPECT_EQ(place(opened.dirDirectories), (base::PixelRect{16, 58, 216, 238}));
+  EXPECT_EQ(place(opened.filFilenames), (base::PixelRect{244, 26, 216, 270}));
+  EXPECT_EQ(place(opened.Command1), (base::PixelRect{250, 334, 132, 26}));
+  EXPECT_EQ(place(opened.cmdQuit), (base::PixelRect{390, 334, 98, 26}));
+}
+
+TEST_F(MultiFilesTest, NoMnemonicIsThereTwiceAndEveryButtonHasItsToolTip) {
+  std::string letters;
+  for (const forms::Control* control : open().controls()) {
+    const auto* captioned = dynamic_cast<const forms::CaptionedControl*>(control);
+    if (!captioned) continue;
+    const std::size_t mark = captioned->caption().find('&');
+    if (mark == std::string::npos) continue;
+    letters += static_cast<char>(std::toupper(captioned->caption().at(mark + 1)));
+    EXPECT_NE(control->toolTip(), "") << control->name();
+  }
+  std::ranges::sort(letters);
+  EXPECT_EQ(letters, "ACS");
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -65,6 +66,43 @@ TEST(NaturalOrder, IsAnOrderForAnyNames) {
       }
     }
   }
+}
+
+TEST(NaturalOrder, WhatIsNumberedBeforeComesBefore) {
+  EXPECT_TRUE(base::IsNumberedBefore("IMG_0001.jpg", "img_0002.jpg"));
+  EXPECT_TRUE(base::IsNumberedBefore("a19b", "a20"));
+  EXPECT_TRUE(base::IsNumberedBefore("1", "2"));
+  for (const auto& [a, b] : {std::pair("2", "1"),
+                             {"1", "1"},
+                             {"9", "10"},
+                             {"10", "9"},
+                             {"1a", "1b"},
+                             {"a1", "b2"},
+                             {"1", "1 2"},
+                             {"1x", "12"},
+                             {"", "1"},
+                             {"1", ""},
+                             {"a", "1"},
+                             {"12", "2"}})
+    EXPECT_FALSE(base::IsNumberedBefore(a, b)) << a << ", " << b;
+}
+
+TEST(NaturalOrder, NothingIsNumberedBeforeWhatItComesBehind) {
+  std::mt19937 chance(1);
+  const auto text = [&] {
+    std::string made;
+    for (auto length = chance() % 6; length > 0; --length) made += "aA019_."[chance() % 7];
+    return made;
+  };
+  int numbered = 0;
+  for (int i = 0; i < 200'000; ++i) {
+    const std::string a = text();
+    const std::string b = text();
+    if (!base::IsNumberedBefore(a, b)) continue;
+    ++numbered;
+    ASSERT_LT(base::CompareNaturally(a, b), 0) << a << ", " << b;
+  }
+  EXPECT_GT(numbered, 1000);
 }
 
 }  // namespace

@@ -3,9 +3,10 @@
 
 namespace bench {
 
-// These two start Lumora.scr: they need e2e::builtFolder.
+// These start Lumora.scr: they need e2e::builtFolder.
 void BenchStartAndEnd();
 void BenchIdle();
+void BenchFirstPicture();
 
 void BenchSettings();
 void BenchDialog();
@@ -13,11 +14,15 @@ void BenchPictures();
 void BenchShrinking();
 void BenchDrawing();
 void BenchFrames();
+void BenchLoading();
 void BenchLooks();
 void BenchManyChanges();
 void BenchDayOfShow();
 
 // Needs e2e::builtFolder.
 void BenchProgramSize();
+
+// Folders that are followed. Needs e2e::builtFolder.
+void BenchFollowedFolders();
 
 }  // namespace bench

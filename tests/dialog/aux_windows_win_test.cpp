@@ -5,7 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include "os/utf16_win.h"
 #include "support/real_dialog_win.h"
+#include "support/temporary_folder_win.h"
 
 namespace dialog {
 namespace {
@@ -112,8 +114,7 @@ TEST_F(AuxWindows, TheViewerGoesWithTheDialog) {
 }
 
 TEST_F(AuxWindows, AFolderIsImportedByTheDefaultButton) {
-  machine.files.pictures = "C:\\photos";
-  machine.files.listed["C:\\photos"] = {"b.jpg", "a.gif", "notes.txt"};
+  machine.files.listed["C:\\"] = {"b.jpg", "a.gif", "notes.txt"};  // where the list's picture is
   open({400, 300});
   bool usable = true;
   // Runs inside the import's own loop.
@@ -125,7 +126,7 @@ TEST_F(AuxWindows, AFolderIsImportedByTheDefaultButton) {
   });
   const forms::ListBox& list = dialog->form().List1;
   for (const char* name : {"b.jpg", "a.gif"}) {
-    machine.pictures.add(std::string("C:\\photos\\") + name, {4, 3}, base::kBlack);
+    machine.pictures.add(std::string("C:\\") + name, {4, 3}, base::kBlack);
   }
   dialog->click(dialog->form().FolderCommand);
   EXPECT_TRUE(dialog->waitFor([&] { return list.listCount() == 3; }));
@@ -136,6 +137,34 @@ TEST_F(AuxWindows, AFolderIsImportedByTheDefaultButton) {
   EXPECT_EQ(list.listIndex(), 2);
   EXPECT_EQ(SendMessageW(dialog->windowOf(list), LB_GETCOUNT, 0, 0), 3);
   EXPECT_EQ(dialog->form().Text3.text(), "3");
+  EXPECT_TRUE(IsWindowEnabled(dialog->window()));
+}
+
+// The folders are the system's own here, and the search runs on a thread.
+TEST_F(AuxWindows, AFolderIsImportedWithWhatLiesBelowItByTheKeyboard) {
+  const support::TemporaryFolder place;
+  const std::string deep = place.path() + "\\deep";
+  CreateDirectoryW(os::ToWide(deep).c_str(), nullptr);
+  for (const std::string& path : {place.path() + "\\b.jpg", deep + "\\a.gif", deep + "\\notes.txt"}) {
+    CloseHandle(CreateFileW(os::ToWide(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+  }
+  machine.files.pictures = place.path();
+  machine.pictures.add(deep + "\\a.gif", {4, 3}, base::kBlack);
+  open({400, 300});
+  bool pressed = false;
+  const auto timer = dialog->loop().startTimer(50, [&] {
+    const HWND import = FindWindowW(nullptr, L"Add Images From a Folder");
+    if (!import || GetForegroundWindow() != import || pressed) return;
+    pressed = true;
+    dialog->press('S', VK_MENU);
+    dialog->press(VK_RETURN);
+  });
+  dialog->click(dialog->form().FolderCommand);
+  const forms::ListBox& list = dialog->form().List1;
+  EXPECT_TRUE(dialog->waitFor([&] { return list.listCount() == 3; }));
+  dialog->loop().stopTimer(timer);
+  EXPECT_EQ(list.item(1), place.path() + "\\b.jpg");
+  EXPECT_EQ(list.item(2), deep + "\\a.gif");
   EXPECT_TRUE(IsWindowEnabled(dialog->window()));
 }
 

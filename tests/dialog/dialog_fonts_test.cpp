@@ -5,9 +5,12 @@
 #include <cmath>
 #include <map>
 
+#include "auxwin/multi_files.h"
 #include "dialog/control_table.h"
 #include "forms/layout_scale.h"
 #include "support/dialog_machine.h"
+#include "support/fake_clock.h"
+#include "support/fake_event_loop.h"
 
 namespace dialog {
 namespace {
@@ -50,16 +53,44 @@ struct DialogFonts : testing::Test {
     for (const char letter : text) width += (Advance(letter) * size + 1024) / 2048;
     return width;
   }
-  // Lays the dialog out as its window does.
-  void layOut(float points, int dpi) {
+  // Lays a form out as its window does; the dialog, where none is given.
+  void layOut(float points, int dpi) { layOut(form, points, dpi); }
+  void layOut(forms::Form& laidOut, float points, int dpi) {
     host.perPixel = 1440 / dpi;
-    form.setHost(&host);
+    laidOut.setHost(&host);
     const int size = pixels(points, dpi);
     const forms::FontMeasure font{[size](const std::string& text) { return widthOf(text, size); },
                                   static_cast<int>(std::ceil(static_cast<float>(size) * 1.33F))};
-    form.setLayoutScale(forms::ScaleForFont(form, font));
+    laidOut.setLayoutScale(forms::ScaleForFont(laidOut, font));
   }
 };
+
+// The folder import is laid out by the same rule; what it says of its progress has room as well.
+TEST_F(DialogFonts, TheImportsTextsFit) {
+  support::FakeClock clock;
+  support::FakeEventLoop loop(clock);
+  auxwin::ManyImagesAdvice advice;
+  auxwin::MultiFiles import({form.List1, form.photo_caption, form.Text3, advice, nullptr, nullptr},
+                            {machine.files, machine.dialogs, machine.windows, loop, nullptr, nullptr});
+  for (const int dpi : {96, 120, 144, 192}) {
+    for (const float points : {9.0F, 11.0F, 13.5F, 20.25F}) {
+      layOut(import, points, dpi);
+      for (const forms::Control* control : import.controls()) {
+        const auto* captioned = dynamic_cast<const forms::CaptionedControl*>(control);
+        if (!captioned) continue;
+        std::string text = captioned->caption();
+        std::erase(text, '&');
+        const int box = control->kind() == forms::ControlKind::CheckBox ? 18 * dpi / kDesignDpi : 0;
+        EXPECT_LE(widthOf(text, pixels(points, dpi)) + box, control->pixelRect().width + 1)
+            << control->name() << " at " << dpi << ", " << points;
+      }
+      EXPECT_LE(widthOf("Looking for images: 999999 images in 99999 folders so far", pixels(points, dpi)),
+                import.lblProgress.pixelRect().width)
+          << "at " << dpi << ", " << points;
+    }
+  }
+  import.setHost(nullptr);
+}
 
 TEST_F(DialogFonts, EveryHintFits) {
   for (const int dpi : {96, 120, 144, 192}) {

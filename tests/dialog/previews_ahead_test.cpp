@@ -85,5 +85,82 @@ TEST_F(PreviewsAhead, ABackgroundThatCannotBeLoadedIsToldWhenThatIsKnown) {
   EXPECT_FALSE(dialog.form.Image1.picture());
 }
 
+TEST_F(PreviewsAhead, TheViewerOpensAtOnceAndTakesThePicturesSizeWhenItIsThere) {
+  SettingsDialog& dialog = open();
+  machine.loop.runFor(100);
+  loadingTakes(3000);
+  dialog.EnlargeCommand_Click();
+  EXPECT_TRUE(dialog.viewer.host());
+  EXPECT_EQ(dialog.viewer.caption(), "a.jpg");
+  EXPECT_FALSE(dialog.viewer.Picture1.picture());
+  EXPECT_EQ(dialog.viewer.width(), 2000);
+  machine.loop.runFor(3010);
+  ASSERT_TRUE(dialog.viewer.Picture1.picture());
+  EXPECT_EQ(dialog.viewer.Picture1.picture()->size(), (base::PixelSize{400, 100}));
+  EXPECT_EQ(dialog.viewer.width(), 400 * 15 + 120);
+  EXPECT_EQ(machine.pictures.drawnSizes.back(), (base::PixelSize{400, 100})) << "decoded beside the thread";
+}
+
+TEST_F(PreviewsAhead, AViewerThatIsClosedMeanwhileGetsNothingAndAnotherOneItsOwn) {
+  SettingsDialog& dialog = open();
+  machine.loop.runFor(100);
+  loadingTakes(3000);
+  dialog.EnlargeCommand_Click();
+  machine.loop.runFor(100);
+  dialog.viewer.Picture1_Click();
+  EXPECT_FALSE(dialog.viewer.host());
+  machine.loop.runFor(5000);
+  EXPECT_FALSE(dialog.viewer.Picture1.picture());
+  EXPECT_TRUE(machine.dialogs.messages.empty());
+  dialog.form.List1.setListIndex(2);
+  dialog.EnlargeCommand_Click();
+  machine.loop.runFor(10'000);
+  ASSERT_TRUE(dialog.viewer.Picture1.picture());
+  EXPECT_EQ(dialog.viewer.Picture1.picture()->size(), (base::PixelSize{400, 120}));
+}
+
+TEST_F(PreviewsAhead, AViewerWhosePictureCannotBeLoadedTellsAndCloses) {
+  SettingsDialog& dialog = open();
+  machine.loop.runFor(100);
+  machine.pictures.addBroken("C:\\a.jpg", {8, 6});
+  dialog.EnlargeCommand_Click();
+  EXPECT_TRUE(machine.dialogs.messages.empty());
+  machine.loop.runFor(100);
+  ASSERT_EQ(machine.dialogs.messages.size(), 1U);
+  EXPECT_EQ(machine.dialogs.messages[0].text, auxwin::kCannotLoadImage);
+  EXPECT_FALSE(dialog.viewer.host());
+}
+
+TEST_F(PreviewsAhead, AViewerWhosePictureHangsHoldsUpNeitherItsOwnEndNorTheDialogs) {
+  loadingTakes(std::nullopt);
+  SettingsDialog& dialog = open();
+  dialog.EnlargeCommand_Click();
+  machine.loop.runFor(500);
+  EXPECT_TRUE(dialog.viewer.host());
+  dialog.form.Cancel_Click();
+  EXPECT_TRUE(machine.loop.isQuitting());
+  EXPECT_FALSE(dialog.viewer.host());
+}
+
+TEST_F(PreviewsAhead, BackgroundPreviewAndViewerAllComeThoughTheLoaderTakesTwoAtATime) {
+  machine.pictures.add("C:\\sky.bmp", {16, 12}, base::Rgb(0, 0, 255));
+  machine.set("background", "backgroundImage", "C:\\sky.bmp");
+  loadingTakes(200);
+  SettingsDialog& dialog = open();
+  dialog.EnlargeCommand_Click();
+  machine.loop.runFor(1000);
+  EXPECT_TRUE(dialog.form.Image1.picture());
+  EXPECT_TRUE(dialog.form.photo1.picture());
+  EXPECT_TRUE(dialog.viewer.Picture1.picture());
+}
+
+TEST_F(PreviewsAhead, WithoutTheKeyTheViewerLoadsOnTheSpot) {
+  machine.drop("extras", "loadAhead");
+  SettingsDialog& dialog = open();
+  dialog.EnlargeCommand_Click();
+  EXPECT_TRUE(dialog.viewer.Picture1.picture());
+  EXPECT_EQ(machine.workers.made, 0);
+}
+
 }  // namespace
 }  // namespace dialog

@@ -98,6 +98,14 @@ TEST(Hardening, OnlyLibrariesThatTheSystemKeepsReadyAreImportedAndNoneOfTheNetwo
   for (const std::string& name : image.imports) EXPECT_TRUE(kAllowedImports.contains(name)) << name;
 }
 
+TEST(Hardening, NothingKeepsTheDisplayOrTheMachineAwake) {
+  const std::string program = ProgramBytes();
+  ASSERT_NE(program.find("RegisterPowerSettingNotification"), std::string::npos) << "names are to be found";
+  for (const char* name : {"SetThreadExecutionState", "PowerCreateRequest", "PowerSetRequest"}) {
+    EXPECT_EQ(program.find(name), std::string::npos) << name << ", imported or looked up";
+  }
+}
+
 TEST(Hardening, TheStandInLeavesAMarkWhenItIsLoaded) {
   e2e::ProgramFolder folder;
   Plant(folder);

@@ -84,4 +84,39 @@ TEST(LoadAhead, TheDialogIsClosedAtOnceThoughItsFirstPictureDoesNotAnswer) {
   EXPECT_TRUE(program.waitForEnd());
 }
 
+// The viewer on the file, when it is there; null when it does not come.
+HWND ViewerOf(const e2e::RunningProgram& program) {
+  HWND viewer = nullptr;
+  e2e::WaitFor([&] {
+    viewer = FindWindowW(nullptr, L"silent.jpg");
+    DWORD owner = 0;
+    if (viewer) GetWindowThreadProcessId(viewer, &owner);
+    return viewer && owner == program.processId() && IsWindowVisible(viewer);
+  });
+  return viewer;
+}
+
+TEST(LoadAhead, AViewerWhosePictureDoesNotAnswerIsClosedAtOnceAndTheDialogToo) {
+  const std::string silent = SilentFile();
+  if (silent.empty()) GTEST_SKIP() << "NOT TESTED: the test run could not make a file that does not answer";
+  e2e::ProgramFolder folder;
+  folder.set("extras/loadAhead", "1");
+  folder.addPath(silent);
+  folder.writeSettings();
+  e2e::RunningProgram program(folder.program(), L"/C");
+  const HWND dialog = e2e::DialogOf(program);
+  ASSERT_NE(dialog, nullptr);
+  const HWND enlarge = e2e::WaitForChild(dialog, L"Button", L"&Enlarge");
+  ASSERT_NE(enlarge, nullptr);
+  PostMessageW(enlarge, BM_CLICK, 0, 0);
+  const HWND viewer = ViewerOf(program);
+  ASSERT_NE(viewer, nullptr);
+  PostMessageW(viewer, WM_CLOSE, 0, 0);
+  EXPECT_TRUE(e2e::WaitFor([&] { return !IsWindow(viewer); }, 3000));
+  PostMessageW(enlarge, BM_CLICK, 0, 0);
+  ASSERT_NE(ViewerOf(program), nullptr);
+  PostMessageW(dialog, WM_CLOSE, 0, 0);
+  EXPECT_TRUE(program.waitForEnd(3000));
+}
+
 }  // namespace

@@ -2,10 +2,12 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <functional>
 #include <vector>
 
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
+#include "os/handles_win.h"
 #include "os/utf16_win.h"
 
 namespace {
@@ -140,6 +142,47 @@ TEST_F(ResumedShow, BeginsWithThePictureAfterTheLastOne) {
   EXPECT_EQ(FirstColour(), kBlue);
   EXPECT_TRUE(show.endsByKey());
   EXPECT_EQ(folder.readSettingsFile(), settings) << "the settings file is not written by the show";
+}
+
+// Ends a show at its second picture in some way; the next one has to begin with the third.
+struct EndedShow : ResumedShow {
+  void showEndsBy(const std::function<void(const e2e::RunningProgram&)>& way) {
+    {
+      e2e::RunningProgram show(folder.program(), L"/S");
+      ASSERT_NE(show.waitForShow(), nullptr);
+      ASSERT_TRUE(Comes(kGreen));
+      way(show);
+      ASSERT_TRUE(show.waitForEnd());
+    }
+    e2e::RunningProgram show(folder.program(), L"/S");
+    ASSERT_NE(show.waitForShow(), nullptr);
+    EXPECT_EQ(FirstColour(), kBlue);
+    EXPECT_TRUE(show.endsByKey());
+  }
+};
+
+TEST_F(EndedShow, ByACrashIsRemembered) {
+  showEndsBy([](const e2e::RunningProgram& show) {
+    // A thread that begins at an address where nothing is.
+    const os::OwnedHandle thread(CreateRemoteThread(
+        show.process(), nullptr, 0, reinterpret_cast<LPTHREAD_START_ROUTINE>(8), nullptr, 0, nullptr));
+    EXPECT_TRUE(thread);
+  });
+}
+
+TEST_F(EndedShow, ByTheEndOfTheSessionIsRemembered) {
+  showEndsBy(
+      [](const e2e::RunningProgram& show) { SendMessageW(show.waitForShow(), WM_ENDSESSION, TRUE, 0); });
+}
+
+TEST_F(EndedShow, ByACloseRequestOfAnotherProgramIsRemembered) {
+  showEndsBy([](const e2e::RunningProgram& show) { PostMessageW(show.waitForShow(), WM_CLOSE, 0, 0); });
+}
+
+TEST_F(EndedShow, ByTheEndOfItsMessagesIsRemembered) {
+  showEndsBy([](const e2e::RunningProgram& show) {
+    PostThreadMessageW(GetWindowThreadProcessId(show.waitForShow(), nullptr), WM_QUIT, 0, 0);
+  });
 }
 
 TEST_F(ResumedShow, AShowThatIsKilledLeavesWhatWasRememberedBefore) {

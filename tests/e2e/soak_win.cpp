@@ -21,6 +21,7 @@ void LayLivelyShow(ProgramFolder& folder) {
                              "bCenter", "bHorizontalBlinds", "bVerticalBlinds", "bFade"}) {
     folder.set(std::string("transitions/") + effect, "1");
   }
+  folder.set("extras/loadAhead", "1");
   folder.set("image/picRandom", "rand");
   folder.set("image/picSpeed", "5");
   folder.set("image/randomPick", "1");

@@ -18,6 +18,20 @@ TEST(FileName, PatternsMatchWithoutCase) {
   EXPECT_FALSE(MatchesPatterns("x", ""));
 }
 
+TEST(FileName, ASelectionIsAFolderAndNamesOrOnePath) {
+  const auto files = [](std::string selection) {
+    std::replace(selection.begin(), selection.end(), '|', '\0');
+    return FilesOfSelection(selection);
+  };
+  using Paths = std::vector<std::string>;
+  EXPECT_EQ(files("C:\\p\\a.gif"), Paths{"C:\\p\\a.gif"});
+  EXPECT_EQ(files("C:\\p|b.gif|a.gif"), (Paths{"C:\\p\\b.gif", "C:\\p\\a.gif"}));
+  EXPECT_EQ(files("C:\\|a.gif|b.gif||"), (Paths{"C:\\a.gif", "C:\\b.gif"}));
+  EXPECT_EQ(files("C:\\p|D:\\q\\a.gif|b.gif"), (Paths{"D:\\q\\a.gif", "C:\\p\\b.gif"}));
+  EXPECT_EQ(files("\\\\server\\p|a.gif"), Paths{"\\\\server\\p\\a.gif"});
+  EXPECT_EQ(files(""), Paths{});
+}
+
 TEST(FileName, ARootKeepsItsBackslash) {
   EXPECT_EQ(WithoutTrailingSlash("C:\\"), "C:\\");
   EXPECT_EQ(WithoutTrailingSlash("C:\\x\\"), "C:\\x");

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
 #include "support/fake_folder_reader.h"
@@ -126,6 +127,60 @@ TEST_F(FolderWalkTest, AnErrorAtAnyFolderLeavesTheOthers) {
     EXPECT_EQ(walk("C:\\p").size(), 7U);
     folders.setAway(all[gone], false);
   }
+}
+
+// Fails once, at the call with this number.
+struct FailingOnce : support::FakeFolderReader {
+  int failingCall = 0;
+  int calls = 0;
+
+  std::optional<std::vector<os::FolderEntry>> read(const std::string& folder) override {
+    return ++calls == failingCall ? std::nullopt : FakeFolderReader::read(folder);
+  }
+  std::optional<std::string> finalPath(const std::string& folder) override {
+    return ++calls == failingCall ? std::nullopt : FakeFolderReader::finalPath(folder);
+  }
+};
+
+TEST_F(FolderWalkTest, AnErrorAtAnyCallBringsNoPictureTwiceAndNoneThatIsNotThere) {
+  FailingOnce reader;
+  for (const char* file : {"C:\\p\\1.jpg", "C:\\p\\a\\2.jpg", "C:\\p\\a\\deep\\3.jpg", "D:\\q\\4.jpg"})
+    reader.addFile(file);
+  reader.addLink("C:\\p\\link", "D:\\q");
+  reader.addLink("C:\\p\\circle", "C:\\p");
+  reader.addLink("D:\\q\\back", "C:\\p");
+  const Names all = {"1.jpg", "a\\2.jpg", "a\\deep\\3.jpg", "link\\4.jpg"};
+  const auto listed = [&](int failingCall) {
+    reader.failingCall = failingCall;
+    reader.calls = 0;
+    FolderWalk walk(reader, "C:\\p",
+                    {.subfolders = true, .names = PictureNames(), .choice = DayChoice(0), .most = 100});
+    while (walk.step()) {
+    }
+    EXPECT_EQ(walk.isAway(), failingCall == 1);
+    return walk.pictures();
+  };
+  EXPECT_EQ(listed(0), all);
+  const int calls = reader.calls;
+  EXPECT_GT(calls, 5);
+  for (int call = 1; call <= calls; ++call) {
+    const Names pictures = listed(call);
+    EXPECT_TRUE(std::includes(all.begin(), all.end(), pictures.begin(), pictures.end()))
+        << call << testing::PrintToString(pictures);
+    EXPECT_LT(reader.calls, 20) << "it comes to its end";
+  }
+}
+
+TEST_F(FolderWalkTest, WhatWasReadAndWhatWasPassedOverIsCounted) {
+  folders.addFile("C:\\p\\a\\1.jpg");
+  folders.addFile("C:\\p\\b\\2.jpg");
+  folders.setAway("C:\\p\\b", true);
+  FolderWalk walk(folders, "C:\\p",
+                  {.subfolders = true, .names = PictureNames(), .choice = DayChoice(0), .most = 100});
+  while (walk.step()) {
+  }
+  EXPECT_EQ(walk.foldersRead(), 2);
+  EXPECT_EQ(walk.foldersPassedOver(), 1);
 }
 
 TEST_F(FolderWalkTest, AHundredThousandFilesAreAnEvenChoiceOfThem) {

@@ -113,7 +113,7 @@ TEST_F(FollowedFoldersTest, AListThatHasNotChangedIsNoNews) {
   ASSERT_TRUE(allWait(1));
   reader->letTimePass();
   ASSERT_TRUE(allWait(2));
-  EXPECT_EQ(followed->news(), nullptr);
+  EXPECT_FALSE(followed->news());
 }
 
 TEST_F(FollowedFoldersTest, AFolderThatIsAwayHasNoPicturesAndComesBackByItself) {
@@ -199,7 +199,7 @@ TEST_F(FollowedFoldersTest, AnIndexOfOtherFoldersOrOfOtherSubfoldersIsNotTaken) 
     files->content[path] = content;
     follow({"C:\\a"});
     ASSERT_TRUE(Comes([&, before = reader->reads()] { return reader->reads() >= before + 2; }));
-    EXPECT_EQ(followed->news(), nullptr);
+    EXPECT_FALSE(followed->news());
     reader->hold("C:\\a\\deep", false);
     EXPECT_TRUE(becomes({"C:\\a\\deep\\1.jpg"}));
     end();

@@ -1,4 +1,4 @@
-// Any order of wishes, drops, slow, hanging and broken pictures, late arrivals and ends.
+// Any order of wishes, drops, rests, slow, hanging and broken pictures, late arrivals and ends.
 #include <gtest/gtest.h>
 
 #include <map>
@@ -46,6 +46,7 @@ class AheadLoaderRun {
       EXPECT_EQ(loop_.timersRunning(), 0);
       return;
     }
+    ahead_->goOn();
     isClosing_ = true;
     // One that was dropped may still be under way before the two that stand.
     loop_.runFor(3 * AheadLoader::kPatienceMs + 10);
@@ -58,7 +59,7 @@ class AheadLoaderRun {
   unsigned below(unsigned bound) { return static_cast<unsigned>(random_() % bound); }
 
   void step() {
-    switch (below(6)) {
+    switch (below(7)) {
       case 0:
       case 1:
         wish();
@@ -72,6 +73,12 @@ class AheadLoaderRun {
         break;
       case 3:
         workers_.comeBack();
+        break;
+      case 4:
+        if (below(3) == 0)
+          ahead_->rest();
+        else
+          ahead_->goOn();
         break;
       default:
         loop_.runFor(below(4) == 0 ? below(12'000) : below(300));

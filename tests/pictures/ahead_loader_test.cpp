@@ -192,6 +192,69 @@ TEST_F(AheadLoaderTest, ThreadsThatHangAreBoundedAndThenEverythingIsPassedOver) 
   EXPECT_EQ(answers, Texts{"b+"}) << "one that came back is there again";
 }
 
+TEST_F(AheadLoaderTest, AMissingPictureIsToldApartWhereSomebodyKnows) {
+  ahead.emplace(files, loop, workers.maker(), [](const std::string& path) { return path == "in use"; });
+  ahead->onFailure = [this](const std::string& path, PictureFailure failure) {
+    failures.push_back(path + (failure == PictureFailure::Missing ? ": missing" : ": not opened"));
+  };
+  wish("in use");
+  wish("gone");
+  loop.runFor(100);
+  EXPECT_EQ(failures, (Texts{"in use: not opened", "gone: missing"}));
+}
+
+TEST_F(AheadLoaderTest, InARestNothingIsBegunOrAnsweredAndAllOfItComesAfterIt) {
+  wish("a");
+  ahead->rest();
+  wish("b");
+  loop.runFor(100'000);
+  EXPECT_TRUE(answers.empty());
+  EXPECT_EQ(workers.jobs, 1);
+  EXPECT_EQ(loop.timersRunning(), 0);
+  ahead->goOn();
+  EXPECT_EQ(answers, Texts{"a+"});
+  loop.runFor(100);
+  EXPECT_EQ(answers, (Texts{"a+", "b+"}));
+  EXPECT_EQ(files->opened, (Texts{"a", "b"}));
+}
+
+TEST_F(AheadLoaderTest, AfterARestAPictureHasItsTenSecondsAnew) {
+  hangNext();
+  wish("a");
+  loop.runFor(9'000);
+  ahead->rest();
+  loop.runFor(100'000);
+  ahead->goOn();
+  loop.runFor(9'900);
+  EXPECT_TRUE(answers.empty());
+  loop.runFor(200);
+  EXPECT_EQ(answers, Texts{"a-"});
+}
+
+TEST_F(AheadLoaderTest, WhatIsDroppedInARestIsNotAnsweredAfterIt) {
+  const auto ticket = wish("a");
+  ahead->rest();
+  loop.runFor(100);
+  ahead->drop(ticket);
+  ahead->goOn();
+  loop.runFor(100);
+  EXPECT_TRUE(answers.empty());
+  EXPECT_EQ(loop.timersRunning(), 0);
+}
+
+TEST_F(AheadLoaderTest, APictureThatComesLateInARestIsKept) {
+  hangNext();
+  wish("a");
+  loop.runFor(11'000);
+  ahead->rest();
+  ASSERT_TRUE(workers.comeBack());
+  ahead->goOn();
+  answers.clear();
+  wish("a");
+  loop.runFor(10);
+  EXPECT_EQ(answers, Texts{"a+"});
+}
+
 TEST_F(AheadLoaderTest, AnAnswerMayWishAndDropAgain) {
   std::vector<std::string> order;
   const auto second = [&](const SharedPicture&) { order.push_back("second"); };

@@ -95,6 +95,45 @@ TEST_F(Form1Ahead, TheOldPictureStandsUntilTheNewOneIsReady) {
                                       base::OpaquePixel(kBlue)}));
 }
 
+TEST_F(Form1Ahead, TheOldPictureAndItsCaptionFollowTheScreenWhileTheNewOneIsAwaited) {
+  show.set("caption/0", "A caption");
+  int jobs = 0;
+  show.workers.delayMs = [&] { return std::optional(++jobs == 1 ? 20 : 5000); };
+  show.start();
+  base::PixelRect picture;
+  float captionMiddle = 0;
+  show.loop.postAfter(2500, [&] {  // the second one has been due for a second
+    show.screen.size = {640, 480};
+    show.form->ScreenChanged();
+    picture = show.form->DisplayingPicture.pixelRect();
+    captionMiddle = show.form->Label1.left() + show.form->Label1.width() / 2;
+    EXPECT_TRUE(show.form->DisplayingPicture.visible());
+    EXPECT_TRUE(show.form->Label1.visible());
+    EXPECT_EQ(show.screenAt(320, 240), base::OpaquePixel(kRed));
+  });
+  show.runFor(2600);
+  EXPECT_EQ(picture, (base::PixelRect{120, 90, 400, 300}));
+  EXPECT_NEAR(captionMiddle, 320 * 15, 8);
+  show.runFor(10'000);
+  EXPECT_TRUE(show.errors.empty());
+  EXPECT_EQ(show.pictures.drawnSizes[1], (base::PixelSize{400, 300}));
+}
+
+TEST_F(Form1Ahead, TheOldPictureFloatsOnWhileTheNewOneIsAwaited) {
+  show.set("image/picRandom", "rand");
+  show.set("image/picSpeed", "3");
+  int jobs = 0;
+  show.workers.delayMs = [&] { return std::optional(++jobs == 1 ? 20 : 5000); };
+  show.start();
+  std::vector<float> lefts;
+  for (const std::int64_t moment : {2500, 3500}) {
+    show.loop.postAfter(moment, [&] { lefts.push_back(show.form->DisplayingPicture.left()); });
+  }
+  show.runFor(3600);
+  ASSERT_EQ(lefts.size(), 2U);
+  EXPECT_NE(lefts[0], lefts[1]);
+}
+
 TEST_F(Form1Ahead, APictureThatHangsIsPassedOverAndTheShowGoesOn) {
   int jobs = 0;
   show.workers.delayMs = [&] { return ++jobs == 2 ? std::nullopt : std::optional(20); };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <set>
+#include <thread>
 
 #include "base/errors.h"
 #include "support/show_stage.h"
@@ -25,11 +26,11 @@ class FakeFollower : public library::PictureFollower {
  public:
   struct Desk {
     library::FollowRequest request;
-    std::shared_ptr<const Names> news;
+    std::optional<Names> news;
   };
 
   explicit FakeFollower(Desk& desk) : desk_(desk) {}
-  std::shared_ptr<const Names> news() override { return std::exchange(desk_.news, nullptr); }
+  std::optional<Names> news() override { return std::exchange(desk_.news, std::nullopt); }
 
  private:
   Desk& desk_;
@@ -68,7 +69,7 @@ class Form1OrderTest : public testing::Test {
     return library::ShowStateOf(unsealed->payload).value();
   }
   const Names& shown() const { return show->pictures.opened; }
-  void bring(const Names& pictures) { desk.news = std::make_shared<Names>(pictures); }
+  void bring(const Names& pictures) { desk.news = pictures; }
 
   std::unique_ptr<ShowStage> show;
   FakeFollower::Desk desk;
@@ -161,6 +162,35 @@ TEST_F(Form1OrderTest, AnErrorIsAnEndTooThatIsRemembered) {
   next(5, {{"extras/resume", "1"}});
   run(1);
   EXPECT_EQ(shown().front(), Own(5)[2]);
+}
+
+TEST_F(Form1OrderTest, ACrashOnAnyThreadIsAnEndTooThatIsRemembered) {
+  next(5, {{"extras/resume", "1"}});
+  run(2);
+  std::thread([this] { show->form->rememberAfterCrash(); }).join();
+  EXPECT_EQ(kept().position.lastPath, Own(5)[1]);
+  next(5, {{"extras/resume", "1"}});
+  run(1);
+  EXPECT_EQ(shown().front(), Own(5)[2]);
+}
+
+TEST_F(Form1OrderTest, ACrashInTheMiddleOfRememberingLeavesWhatWasRemembered) {
+  next(5, {{"extras/resume", "1"}});
+  run(2);
+  int writes = 0;
+  show->files.onReplace = [&] {
+    if (++writes == 1) std::thread([this] { show->form->rememberAfterCrash(); }).join();
+  };
+  end();
+  EXPECT_EQ(writes, 1) << "nobody waits for a thread that has crashed";
+  EXPECT_EQ(kept().position.lastPath, Own(5)[1]);
+}
+
+TEST_F(Form1OrderTest, AShowThatIsNotToGoOnRemembersNothingOfItsCrash) {
+  next(3, deck);
+  run(3);
+  show->form->rememberAfterCrash();
+  EXPECT_TRUE(show->files.writes.empty());
 }
 
 TEST_F(Form1OrderTest, WhereTheProgramsFolderCannotBeWrittenTheUsersOwnRemembers) {

@@ -15,6 +15,7 @@
 namespace {
 
 constexpr const wchar_t* kCrashVariable = L"LUMORA_TEST_CRASH";
+constexpr const wchar_t* kFarewellVariable = L"LUMORA_TEST_FAREWELL";
 constexpr const wchar_t* kSignalVariable = L"LUMORA_TEST_SIGNAL";
 
 std::wstring Variable(const wchar_t* name) {
@@ -66,6 +67,16 @@ void CrashBy(const std::wstring& way) {
   if (way == L"raise") RaiseException(0xE0001234, 0, 0, nullptr);
 }
 
+// Raises the semaphore's count a second time, unless it is to go wrong.
+std::function<void()> FarewellOf(const std::wstring& way) {
+  if (way == L"crashes") {
+    return [] { CrashBy(L"access"); };
+  }
+  if (way == L"hangs") return [] { Sleep(INFINITE); };
+  if (way == L"said") return [] { SignallingDesktop().showTaskbar(1); };
+  return nullptr;
+}
+
 // Runs this very test program again, for its crashing test alone. Gives the exit code and how often the
 // taskbar was shown.
 struct Outcome {
@@ -106,8 +117,9 @@ TEST(CrashGuardProcess, DISABLED_Crashes) {
   ASSERT_FALSE(way.empty()) << "to be started by the tests of the crash guard alone";
   SignallingDesktop desktop;
   startup::SystemRestore restore(desktop);
-  const startup::CrashGuard guard(restore);
+  startup::CrashGuard guard(restore);
   restore.hideTaskbar(restore.findTaskbar());
+  guard.setFarewell(FarewellOf(Variable(kFarewellVariable)));
   // The test program catches crashes of its own; here they are to reach the process's end.
   testing::GTEST_FLAG(catch_exceptions) = false;
   CrashBy(way);
@@ -120,6 +132,34 @@ TEST_P(CrashGuard, PutsTheSystemBackExactlyOnce) {
   EXPECT_EQ(outcome.shown, 1);
   EXPECT_NE(outcome.exitCode, 0U);
   EXPECT_NE(outcome.exitCode, 77U);
+}
+
+TEST_P(CrashGuard, HasAFarewellSaid) {
+  SetEnvironmentVariableW(kFarewellVariable, L"said");
+  const Outcome outcome = RunCrashingProcess(GetParam());
+  SetEnvironmentVariableW(kFarewellVariable, nullptr);
+  EXPECT_EQ(outcome.shown, 2);
+  EXPECT_NE(outcome.exitCode, 0U);
+  EXPECT_NE(outcome.exitCode, 77U);
+}
+
+TEST(CrashGuardProcess, EndsThoughItsFarewellCrashesOrHangs) {
+  for (const wchar_t* way : {L"crashes", L"hangs"}) {
+    SetEnvironmentVariableW(kFarewellVariable, way);
+    const Outcome outcome = RunCrashingProcess(L"throw");
+    SetEnvironmentVariableW(kFarewellVariable, nullptr);
+    EXPECT_EQ(outcome.shown, 1) << "the system was put back before";
+    EXPECT_NE(outcome.exitCode, 0U);
+    EXPECT_NE(outcome.exitCode, 77U);
+  }
+}
+
+TEST(CrashGuardProcess, AnOrderlyEndHasNoFarewell) {
+  SetEnvironmentVariableW(kFarewellVariable, L"said");
+  const Outcome outcome = RunCrashingProcess(L"none");
+  SetEnvironmentVariableW(kFarewellVariable, nullptr);
+  EXPECT_EQ(outcome.shown, 1);
+  EXPECT_EQ(outcome.exitCode, 0U);
 }
 
 INSTANTIATE_TEST_SUITE_P(Ways, CrashGuard,

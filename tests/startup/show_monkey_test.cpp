@@ -8,6 +8,7 @@
 #include "base/errors.h"
 #include "base/number_text.h"
 #include "saver/floating.h"
+#include "saver/looks.h"
 #include "saver/picture_size.h"
 #include "saver/placement.h"
 #include "startup/show.h"
@@ -20,9 +21,10 @@ constexpr int kParts = 8;
 constexpr int kEventsOfAPart = 125'000;
 constexpr int kEventsOfAShow = 4000;
 constexpr unsigned kSeed = 20261121;
-constexpr int kMostScreen = 40;   // pixels a side; small, since every event may draw
-constexpr int kMostPicture = 64;  // pixels a side
-constexpr float kStep = 15;       // twips that a floating picture may stand beyond a bound before it turns
+constexpr int kMostScreen = 40;    // pixels a side; small, since every event may draw
+constexpr int kMostPicture = 64;   // pixels a side
+constexpr float kStep = 15;        // twips that a floating picture may stand beyond a bound before it turns
+constexpr float kAnywhere = 1e6F;  // twips
 constexpr const char* kEffects[] = {"bStandard",         "bLeftWipe",       "bRightWipe",
                                     "bRightandLeftWipe", "bUpAndDown",      "bCenter",
                                     "bHorizontalBlinds", "bVerticalBlinds", "bFade"};
@@ -47,6 +49,7 @@ class MonkeyShow {
     machine_.passwords.accepts = false;
     addPictures();
     drawSettings();
+    drawExtras();
     stage_.writeSettings();
     const saver::ShowServices s = stage_.services();
     show_.emplace(saver::ShowServices{s.files,
@@ -137,6 +140,31 @@ class MonkeyShow {
     if (Draw(random_, 0, 19) == 0) spoil();
   }
 
+  // What goes beyond the documented show, each half of the time.
+  void drawExtras() {
+    const auto choose = [this](const char* key, auto& values) {
+      if (Draw(random_, 0, 1) == 0) stage_.set(std::string("extras/") + key, OneOf(random_, values));
+    };
+    static constexpr const char* kOn[] = {"1"};
+    static constexpr const char* kFit[] = {"whole", "fill"};
+    static constexpr const char* kSurround[] = {"background", "blur"};
+    static constexpr const char* kChange[] = {"crossfade", "direct"};
+    static constexpr const char* kPercent[] = {"3", "20"};
+    choose("loadAhead", kOn);
+    if (Draw(random_, 0, 1) == 0) return;
+    choose("fit", kFit);
+    choose("surround", kSurround);
+    choose("change", kChange);
+    choose("panZoom", kPercent);
+    stage_.screen.animations = Draw(random_, 0, 3) != 0;
+    // Most pictures come soon, some after their turn, a few not at all.
+    stage_.workers.delayMs = [this] {
+      const int kind = Draw(random_, 0, 19);
+      if (kind == 0) return std::optional<int>();
+      return std::optional<int>(kind < 3 ? Draw(random_, 1000, 15'000) : Draw(random_, 0, 200));
+    };
+  }
+
   // A setting that no conversion takes: the show ends by itself sooner or later.
   void spoil() {
     static constexpr const char* kKeys[] = {"image/timeInterval", "font/scroll", "font/newFontForeColor",
@@ -162,7 +190,7 @@ class MonkeyShow {
   // One thing that a user or a system does.
   void act() {
     if (form().isOver()) return;
-    switch (Draw(random_, 0, 15)) {
+    switch (Draw(random_, 0, 17)) {
       case 0:
         stage_.screen.size = Draw(random_, 0, 9) == 0 ? base::PixelSize{} : DrawSize(random_, kMostScreen);
         if (stage_.screen.size.isEmpty()) return;  // nobody is told before there is a screen again
@@ -187,6 +215,12 @@ class MonkeyShow {
         if (facts_.guardsPassword()) stage_.window.onKeyDown(65);
         break;
       case 6:
+        turnDisplay();
+        break;
+      case 7:
+        stage_.workers.comeBack();
+        break;
+      case 8:
         stage_.window.onMouseMove({Draw(random_, 0, 63), Draw(random_, 0, 63)});
         break;
       default:
@@ -195,8 +229,28 @@ class MonkeyShow {
     }
   }
 
+  void turnDisplay() {
+    if (isDark_) {
+      lightUp();
+      return;
+    }
+    stage_.window.onDisplayPower(false);
+    if (form().isOver() || !form().loadsAhead()) return;
+    isDark_ = true;
+    stage_.window.presented.clear();  // a change that is under way has drawn before
+    jobsBefore_ = stage_.workers.jobs;
+    // A show that waits in the dark lets events run until it is light again, and here nobody else makes any.
+    stage_.loop.postAfter(Draw(random_, 1, 5000), [this] { lightUp(); });
+  }
+
+  void lightUp() {
+    isDark_ = false;  // on its way the show may load and draw
+    if (!form().isOver()) stage_.window.onDisplayPower(true);
+  }
+
   // What the screen shows piece by piece is what it shows when it is composed at one go.
   void composeAll() {
+    if (isDark_) return;
     stage_.stage.flush();
     const base::Bitmap before = stage_.window.screen;
     stage_.stage.invalidateAll();
@@ -246,17 +300,30 @@ class MonkeyShow {
     EXPECT_TRUE(stage_.window.closed);
     EXPECT_TRUE(machine_.desktop.taskbarVisible);
     EXPECT_FALSE(machine_.desktop.running);
-    EXPECT_EQ(stage_.loop.timersRunning(), 0);
+    // A picture that was dropped while it is loaded has its ten seconds still.
+    EXPECT_LE(stage_.loop.timersRunning(), form().loadsAhead() ? 1 : 0);
   }
 
   void check() {
     ++seen_;
+    const bool hasDrawn = !stage_.window.presented.empty();
     stage_.window.presented.clear();
     if (form().isOver() || testing::Test::HasFailure()) return;
+    if (isDark_) {
+      EXPECT_FALSE(hasDrawn) << "in the dark";
+      EXPECT_EQ(stage_.workers.jobs, jobsBefore_) << "in the dark";
+      return;
+    }
     checkTimers();
     checkCaption();
     checkClock();
-    if (form().DisplayingPicture.visible()) checkPicture();
+    if (changesWithoutPause() && changing()) {
+      // The box stands for all that changes. The new picture may be one that overruns the screen, and a
+      // screen that changes meanwhile gives it another size.
+      lastLeft_ = lastTop_ = {-kAnywhere, false};
+    } else if (form().DisplayingPicture.visible()) {
+      checkPicture();
+    }
     EXPECT_EQ(stage_.window.covered, form().area());
     EXPECT_GE(form().currentImageIndex(), -1);
     EXPECT_LE(form().currentImageIndex(), lastIndex_ + 1);
@@ -264,6 +331,7 @@ class MonkeyShow {
 
   double number(const std::string& text) const { return base::StrictDouble(text); }
   const settings::SettingsRecord& record() { return form().settings().record; }
+  bool changesWithoutPause() { return saver::Looks::of(record()).change != saver::ChangeStyle::Documented; }
   bool floats() { return record().picRandom != "cent"; }
 
   // A change is under way when its hold is on, or when the first one has begun and not ended.
@@ -315,7 +383,8 @@ class MonkeyShow {
     if (!settingsAreGood_) return;
     if (!caption.visible()) return;
     EXPECT_TRUE(form().pictureShown());
-    EXPECT_FALSE(changing()) << "a caption over a change";
+    // The old picture stands, with its caption, until the new one has been loaded.
+    EXPECT_FALSE(changing() && !form().loadsAhead()) << "a caption over a change";
     const float left = static_cast<float>(part.left) * perPixel;
     const float width = static_cast<float>(part.width) * perPixel;
     if (number(record().scroll) != 0) {
@@ -337,7 +406,10 @@ class MonkeyShow {
 
   void checkPicture() {
     const forms::PictureBox& box = form().DisplayingPicture;
-    checkSize(box);
+    const saver::Looks looks = saver::Looks::of(record());
+    // One that has a look and cannot be shown leaves a box of the documented size.
+    const bool isInside = box.width() <= form().width() && box.height() <= form().height();
+    if (floats() || looks.isDocumentedSize() || !isInside) checkSize(box);
     const bool centred = !floats() || !form().pictureShown();
     if (centred) {
       const auto middle = saver::Centered(form().width(), form().height(), box.width(), box.height());
@@ -385,6 +457,8 @@ class MonkeyShow {
   startup::SystemRestore restore_{machine_.desktop};
   std::optional<startup::Show> show_;
   bool settingsAreGood_ = true;
+  bool isDark_ = false;
+  int jobsBefore_ = 0;  // of the loader, when it became dark
   bool begun_ = false;
   AxisWas lastLeft_;
   AxisWas lastTop_;

@@ -24,6 +24,7 @@ class FakeDialogs : public forms::Dialogs {
   // are cancelled.
   std::deque<forms::Answer> answers;
   std::deque<std::optional<std::string>> files;
+  std::deque<std::vector<std::string>> several;
   std::deque<std::optional<base::PackedColor>> colors;
   std::deque<std::optional<forms::ChosenFont>> fonts;
 
@@ -31,6 +32,7 @@ class FakeDialogs : public forms::Dialogs {
 
   std::vector<Message> messages;
   std::vector<forms::OpenFileRequest> fileRequests;
+  std::vector<forms::OpenFileRequest> severalRequests;
   std::vector<forms::ColorRequest> colorRequests;
   std::vector<forms::FontRequest> fontRequests;
 
@@ -42,6 +44,10 @@ class FakeDialogs : public forms::Dialogs {
   std::optional<std::string> openFile(const forms::OpenFileRequest& request) override {
     fileRequests.push_back(request);
     return next(files, std::optional<std::string>());
+  }
+  std::vector<std::string> openFiles(const forms::OpenFileRequest& request) override {
+    severalRequests.push_back(request);
+    return next(several, std::vector<std::string>());
   }
   std::optional<base::PackedColor> chooseColor(const forms::ColorRequest& request) override {
     colorRequests.push_back(request);

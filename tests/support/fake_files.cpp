@@ -21,6 +21,7 @@ std::optional<std::string> FakeFiles::readHead(const std::string& path, std::siz
 }
 
 bool FakeFiles::replace(const std::string& path, std::string_view text) {
+  if (onReplace) onReplace();
   writes.push_back(path);
   if (!writable || locked.contains(path)) return false;
   std::erase_if(content, [&](const auto& file) { return file.first.starts_with(path + ".new-"); });

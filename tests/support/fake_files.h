@@ -1,6 +1,7 @@
 // A disk in memory that remembers what was asked of it.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -42,6 +43,7 @@ class FakeFiles : public os::Files {
   bool writable = true;          // false: every write fails
   std::set<std::string> locked;  // paths that cannot be read or replaced
   std::map<std::string, std::string> shortPaths;
+  std::function<void()> onReplace;   // before a file is replaced
   std::vector<std::string> reads;    // paths in the order of reading
   std::vector<std::size_t> limits;   // of the heads, in the order of reading
   std::vector<std::string> writes;   // paths in the order of writing

@@ -5,6 +5,7 @@
 #include <commctrl.h>
 
 #include "os/utf16_win.h"
+#include "startup/workers_win.h"
 
 namespace support {
 
@@ -19,7 +20,8 @@ constexpr int kReportMs = 500;
 RealDialog::RealDialog(DialogMachine& machine) {
   const std::int64_t start = clock_.tickMs();
   dialog_ = std::make_unique<dialog::SettingsDialogWin>(
-      dialog::DialogMachineWin{loop_, machine.files, machine.ansi, machine.pictures},
+      dialog::DialogMachineWin{loop_, machine.files, machine.ansi, machine.pictures, nullptr,
+                               startup::MakeWorkers(loop_)},
       DialogMachine::kProgramFolder);
   loop_.setErrorHandler([](const std::exception&) { std::abort(); });
   waitFor([this] { return GetForegroundWindow() == window() && GetFocus() != nullptr; });

@@ -20,8 +20,9 @@ dialog::SettingsDialog& SettingsDialogMachine::openDialog() {
 
 dialog::SettingsDialog& SettingsDialogMachine::openDialogOnFile() {
   dialog_ = std::make_unique<dialog::SettingsDialog>(
-      dialog::DialogServices{files, ansi, pictures, dialogs, windows, nullptr, &ahead}, loop, shell,
-      kProgramFolder, nullptr);
+      dialog::DialogServices{files, ansi, pictures, dialogs, windows, nullptr, &ahead, folders,
+                             workers.maker()},
+      loop, shell, kProgramFolder, nullptr);
   dialog_->show();
   return *dialog_;
 }

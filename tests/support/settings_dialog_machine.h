@@ -11,6 +11,7 @@
 #include "support/dialog_machine.h"
 #include "support/fake_clock.h"
 #include "support/fake_event_loop.h"
+#include "support/fake_folder_reader.h"
 #include "support/fake_workers.h"
 #include "support/shell_recorder.h"
 
@@ -39,6 +40,7 @@ class SettingsDialogMachine : public DialogMachine {
   FakeEventLoop loop{clock};
   FakeWorkers workers{loop};
   pictures::AheadLoader ahead{{std::shared_ptr<void>(), &pictures}, loop, workers.maker()};
+  std::shared_ptr<FakeFolderReader> folders = std::make_shared<FakeFolderReader>();
   ShellRecorder shell;
 
  private:
