@@ -18,12 +18,13 @@ struct Group {
 };
 
 constexpr Group kGroups[] = {
-    {"start", bench::BenchStartAndEnd}, {"idle", bench::BenchIdle},
-    {"settings", bench::BenchSettings}, {"dialog", bench::BenchDialog},
-    {"pictures", bench::BenchPictures}, {"shrinking", bench::BenchShrinking},
-    {"drawing", bench::BenchDrawing},   {"frames", bench::BenchFrames},
-    {"looks", bench::BenchLooks},       {"changes", bench::BenchManyChanges},
-    {"day", bench::BenchDayOfShow},     {"size", bench::BenchProgramSize},
+    {"start", bench::BenchStartAndEnd},   {"idle", bench::BenchIdle},
+    {"settings", bench::BenchSettings},   {"dialog", bench::BenchDialog},
+    {"pictures", bench::BenchPictures},   {"shrinking", bench::BenchShrinking},
+    {"drawing", bench::BenchDrawing},     {"frames", bench::BenchFrames},
+    {"screens", bench::BenchScreens},     {"looks", bench::BenchLooks},
+    {"changes", bench::BenchManyChanges}, {"day", bench::BenchDayOfShow},
+    {"size", bench::BenchProgramSize},
 };
 
 bool IsWanted(std::string_view name, int argc, char** argv) {

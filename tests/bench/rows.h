@@ -13,6 +13,7 @@ void BenchPictures();
 void BenchShrinking();
 void BenchDrawing();
 void BenchFrames();
+void BenchScreens();
 void BenchLooks();
 void BenchManyChanges();
 void BenchDayOfShow();
