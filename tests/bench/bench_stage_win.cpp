@@ -6,10 +6,10 @@
 
 namespace bench {
 
-BenchStage::BenchStage(base::PixelSize size) {
+BenchStage::BenchStage(const base::PixelRect& place) {
   form.setHost(&stage);
   form.setBackColor(base::kBlack);
-  window.cover(base::PixelRect::ofSize(size));
+  window.cover(place);
   picture.setVisible(false);
   stage.show(form, background, picture, {});
   stage.flush();

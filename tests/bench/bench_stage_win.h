@@ -14,7 +14,8 @@ namespace bench {
 
 class BenchStage {
  public:
-  explicit BenchStage(base::PixelSize size);
+  explicit BenchStage(base::PixelSize size) : BenchStage(base::PixelRect::ofSize(size)) {}
+  explicit BenchStage(const base::PixelRect& place);  // of the window
   ~BenchStage();
 
   // Places the picture box at whole pixels.

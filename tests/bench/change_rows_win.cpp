@@ -7,6 +7,7 @@
 
 #include "bench/bench_stage_win.h"
 #include "bench/bench_table.h"
+#include "bench/private_bytes_win.h"
 #include "bench/rows.h"
 #include "os/handles_win.h"
 #include "support/bmp_builder.h"
@@ -44,19 +45,6 @@ void AddMixedPictures(support::RealShow& show) {
   show.addPicture("broken.jpg", jpeg.substr(0, jpeg.size() / 2), "Broken half-way");
   show.addPicture("empty.jpg", "", "Nothing");
   show.addPath(show.folder() + "\\missing.jpg", "Gone");
-}
-
-// Bytes that belong to this process alone, counted block by block: the process counters of some systems stand
-// still.
-double PrivateBytes() {
-  double bytes = 0;
-  MEMORY_BASIC_INFORMATION block{};
-  for (const char* at = nullptr; VirtualQuery(at, &block, sizeof(block)) == sizeof(block);) {
-    if (block.State == MEM_COMMIT && block.Type == MEM_PRIVATE)
-      bytes += static_cast<double>(block.RegionSize);
-    at = static_cast<const char*>(block.BaseAddress) + block.RegionSize;
-  }
-  return bytes;
 }
 
 struct Held {

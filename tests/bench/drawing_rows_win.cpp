@@ -8,7 +8,7 @@
 #include "bench/bench_stage_win.h"
 #include "bench/bench_table.h"
 #include "bench/rows.h"
-#include "os/dib_win.h"
+#include "bench/whole_copy_win.h"
 #include "pictures/picture.h"
 #include "saver/transitions/effects.h"
 #include "saver/transitions/transition_runner.h"
@@ -88,26 +88,6 @@ class EffectRun {
       pictures::MakePicture(std::make_shared<base::Bitmap>(kScreen, 0xFF336699));
   support::FakeClock clock_;
   support::FakeEventLoop loop_{clock_};
-};
-
-// One BitBlt of a picture from memory to a window.
-class WholeCopy {
- public:
-  WholeCopy(const base::Bitmap& picture, const saver::StageWindow& window)
-      : picture_(picture.size()), size_(picture.size()), window_(window) {
-    base::CopyRect(picture_.view(), {0, 0}, picture, base::PixelRect::ofSize(size_));
-  }
-
-  void run() const {
-    const os::WindowDc dc(reinterpret_cast<HWND>(window_.handle()));
-    BitBlt(dc.get(), 0, 0, size_.width, size_.height, picture_.dc(), 0, 0, SRCCOPY);
-    GdiFlush();
-  }
-
- private:
-  os::Dib picture_;
-  base::PixelSize size_;
-  const saver::StageWindow& window_;
 };
 
 void BenchEffect(int number) {

@@ -2,6 +2,7 @@
 #include <windows.h>
 
 #include <string>
+#include <vector>
 
 #include "bench/bare_window.h"
 #include "bench/bench_table.h"
@@ -47,8 +48,9 @@ double IdleMs(const std::wstring& program, const std::wstring& arguments, base::
   return spent;
 }
 
-// Events that a show fetches from its queue over one whole period of its pictures.
-int WakeUps() {
+// Events that a show fetches from its queue over one whole period of its pictures, on one screen and further
+// ones.
+int WakeUps(const std::vector<base::PixelRect>& further) {
   constexpr int kPeriodSeconds = 5;
   const os::ClockWin clock;
   os::EventLoopWin loop(clock);
@@ -57,6 +59,8 @@ int WakeUps() {
   for (const char* name : {"a.bmp", "b.bmp", "c.bmp"})
     show.addPicture(name, support::TrueColorBmp(picture, support::RowOrder::bottomUp), "");
   show.set("image/timeInterval", std::to_string(kPeriodSeconds));
+  show.set("extras/otherScreens", "same");
+  show.addFurtherScreens(further);
   show.start();
   const auto waitForIndex = [&](int index) {
     while (show.form().currentImageIndex() != index) loop.waitUntil(clock.tickMs() + 10'000);
@@ -76,8 +80,11 @@ int WakeUps() {
 }  // namespace
 
 void BenchIdle() {
-  PrintRow("wake-ups from one change to the next while nothing moves", "the one for the next change",
-           WakeUps(), "<= 1 time");
+  const int wakeUps = WakeUps({});
+  PrintRow("wake-ups from one change to the next while nothing moves", "the one for the next change", wakeUps,
+           "<= 1 time");
+  PrintRow("those of a show on three screens", "of one on one screen",
+           static_cast<double>(WakeUps({{640, 0, 640, 480}, {0, 480, 640, 480}})) / wakeUps, "<= 1 time");
   wchar_t self[MAX_PATH];
   GetModuleFileNameW(nullptr, self, MAX_PATH);
   const double bare = IdleMs(self, L"--bare", 0xFF800000U);

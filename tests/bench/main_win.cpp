@@ -26,6 +26,7 @@ constexpr Group kGroups[] = {
     {"shrinking", bench::BenchShrinking},
     {"drawing", bench::BenchDrawing},
     {"frames", bench::BenchFrames},
+    {"screens", bench::BenchScreens},
     {"looks", bench::BenchLooks},
     {"loading", bench::BenchLoading},
     {"first", bench::BenchFirstPicture},

@@ -15,6 +15,7 @@ void BenchShrinking();
 void BenchDrawing();
 void BenchFrames();
 void BenchLoading();
+void BenchScreens();
 void BenchLooks();
 void BenchManyChanges();
 void BenchDayOfShow();

@@ -18,7 +18,10 @@ RealShow::RealShow(const os::Clock& clock, os::EventLoop& loop, base::PixelSize 
   screen_.size = screenSize;
 }
 
-RealShow::~RealShow() { window_.close(); }
+RealShow::~RealShow() {
+  window_.close();
+  for (const auto& window : furtherWindows_) window->close();
+}
 
 void RealShow::addPicture(const std::string& name, const std::string& bytes, const std::string& caption) {
   const std::string path = folder() + "\\" + name;
@@ -32,12 +35,35 @@ void RealShow::addPath(const std::string& path, const std::string& caption) {
   set("caption/" + number, caption);
 }
 
+void RealShow::addFurtherScreens(const std::vector<base::PixelRect>& places) {
+  for (const base::PixelRect& place : places) {
+    furtherWindows_.push_back(std::make_unique<saver::StageWindowWin>(loop_));
+    further_.push_back({furtherWindows_.back().get(), place});
+    screen_.others.push_back(place);
+  }
+}
+
 void RealShow::start() {
   settings_.try_emplace("total/total", std::to_string(count_));
   files_.replace(settings::IniPath(folder()), IniText(settings_));
-  form_ = std::make_unique<saver::Form1>(saver::ShowServices{files_, ansi_, pictures_, *ahead_, clock_, loop_,
-                                                             screen_, desktop_, *dates_, stage_, window_},
+  form_ = std::make_unique<saver::Form1>(saver::ShowServices{files_,
+                                                             ansi_,
+                                                             pictures_,
+                                                             *ahead_,
+                                                             clock_,
+                                                             loop_,
+                                                             screen_,
+                                                             desktop_,
+                                                             *dates_,
+                                                             stage_,
+                                                             window_,
+                                                             {},
+                                                             [this](saver::StageWindow& window) {
+                                                               return std::make_unique<saver::Stage>(
+                                                                   window, text_, stage_.twipsPerPixel());
+                                                             }},
                                          os::SystemFacts{}, folder());
+  form_->onSettingsLoaded = [this] { form_->setFurtherScreens(further_); };
   loop_.setErrorHandler([this](const std::exception&) { form_->unload(); });
   form_->Form_Load();
 }

@@ -35,6 +35,10 @@ class RealShow {
   // Adds a path to the list.
   void addPath(const std::string& path, const std::string& caption);
 
+  // Windows on further screens, at these places from the top left corner of the first. Before start(), with
+  // [extras] otherScreens saying what they show.
+  void addFurtherScreens(const std::vector<base::PixelRect>& places);
+
   const std::string& folder() const { return folder_.path(); }
 
   // Writes the settings file and loads the form; the show then runs in the loop. An error at the event border
@@ -58,6 +62,8 @@ class RealShow {
   saver::StageWindowWin window_;
   os::TextRendererWin text_{96};
   saver::Stage stage_{window_, text_, 15};
+  std::vector<std::unique_ptr<saver::StageWindowWin>> furtherWindows_;
+  std::vector<saver::FurtherScreen> further_;
   Settings settings_ = PlainShow();
   int count_ = 0;
   std::unique_ptr<saver::Form1> form_;
