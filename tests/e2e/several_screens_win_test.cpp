@@ -213,6 +213,22 @@ TEST_F(SeveralScreens, AScreenThatIsUnpluggedTakesItsCoverAlongAndBringsItBack) 
   EXPECT_TRUE(show.endsByKey());
 }
 
+TEST_F(SeveralScreens, EachHasItsOwnPartOfTheDesktopAsABackground) {
+  folder.set("background/backEffect", "1");
+  folder.set("extras/otherScreens", "same");
+  folder.writeSettings();
+  const Desk left(screens.others[0]);
+  const Desk below(screens.others[1]);
+  ASSERT_TRUE(e2e::WaitFor([&] { return left.isSeen() && below.isSeen(); }));
+  e2e::RunningProgram show(folder.program(), L"/S");
+  ASSERT_TRUE(show.waitForShow());
+  ASSERT_TRUE(e2e::WaitFor([&] { return PlacesOf(show).size() == 3; }));
+  for (const base::PixelRect& other : screens.others) {
+    EXPECT_TRUE(e2e::WaitFor([&] { return Shows(other, kDesk); })) << other.left << ", " << other.top;
+  }
+  EXPECT_TRUE(show.endsByKey());
+}
+
 base::Pixel Middle(const base::PixelRect& screen) {
   return e2e::ScreenPixel(screen.left + screen.width / 2, screen.top + screen.height / 2);
 }
