@@ -192,14 +192,22 @@ void BenchMemory(const std::string& tree) {
 
 // The show takes the news of the listing over while its effect runs, which it does not even do.
 void BenchFramesBesideListing(const std::string& tree) {
-  const double alone = FramesInTime(5, nullptr);
-  const double frames = FramesInTime(5, [&](os::EventLoop& loop) {
+  const auto beside = [&](os::EventLoop& loop) {
     const auto followed = std::make_shared<Followed>(tree);
     loop.startTimer(500, [followed] { followed->takeNews(); });
     return followed;
-  });
-  PrintRow("frames done within 16.7 ms beside the first listing", "those without a listing", frames / alone,
-           ">= 0.99");
+  };
+  // In turns, so that whatever else the machine does takes frames from both.
+  std::vector<double> alone;
+  std::vector<double> listing;
+  for (int i = 0; i < 5; ++i) {
+    alone.push_back(FramesInTime(5, nullptr));
+    listing.push_back(FramesInTime(5, beside));
+  }
+  std::sort(alone.begin(), alone.end());
+  std::sort(listing.begin(), listing.end());
+  PrintRow("frames done within 16.7 ms beside the first listing", "those without a listing",
+           listing[2] / alone[2], ">= 0.99");
   const double start = NowMs();
   Followed followed(tree);
   followed.waitForAll();
