@@ -148,6 +148,8 @@ TEST_F(AuxWindows, AFolderIsImportedWithWhatLiesBelowItByTheKeyboard) {
   for (const std::string& path : {place.path() + "\\b.jpg", deep + "\\a.gif", deep + "\\notes.txt"}) {
     CloseHandle(CreateFileW(os::ToWide(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
   }
+  machine.files.gone = {"C:",
+                        "C:\\"};  // where the list's picture is; so the import starts at the user's pictures
   machine.files.pictures = place.path();
   machine.pictures.add(deep + "\\a.gif", {4, 3}, base::kBlack);
   open({400, 300});
