@@ -276,6 +276,35 @@ TEST_F(PicturesOnSeveralScreens, TheSameOneIsSizedForEach) {
   EXPECT_TRUE(show->endsByKey());
 }
 
+// Something is written between two heights of a screen, right of a column.
+bool HasInk(const base::PixelRect& screen, int left, int top, int bottom) {
+  for (int y = top; y < bottom; y += 2) {
+    for (int x = left; x < screen.width; x += 2) {
+      const base::Pixel pixel = e2e::ScreenPixel(screen.left + x, screen.top + y);
+      if (pixel != kBlack && pixel != kBackground && pixel != base::OpaquePixel(base::Rgb(250, 0, 0)))
+        return true;
+    }
+  }
+  return false;
+}
+
+TEST_F(PicturesOnSeveralScreens, TheCaptionStandsOnEachAndTheClockOnThePrimaryOne) {
+  folder.set("image/timeDisplay", "1");
+  folder.set("image/timeInterval", "30");
+  startShowing("same");
+  std::vector<base::PixelRect> all = screens.others;
+  all.push_back(screens.primary);
+  for (const base::PixelRect& screen : all) {
+    EXPECT_TRUE(e2e::WaitFor([&] { return HasInk(screen, screen.width / 3, 0, 24); })) << screen.left;
+  }
+  const auto hasClock = [](const base::PixelRect& screen) {
+    return HasInk(screen, screen.width - 120, screen.height - 20, screen.height);
+  };
+  EXPECT_TRUE(e2e::WaitFor([&] { return hasClock(screens.primary); }));
+  for (const base::PixelRect& other : screens.others) EXPECT_FALSE(hasClock(other)) << other.left;
+  EXPECT_TRUE(show->endsByKey());
+}
+
 TEST_F(PicturesOnSeveralScreens, ThreeChangeToTheNextThree) {
   startShowing("different");
   const auto shows = [&](std::size_t first) {

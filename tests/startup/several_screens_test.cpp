@@ -143,6 +143,19 @@ TEST_F(SeveralScreens, HaveAGradientOverTheHeightOfEach) {
   }
 }
 
+TEST_F(SeveralScreens, EachStretchTheUsersPictureOverAllOfThemselves) {
+  stage.set("background/backEffect", "2");
+  stage.set("background/backgroundImage", "C:\\back.jpg");
+  stage.set("background/backgroundDisplay", "1");
+  stage.pictures.add("C:\\back.jpg", {300, 200}, kYellow);
+  startShowing("same");
+  stage.runFor(100);
+  for (const base::Bitmap* shown : {&window().screen, &covers.at(0)->screen, &covers.at(1)->screen}) {
+    EXPECT_EQ(columns(*shown, kYellow), shown->size().width);
+    EXPECT_EQ(shown->at(0, shown->size().height - 1), base::OpaquePixel(kYellow));
+  }
+}
+
 TEST_F(SeveralScreens, ChangeTogetherInEveryFrame) {
   stage.set("transitions/bLeftWipe", "1");
   stage.set("extras/transitionTime", "1000");

@@ -13,6 +13,8 @@ namespace support {
 
 class StartedShow {
  public:
+  explicit StartedShow(base::PixelSize primaryScreen = {1024, 768}) : stage(primaryScreen) {}
+
   void start(const os::SystemFacts& facts = {}) {
     stage.writeSettings();
     saver::ShowServices services = stage.services();
