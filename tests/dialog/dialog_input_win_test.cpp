@@ -3,6 +3,12 @@
 
 #include <commctrl.h>
 #include <gtest/gtest.h>
+#include <shellapi.h>
+#include <shlobj.h>
+
+#include <cstring>
+#include <string>
+#include <vector>
 
 #include "support/real_dialog_win.h"
 
@@ -222,6 +228,34 @@ TEST_F(DialogInput, EnterPressesOk) {
 TEST_F(DialogInput, ClosingTheWindowCancels) {
   PostMessageW(dialog->window(), WM_SYSCOMMAND, SC_CLOSE, 0);
   EXPECT_TRUE(dialog->waitFor([&] { return !dialog->isOpen(); }));
+}
+
+// As the shell gives the paths of dropped files: behind a head, each closed by a zero, and one more at the
+// end.
+HDROP DroppedFiles(const std::vector<std::wstring>& paths) {
+  std::wstring names;
+  for (const std::wstring& path : paths) names += path + L'\0';
+  names += L'\0';
+  const std::size_t bytes = names.size() * sizeof(wchar_t);
+  const HGLOBAL block = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, sizeof(DROPFILES) + bytes);
+  auto* const head = static_cast<DROPFILES*>(GlobalLock(block));
+  head->pFiles = sizeof(DROPFILES);
+  head->fWide = TRUE;
+  std::memcpy(head + 1, names.data(), bytes);
+  GlobalUnlock(block);
+  return static_cast<HDROP>(block);
+}
+
+TEST_F(DialogInput, PicturesDroppedOnTheListComeBehindItsOwn) {
+  for (const char* path : {"C:\\new.gif", "C:\\newer.gif"}) {
+    machine.files.content[path] = "";
+    machine.pictures.add(path, {30, 40}, base::kBlack);
+  }
+  const HDROP drop = DroppedFiles({L"C:\\new.gif", L"C:\\newer.gif"});
+  PostMessageW(dialog->windowOf(form().List1), WM_DROPFILES, reinterpret_cast<WPARAM>(drop), 0);
+  EXPECT_TRUE(dialog->waitFor([&] { return form().List1.listCount() == 5; }));
+  EXPECT_EQ(form().List1.item(3), "C:\\new.gif");
+  EXPECT_EQ(form().List1.item(4), "C:\\newer.gif");
 }
 
 }  // namespace

@@ -50,6 +50,9 @@ struct DialogInventory : testing::Test {
     EXPECT_EQ(SendMessageW(window, TBM_GETRANGEMAX, 0, 0), max);
     EXPECT_EQ(SendMessageW(window, TBM_GETPAGESIZE, 0, 0), page);
     EXPECT_EQ(SendMessageW(window, TBM_GETLINESIZE, 0, 0), 1);
+    const auto& model = static_cast<const forms::Slider&>(*support::ControlNamed(dialog.form(), name));
+    const int between = (max - min - 1) / model.tickFrequency();  // the two ends have ticks of their own
+    EXPECT_EQ(SendMessageW(window, TBM_GETNUMTICS, 0, 0), between + 2);
   }
 
   static void checkCombo(RealDialog& dialog, const char* name, int count, const char* first, const char* last,
