@@ -54,18 +54,34 @@ class FrameAfterWait : public PassingLoop {
   using PassingLoop::PassingLoop;
 
   void waitUntil(std::int64_t deadlineMs) override {
-    if (isAfterWait_) longestMs = std::max(longestMs, NowMs() - returnedMs_);
-    isAfterWait_ = depth_ > 0 && static_cast<double>(deadlineMs) - NowMs() > kShortestMs;
+    note();
+    isAfterWait_ = isAfterWait_ || (depth_ > 0 && static_cast<double>(deadlineMs) - NowMs() > kShortestMs);
     ++depth_;
     PassingLoop::waitUntil(deadlineMs);
     --depth_;
     returnedMs_ = NowMs();
   }
 
+  TimerId startTimer(int intervalMs, std::function<void()> tick) override {
+    return PassingLoop::startTimer(intervalMs, [this, tick = std::move(tick)] {
+      tick();
+      note();  // an effect without steps does not wait
+    });
+  }
+
   double longestMs = 0;
 
  private:
   static constexpr double kShortestMs = 200;  // longer than any wait between two frames
+  static constexpr double kNoFrameMs = 0.5;   // the wait has only been taken up again, for the rest of it
+
+  void note() {
+    const double passed = NowMs() - returnedMs_;
+    if (!isAfterWait_ || passed < kNoFrameMs) return;
+    longestMs = std::max(longestMs, passed);
+    isAfterWait_ = false;
+  }
+
   int depth_ = 0;
   bool isAfterWait_ = false;
   double returnedMs_ = 0;
