@@ -47,8 +47,8 @@ class Files {
   // Where the user keeps pictures; empty when the system names no folder.
   virtual std::string picturesFolder() = 0;
 
-  // Puts names into the order in which the system shows them: as people sort, 2 before 10, accents beside their
-  // letters.
+  // Puts names into the order in which the system shows them: as people sort, 2 before 10, accents beside
+  // their letters.
   virtual void sortNames(std::vector<std::string>& names) = 0;
 
   // The short (8.3) form of a path where the file system has one, else the path itself.

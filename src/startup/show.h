@@ -70,7 +70,7 @@ class Show {
   std::vector<std::unique_ptr<Cover>> covers_;      // one for each further screen
   std::vector<std::unique_ptr<Cover>> goneCovers_;  // closed; one of their events may still be under way
   saver::ShowTime time_{services_.loop, services_.clock};
-  saver::Form1 form_;                               // shows pictures in them
+  saver::Form1 form_;  // shows pictures in them
   SaverExit exit_;
   std::optional<InputWatch> watch_;
   bool missedScreenChange_ = false;  // while the display was off

@@ -18,22 +18,14 @@ struct Group {
 };
 
 constexpr Group kGroups[] = {
-    {"start", bench::BenchStartAndEnd},
-    {"idle", bench::BenchIdle},
-    {"settings", bench::BenchSettings},
-    {"dialog", bench::BenchDialog},
-    {"pictures", bench::BenchPictures},
-    {"shrinking", bench::BenchShrinking},
-    {"drawing", bench::BenchDrawing},
-    {"frames", bench::BenchFrames},
-    {"screens", bench::BenchScreens},
-    {"looks", bench::BenchLooks},
-    {"loading", bench::BenchLoading},
-    {"first", bench::BenchFirstPicture},
-    {"changes", bench::BenchManyChanges},
-    {"day", bench::BenchDayOfShow},
-    {"size", bench::BenchProgramSize},
-    {"folders", bench::BenchFollowedFolders},
+    {"start", bench::BenchStartAndEnd},   {"idle", bench::BenchIdle},
+    {"settings", bench::BenchSettings},   {"dialog", bench::BenchDialog},
+    {"pictures", bench::BenchPictures},   {"shrinking", bench::BenchShrinking},
+    {"drawing", bench::BenchDrawing},     {"frames", bench::BenchFrames},
+    {"screens", bench::BenchScreens},     {"looks", bench::BenchLooks},
+    {"loading", bench::BenchLoading},     {"first", bench::BenchFirstPicture},
+    {"changes", bench::BenchManyChanges}, {"day", bench::BenchDayOfShow},
+    {"size", bench::BenchProgramSize},    {"folders", bench::BenchFollowedFolders},
 };
 
 bool IsWanted(std::string_view name, int argc, char** argv) {
