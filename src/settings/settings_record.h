@@ -29,7 +29,7 @@ struct SettingsRecord {
   std::string countdownMonth, countdownDay, countdownYear;
   // [extras]: settings beyond the documented file; each is empty when absent
   std::string transitionTime, fit, surround, change, panZoom, otherScreens, matchOrientation, livePreview,
-      log, loadAhead, shuffle, resume, subfolders, moreFormats;
+      log, loadAhead, shuffle, resume, subfolders, moreFormats, captions, keys, care, shade;
 };
 
 // A setting's text in the record.
@@ -104,6 +104,10 @@ inline constexpr auto kExtraKeys = std::to_array<Key>({
     {"extras", "resume", &SettingsRecord::resume, ""},
     {"extras", "subfolders", &SettingsRecord::subfolders, ""},
     {"extras", "moreFormats", &SettingsRecord::moreFormats, ""},
+    {"extras", "captions", &SettingsRecord::captions, ""},
+    {"extras", "keys", &SettingsRecord::keys, ""},
+    {"extras", "care", &SettingsRecord::care, ""},
+    {"extras", "shade", &SettingsRecord::shade, ""},
 });
 // clang-format on
 
