@@ -229,6 +229,8 @@ void BenchLoading() {
 // The viewer is a program of the system below, named in the environment; it ends by itself.
 void BenchFirstPicture() {
   constexpr double kStartDelayMs = 500;
+  wchar_t self[MAX_PATH];
+  GetModuleFileNameW(nullptr, self, MAX_PATH);
   wchar_t viewer[MAX_PATH] = {};
   if (GetEnvironmentVariableW(L"LUMORA_BENCH_VIEWER", viewer, MAX_PATH) == 0) return;
   for (const Photograph& photograph : kPhotographs) {
@@ -240,12 +242,16 @@ void BenchFirstPicture() {
     const std::wstring file = NativePath(os::FromWide(folder.path()) + "\\photograph.jpg");
     std::vector<double> shows;
     std::vector<double> views;
+    std::vector<double> bareViews;
     for (int i = 0; i < 5; ++i) {
       shows.push_back(ToPicture(folder.program(), L"/S", true) - kStartDelayMs);
       views.push_back(ToPicture(viewer, file, false));
+      bareViews.push_back(ToPicture(self, L"--viewer " + folder.path() + L"\\photograph.jpg", true));
     }
     PrintRow(std::string("start to first picture less half a second, ") + photograph.name + " JPEG",
              "a native viewer", Median(shows) / Median(views), "<= 1 time");
+    PrintRow(std::string("start to first picture less half a second, ") + photograph.name + " JPEG",
+             "a bare viewer on the same platform", Median(shows) / Median(bareViews), "<= 1 time");
   }
 }
 

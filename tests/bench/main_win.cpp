@@ -41,6 +41,7 @@ bool IsWanted(std::string_view name, int argc, char** argv) {
 // Arguments: the built program folder (Windows path); names of groups, all without any.
 int main(int argc, char** argv) {
   if (argc > 1 && std::string_view(argv[1]) == "--bare") return bench::RunBareWindow();
+  if (argc > 2 && std::string_view(argv[1]) == "--viewer") return bench::RunBareViewer(argv[2]);
   if (argc > 1) e2e::builtFolder = os::ToWide(argv[1]);
   const support::ComScope components;
   std::printf("%-58s | %-46s | %10s | %s\n", "work", "reference", "ratio", "bar");
