@@ -20,8 +20,7 @@ std::optional<pictures::Wish> Face::wishFor(std::int16_t number) const {
   const auto prepare = [limit, perPixel = twipsPerPixel(), looks = floats() ? Looks() : look_.looks(),
                         on = compositionFor({})](const pictures::Picture& file) mutable {
     on.documented = ShownPixels(limit, file.size(), perPixel);
-    return pictures::DrawAhead(
-        file, looks.isDocumentedSize() ? on.documented : PlanComposition(looks, file.size(), on).drawn);
+    return ComposeAhead(looks, file, on);
   };
   return pictures::Wish{.path = settings_.imageFiles[index],
                         .box = {limit.maxPictureWidth, limit.maxPictureHeight},

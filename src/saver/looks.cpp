@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/text.h"
+#include "pictures/ahead_loader.h"
 #include "saver/surround.h"
 
 namespace saver {
@@ -22,18 +23,22 @@ FittedPicture FittedFor(Fit fit, base::PixelSize picture, const Composition& on)
   return FitPicture(fit, picture, on.screen, on.share);
 }
 
-bool Covers(base::PixelSize box, base::PixelSize screen) {
-  return box.width >= screen.width && box.height >= screen.height;
+bool Covers(base::PixelSize over, base::PixelSize under) {
+  return over.width >= under.width && over.height >= under.height;
 }
 
 int InProportion(int length, int drawn, int shown) {
   return static_cast<int>(std::lround(static_cast<double>(length) * drawn / shown));
 }
 
+// Where a picture in the middle of an area has its top left corner.
+base::PixelPoint InMiddleOf(base::PixelSize area, base::PixelSize picture) {
+  return {(area.width - picture.width) / 2, (area.height - picture.height) / 2};
+}
+
 // The picture in the middle of an area that it may leave free or overlap.
 base::Bitmap OnArea(base::PixelSize area, const base::Bitmap& picture, bool blurredSurround) {
-  const base::PixelPoint at{(area.width - picture.size().width) / 2,
-                            (area.height - picture.size().height) / 2};
+  const base::PixelPoint at = InMiddleOf(area, picture.size());
   base::Bitmap composed = blurredSurround ? MakeSurround(picture, area) : base::Bitmap(area);
   const base::PixelRect whole = base::PixelRect::ofSize(picture.size());
   if (blurredSurround) {
@@ -44,6 +49,33 @@ base::Bitmap OnArea(base::PixelSize area, const base::Bitmap& picture, bool blur
   composed.setOpaque(picture.isOpaque());
   return composed;
 }
+
+// A picture on a surround that leaves all of it to be seen.
+class ComposedAhead final : public pictures::Picture {
+ public:
+  ComposedAhead(base::PixelSize size, base::PixelSize drawn, base::SharedBitmap area)
+      : size_(size), drawn_(drawn), area_(std::move(area)) {}
+
+  base::PixelSize size() const override { return size_; }
+
+  base::SharedBitmap drawnAt(base::PixelSize size) const override {
+    const base::PixelPoint at = InMiddleOf(area_->size(), drawn_);
+    auto picture = std::make_shared<base::Bitmap>(base::Bitmap::unfilled(drawn_));
+    base::CopyRect(picture->view(), {0, 0}, *area_, {at.x, at.y, drawn_.width, drawn_.height});
+    picture->setOpaque(area_->isOpaque());
+    return pictures::MakePicture(std::move(picture))->drawnAt(size);
+  }
+
+  // Null where other sizes are wanted.
+  base::SharedBitmap composedFor(base::PixelSize drawn, base::PixelSize area) const {
+    return drawn == drawn_ && area == area_->size() ? area_ : nullptr;
+  }
+
+ private:
+  base::PixelSize size_;
+  base::PixelSize drawn_;
+  base::SharedBitmap area_;
+};
 
 }  // namespace
 
@@ -68,11 +100,31 @@ CompositionPlan PlanComposition(const Looks& looks, base::PixelSize picture, con
 ComposedPicture ComposePicture(const Looks& looks, const pictures::Picture& picture, const Composition& on) {
   const CompositionPlan plan = PlanComposition(looks, picture.size(), on);
   const base::PixelSize area = plan.glide.drawnSize();
+  if (const auto* ahead = dynamic_cast<const ComposedAhead*>(&picture)) {
+    if (base::SharedBitmap composed = ahead->composedFor(plan.drawn, area)) {
+      return {std::move(composed), plan.glide};
+    }
+  }
   base::SharedBitmap drawn = picture.drawnAt(plan.drawn);
   if (drawn && drawn->size() != area) {
-    drawn = std::make_shared<base::Bitmap>(OnArea(area, *drawn, looks.blurredSurround));
+    const bool isHidden = drawn->isOpaque() && Covers(plan.drawn, area);
+    drawn = std::make_shared<base::Bitmap>(OnArea(area, *drawn, looks.blurredSurround && !isHidden));
   }
   return {std::move(drawn), plan.glide};
+}
+
+pictures::SharedPicture ComposeAhead(const Looks& looks, const pictures::Picture& file,
+                                     const Composition& on) {
+  if (looks.isDocumentedSize()) return pictures::DrawAhead(file, on.documented);
+  const CompositionPlan plan = PlanComposition(looks, file.size(), on);
+  const base::PixelSize drawn = plan.drawn;
+  // To cut a picture is quickly done when it is shown, and another screen may want all of it.
+  if (!looks.blurredSurround || !Covers(plan.glide.drawnSize(), drawn)) {
+    return pictures::DrawAhead(file, drawn);
+  }
+  base::SharedBitmap composed = ComposePicture(looks, file, on).pixels;
+  if (!composed) return nullptr;
+  return std::make_shared<ComposedAhead>(file.size(), drawn, std::move(composed));
 }
 
 }  // namespace saver

@@ -55,4 +55,10 @@ struct ComposedPicture {
 // A picture by its fit, on a surround that covers the screen where one is wanted.
 ComposedPicture ComposePicture(const Looks& looks, const pictures::Picture& picture, const Composition& on);
 
+// The same beside the show: a picture of the file's own size of which ComposePicture has nothing left to do
+// for the same looks and sizes. Composed for others it is taken from what was composed. Never reads the file
+// again; null when the file cannot be drawn. Touches nothing else, so that it runs on any thread.
+pictures::SharedPicture ComposeAhead(const Looks& looks, const pictures::Picture& file,
+                                     const Composition& on);
+
 }  // namespace saver

@@ -379,6 +379,24 @@ TEST_F(FormLook, AScreenThatChangesDuringACrossfadeGetsThePictureAnew) {
   EXPECT_TRUE(show.errors.empty());
 }
 
+TEST_F(FormLook, OfACrossfadeForAnotherScreenNothingIsSeenOnTheNewOne) {
+  show.set("extras/fit", "fill");
+  show.set("extras/change", "crossfade");
+  show.addPicture({640, 480}, kRed);
+  show.start();
+  bool looked = false;
+  at(kFirstPictureMs + 300, [&] {
+    ASSERT_NE(show.screenAt(100, 100), kBlack);
+    ASSERT_NE(show.screenAt(100, 100), kRedPixel);
+    show.screen.size = {480, 360};
+    show.form->ScreenChanged();
+    EXPECT_EQ(show.screenAt(100, 100), kBlack);
+    looked = true;
+  });
+  run();
+  EXPECT_TRUE(looked);
+}
+
 TEST_F(FormLook, AScreenThatChangesDuringAGlideGetsThePictureAnew) {
   show.set("extras/fit", "fill");
   show.set("extras/panZoom", "8");

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
+#include <utility>
 
 #include "support/noise.h"
 
@@ -96,8 +98,72 @@ TEST(Looks, ThePlanNamesTheSizeAtWhichThePictureIsDrawn) {
   }
 }
 
+// A picture of noise; where it is not opaque, with a hole in its middle.
+pictures::SharedPicture Noisy(PixelSize size, bool opaque) {
+  auto bitmap = std::make_shared<base::Bitmap>(support::OpaqueNoise(size));
+  if (!opaque) {
+    base::FillRect(bitmap->view(), {size.width / 4, size.height / 4, size.width / 2, size.height / 2},
+                   base::kTransparent);
+    bitmap->setOpaque(false);
+  }
+  return pictures::MakePicture(std::move(bitmap));
+}
+
+bool SamePixels(const base::Bitmap& a, const base::Bitmap& b) {
+  if (a.size() != b.size()) return false;
+  for (int y = 0; y < a.size().height; ++y) {
+    if (!std::equal(a.row(y), a.row(y) + a.size().width, b.row(y))) return false;
+  }
+  return true;
+}
+
+constexpr Composition kSmall{
+    .screen = {320, 180}, .share = {310, 170}, .documented = {120, 90}, .glideMs = 60'000};
+
+TEST(Looks, WhatWasComposedAheadIsWhatWouldBeComposedOnTheSpot) {
+  for (const PixelSize size : {PixelSize{400, 300}, {90, 160}, {64, 64}, {320, 180}, {1000, 100}}) {
+    for (const Fit fit : {Fit::Documented, Fit::Whole, Fit::Fill}) {
+      for (const bool blurred : {false, true}) {
+        for (const int percent : {0, 8}) {
+          for (const bool opaque : {false, true}) {
+            const Looks looks{.fit = fit, .blurredSurround = blurred, .panZoomPercent = percent};
+            const pictures::SharedPicture file = Noisy(size, opaque);
+            const pictures::SharedPicture ahead = ComposeAhead(looks, *file, kSmall);
+            ASSERT_EQ(ahead->size(), size);
+            const ComposedPicture onTheSpot = ComposePicture(looks, *file, kSmall);
+            const ComposedPicture composed = ComposePicture(looks, *ahead, kSmall);
+            EXPECT_TRUE(SamePixels(*composed.pixels, *onTheSpot.pixels))
+                << size.width << " x " << size.height << " fit " << static_cast<int>(fit) << blurred
+                << percent << opaque;
+          }
+        }
+      }
+    }
+  }
+}
+
+TEST(Looks, OfASurroundThatWasComposedAheadNothingIsLeftToDo) {
+  const Looks looks{.fit = Fit::Whole, .blurredSurround = true, .panZoomPercent = 8};
+  const pictures::SharedPicture ahead = ComposeAhead(looks, *Noisy({400, 300}, true), kSmall);
+  EXPECT_EQ(ComposePicture(looks, *ahead, kSmall).pixels, ComposePicture(looks, *ahead, kSmall).pixels);
+}
+
+TEST(Looks, ForAnotherScreenThePictureIsTakenFromWhatWasComposedAhead) {
+  const Looks looks{.fit = Fit::Whole, .blurredSurround = true};
+  const pictures::SharedPicture ahead = ComposeAhead(looks, *Noisy({310, 170}, true), kSmall);
+  Composition larger = kSmall;
+  larger.screen = {400, 220};
+  const ComposedPicture composed = ComposePicture(looks, *ahead, larger);
+  EXPECT_EQ(composed.pixels->size(), larger.screen);
+  const auto picture = Noisy({310, 170}, true)->drawnAt({310, 170});
+  EXPECT_EQ(composed.pixels->at((400 - 310) / 2, (220 - 170) / 2), picture->at(0, 0));
+  EXPECT_EQ(composed.pixels->at((400 + 310) / 2 - 1, (220 + 170) / 2 - 1), picture->at(309, 169));
+}
+
 TEST(Looks, APictureThatCannotBeDecodedHasNoPixels) {
   EXPECT_EQ(ComposePicture({.fit = Fit::Fill}, Drawn({40, 30}, true), kOn).pixels, nullptr);
+  EXPECT_EQ(ComposeAhead({.fit = Fit::Fill}, Drawn({40, 30}, true), kOn), nullptr);
+  EXPECT_EQ(ComposeAhead({.blurredSurround = true}, Drawn({40, 30}, true), kOn), nullptr);
 }
 
 }  // namespace
