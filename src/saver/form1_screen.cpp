@@ -72,12 +72,12 @@ void Form1::setFurtherScreens(std::span<const FurtherScreen> screens) {
   const auto isThere = [screens](const Further& one) {
     return std::ranges::find(screens, one.window, &FurtherScreen::window) != screens.end();
   };
-  const auto gone = std::ranges::stable_partition(further_, isThere);
-  for (Further& one : gone) {
-    one.face->endFace();
-    gone_.push_back(std::move(one));
+  const auto firstGone = std::stable_partition(further_.begin(), further_.end(), isThere);
+  for (auto one = firstGone; one != further_.end(); ++one) {
+    one->face->endFace();
+    gone_.push_back(std::move(*one));
   }
-  further_.erase(gone.begin(), gone.end());
+  further_.erase(firstGone, further_.end());
   services_.ahead.allowWishes(kWishesOfAFace * (1 + screens.size()) + kWishesForShapes);
   for (const FurtherScreen& screen : screens) {
     const auto found = std::ranges::find(further_, screen.window, &Further::window);

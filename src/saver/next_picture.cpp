@@ -7,8 +7,7 @@ namespace saver {
 void NextPicture::prepare(const pictures::Wish& wish) {
   if (coming_ && coming_->wish.isSameAs(wish)) return;
   forget();
-  coming_.emplace();
-  coming_->wish = wish;
+  coming_ = Coming{wish, 0, false, nullptr};
   coming_->ticket = loader_.wish(wish, [this](pictures::SharedPicture picture) {
     coming_->answered = true;
     coming_->picture = std::move(picture);

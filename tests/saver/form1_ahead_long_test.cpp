@@ -20,7 +20,7 @@ class CountedPictures final : public pictures::PictureLoader {
  public:
   pictures::SharedPicture open(const std::string& path) override {
     ++opened;
-    return std::make_shared<Counted>(*this, 40 + static_cast<int>(path.size() * 37 + path.back()) % 300);
+    return std::make_shared<Counted>(*this, 40 + (static_cast<int>(path.size()) * 37 + path.back()) % 300);
   }
 
   std::size_t held() {

@@ -210,7 +210,7 @@ TEST_F(SeveralScreens, EachScrollOrCentreTheirOwnCaptionAndTheClockIsOnThePrimar
 }
 
 TEST_F(SeveralScreens, WakeTheMachineBetweenTwoChangesNoMoreOftenThanOne) {
-  const auto wakes = [this](std::vector<base::PixelRect> others) {
+  const auto wakes = [](std::vector<base::PixelRect> others) {
     support::StartedShow run;
     run.stage.screen.others = std::move(others);
     run.stage.set("extras/otherScreens", "same");
