@@ -35,7 +35,7 @@ class ImageView : public forms::Form {
   // The selected entry of `pictures` is the picture's path.
   ImageView(const forms::ListBox& pictures, pictures::PictureLoader& loader, forms::Dialogs& dialogs,
             forms::WindowSystem& windows, AheadSource ahead = {});
-  ~ImageView() { dropAwaited(); }
+  ~ImageView() override { dropAwaited(); }
 
   forms::PictureBox Picture1{*this, "Picture1"};
 

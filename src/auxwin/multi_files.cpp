@@ -156,7 +156,7 @@ std::optional<MultiFiles::Pictures> MultiFiles::listed() const {
 std::optional<MultiFiles::Pictures> MultiFiles::searched() {
   const std::string folder = filFilenames.path();
   TreeSearch search(services_.folders, services_.makeWorker, folder,
-                    library::PictureNames::OfPatterns(filFilenames.pattern()));
+                    library::PictureNames::ofPatterns(filFilenames.pattern()));
   progress_.onTimer = [this, &search] {
     if (!isOver()) lblProgress.setCaption(FoundSoFar(search.picturesFound(), search.foldersRead()));
   };

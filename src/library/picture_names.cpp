@@ -22,7 +22,7 @@ PictureNames::PictureNames(const std::vector<std::string>& further)
   sort();
 }
 
-PictureNames PictureNames::OfPatterns(std::string_view patterns) {
+PictureNames PictureNames::ofPatterns(std::string_view patterns) {
   PictureNames names;
   names.endings_.clear();
   while (!patterns.empty()) {
@@ -47,7 +47,7 @@ bool PictureNames::contains(std::string_view fileName) const {
 }
 
 std::string PatternsWith(std::string_view patterns, const std::vector<std::string>& endings) {
-  const PictureNames known = PictureNames::OfPatterns(patterns);
+  const PictureNames known = PictureNames::ofPatterns(patterns);
   std::set<std::string> further;
   for (const std::string& ending : endings) {
     if (IsEnding(ending) && !known.contains(ending)) further.insert(base::AsciiLower(ending));

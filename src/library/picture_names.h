@@ -13,7 +13,7 @@ class PictureNames {
   explicit PictureNames(const std::vector<std::string>& further = {});
 
   // Exactly the endings in patterns such as "*.bmp;*.gif".
-  static PictureNames OfPatterns(std::string_view patterns);
+  static PictureNames ofPatterns(std::string_view patterns);
 
   bool contains(std::string_view fileName) const;
 

@@ -8,7 +8,7 @@ using library::PatternsWith;
 using library::PictureNames;
 
 TEST(PictureNames, PatternsNameTheirEndingsAndNoOthers) {
-  const PictureNames names = PictureNames::OfPatterns("*.bmp;*.JPG;;nonsense;*");
+  const PictureNames names = PictureNames::ofPatterns("*.bmp;*.JPG;;nonsense;*");
   for (const char* name : {"a.bmp", "a.BMP", "b.jpg", ".jpg"}) EXPECT_TRUE(names.contains(name)) << name;
   for (const char* name : {"a.gif", "a.jif", "bmp", "a.bmp.txt", "a.", ""})
     EXPECT_FALSE(names.contains(name)) << name;
