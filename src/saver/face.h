@@ -48,7 +48,7 @@ class Face : public forms::Form {
   // any wait may bring.
   Face(const char* name, const FaceServices& services, const settings::SaverSettings& settings,
        std::function<bool()> isOver);
-  ~Face() { dropBackgroundWish(); }
+  ~Face() override { dropBackgroundWish(); }
 
   forms::PictureBox BgrImage;           // the composed background
   forms::PictureBox PreBgrImage;        // the user's background picture as loaded
