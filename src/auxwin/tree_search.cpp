@@ -25,7 +25,7 @@ struct TreeSearch::Search {
   bool done = false;  // the user-interface thread's alone
 };
 
-TreeSearch::TreeSearch(std::shared_ptr<os::FolderReader> folders, const os::MakeWorker& makeWorker,
+TreeSearch::TreeSearch(const std::shared_ptr<os::FolderReader>& folders, const os::MakeWorker& makeWorker,
                        const std::string& folder, library::PictureNames names)
     : search_(new Search{.folders = folders,
                          .walk = library::FolderWalk(*folders, folder,

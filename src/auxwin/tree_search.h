@@ -17,7 +17,7 @@ namespace auxwin {
 class TreeSearch {
  public:
   // Begins at once. `folders` is shared with the thread, which may come back from the system late.
-  TreeSearch(std::shared_ptr<os::FolderReader> folders, const os::MakeWorker& makeWorker,
+  TreeSearch(const std::shared_ptr<os::FolderReader>& folders, const os::MakeWorker& makeWorker,
              const std::string& folder, library::PictureNames names);
   ~TreeSearch();
   TreeSearch(const TreeSearch&) = delete;

@@ -11,7 +11,7 @@ std::uint64_t DayChoice::numberOf(std::string_view folder, std::string_view pict
   return Scramble(PathHash(picture, PathHash(folder)) ^ Scramble(day_));
 }
 
-std::uint64_t DayChoice::LimitFor(std::vector<std::uint64_t> numbers, std::size_t most) {
+std::uint64_t DayChoice::limitFor(std::vector<std::uint64_t> numbers, std::size_t most) {
   if (most == 0 || numbers.size() <= most) return std::numeric_limits<std::uint64_t>::max();
   const auto last = numbers.begin() + static_cast<std::ptrdiff_t>(most - 1);
   std::nth_element(numbers.begin(), last, numbers.end());
@@ -23,7 +23,7 @@ void DayChoice::cut(std::vector<std::string>& pictures, std::string_view folder,
   std::vector<std::uint64_t> numbers;
   numbers.reserve(pictures.size());
   for (const std::string& picture : pictures) numbers.push_back(numberOf(folder, picture));
-  const std::uint64_t limit = LimitFor(std::move(numbers), most);
+  const std::uint64_t limit = limitFor(std::move(numbers), most);
   std::erase_if(pictures, [&](const std::string& picture) { return numberOf(folder, picture) > limit; });
   if (pictures.size() > most) pictures.resize(most);
 }

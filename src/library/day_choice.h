@@ -21,7 +21,7 @@ class DayChoice {
   std::uint64_t numberOf(std::string_view folder, std::string_view picture) const;
 
   // The number up to which, itself included, `most` of the numbers are; the largest when no more are given.
-  static std::uint64_t LimitFor(std::vector<std::uint64_t> numbers, std::size_t most);
+  static std::uint64_t limitFor(std::vector<std::uint64_t> numbers, std::size_t most);
 
   bool operator==(const DayChoice&) const = default;
 

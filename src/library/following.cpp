@@ -111,7 +111,7 @@ void Following::combine() {
   if (chosenFrom) {
     std::vector<std::uint64_t> numbers(found.size());
     std::transform(found.begin(), found.end(), numbers.begin(), numberOf);
-    const std::uint64_t limit = DayChoice::LimitFor(std::move(numbers), request_.most);
+    const std::uint64_t limit = DayChoice::limitFor(std::move(numbers), request_.most);
     std::erase_if(found, [&](const auto& entry) { return numberOf(entry) > limit; });
     if (found.size() > request_.most) found.resize(request_.most);
   }
