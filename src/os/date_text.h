@@ -17,6 +17,9 @@ class DateText {
 
   // The time with seconds, for example "1:05:09 PM".
   virtual std::string time(const LocalTime& moment) const = 0;
+
+  // The same without seconds, for example "1:05 PM".
+  virtual std::string timeToTheMinute(const LocalTime& moment) const = 0;
 };
 
 // The general date form: the date, a blank, the time; the date alone at midnight.

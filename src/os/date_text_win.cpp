@@ -40,10 +40,17 @@ class WindowsDateText final : public DateText {
                                           buffer.data(), static_cast<int>(buffer.size()), nullptr));
   }
 
-  std::string time(const LocalTime& moment) const override {
+  std::string time(const LocalTime& moment) const override { return timeText(moment, 0); }
+
+  std::string timeToTheMinute(const LocalTime& moment) const override {
+    return timeText(moment, TIME_NOSECONDS);
+  }
+
+ private:
+  static std::string timeText(const LocalTime& moment, DWORD flags) {
     const SYSTEMTIME time = ToSystemTime(moment);
     FormBuffer buffer{};
-    return TextOf(buffer, GetTimeFormatEx(LOCALE_NAME_USER_DEFAULT, 0, &time, nullptr, buffer.data(),
+    return TextOf(buffer, GetTimeFormatEx(LOCALE_NAME_USER_DEFAULT, flags, &time, nullptr, buffer.data(),
                                           static_cast<int>(buffer.size())));
   }
 };

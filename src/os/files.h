@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "os/clock.h"
+
 namespace os {
 
 class Files {
@@ -26,6 +28,9 @@ class Files {
   virtual bool replace(const std::string& path, std::string_view content) = 0;
 
   virtual bool exists(const std::string& path) = 0;
+
+  // When the file at a path was written last; nothing when there is none.
+  virtual std::optional<LocalTime> changedAt(const std::string& path) = 0;
 
   // True when a file can be made in the folder.
   virtual bool canWriteIn(const std::string& folder) = 0;

@@ -145,6 +145,21 @@ bool FilesWin::exists(const std::string& path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
+// The time zone's rules for the day on which the file was written, not those of today.
+std::optional<LocalTime> FilesWin::changedAt(const std::string& path) {
+  WIN32_FILE_ATTRIBUTE_DATA found{};
+  SYSTEMTIME universal{};
+  SYSTEMTIME local{};
+  if (GetFileAttributesExW(WidePath(path).c_str(), GetFileExInfoStandard, &found) == FALSE ||
+      (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ||
+      FileTimeToSystemTime(&found.ftLastWriteTime, &universal) == FALSE ||
+      SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local) == FALSE) {
+    return std::nullopt;
+  }
+  return LocalTime{local.wYear,   local.wMonth,  local.wDay,         local.wHour,
+                   local.wMinute, local.wSecond, local.wMilliseconds};
+}
+
 bool FilesWin::canWriteIn(const std::string& folder) {
   const std::wstring name = L"\\lumora" + NameBeside();
   const std::wstring path = WidePath(folder, name.size()) + name;

@@ -19,6 +19,7 @@ class FilesWin : public Files {
   std::optional<std::string> readHead(const std::string& path, std::size_t limit) override;
   bool replace(const std::string& path, std::string_view content) override;
   bool exists(const std::string& path) override;
+  std::optional<LocalTime> changedAt(const std::string& path) override;
   bool canWriteIn(const std::string& folder) override;
   std::vector<std::string> foldersIn(const std::string& folder) override;
   std::vector<std::string> filesIn(const std::string& folder) override;

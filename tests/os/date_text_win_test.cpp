@@ -48,5 +48,17 @@ TEST(WindowsDateText, KeepsTheDayInAFormThatSpellsItOut) {
   EXPECT_EQ(MakeDateText()->date({2026, 6, 5, 0, 0, 0, 0}), "5. \xE2\x82\xAC 2026");
 }
 
+TEST(WindowsDateText, LeavesTheSecondsOutWhereTheyAreNotWanted) {
+  const std::unique_ptr<DateText> form = MakeDateText();
+  const LocalTime moment{2027, 2, 3, 14, 5, 9, 0};
+  {
+    const RegionalSetting time(LOCALE_STIMEFORMAT, L"HH:mm:ss");
+    EXPECT_EQ(form->timeToTheMinute(moment), "14:05");
+  }
+  const RegionalSetting time(LOCALE_STIMEFORMAT, L"h:mm:ss tt");
+  const RegionalSetting evening(LOCALE_S2359, L"PM");
+  EXPECT_EQ(form->timeToTheMinute(moment), "2:05 PM");
+}
+
 }  // namespace
 }  // namespace os

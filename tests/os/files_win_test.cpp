@@ -39,6 +39,40 @@ struct RealPlace {
 
 INSTANTIATE_TYPED_TEST_SUITE_P(System, FilesContract, RealPlace);
 
+// Sets the moment of a file's last change, by the user's time zone as it was on that day.
+void SetChanged(const std::string& path, const os::LocalTime& moment) {
+  const auto word = [](int value) { return static_cast<WORD>(value); };
+  const SYSTEMTIME local{.wYear = word(moment.year),
+                         .wMonth = word(moment.month),
+                         .wDayOfWeek = 0,  // not read
+                         .wDay = word(moment.day),
+                         .wHour = word(moment.hour),
+                         .wMinute = word(moment.minute),
+                         .wSecond = word(moment.second),
+                         .wMilliseconds = 0};
+  SYSTEMTIME universal{};
+  FILETIME time{};
+  ASSERT_NE(TzSpecificLocalTimeToSystemTime(nullptr, &local, &universal), FALSE);
+  ASSERT_NE(SystemTimeToFileTime(&universal, &time), FALSE);
+  const HANDLE file =
+      CreateFileW(os::ToWide(path).c_str(), FILE_WRITE_ATTRIBUTES, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+  ASSERT_NE(file, INVALID_HANDLE_VALUE);
+  EXPECT_NE(SetFileTime(file, nullptr, nullptr, &time), FALSE);
+  CloseHandle(file);
+}
+
+TEST(FilesWin, AFileWasChangedByTheUsersClockInSummerAndInWinter) {
+  const TemporaryFolder temporary;
+  os::FilesWin files;
+  const std::string path = temporary.path() + "\\a.jpg";
+  ASSERT_TRUE(files.replace(path, "pixels"));
+  for (const os::LocalTime& moment :
+       {os::LocalTime{2019, 7, 14, 18, 5, 9, 0}, os::LocalTime{2020, 1, 31, 0, 0, 0, 0}}) {
+    SetChanged(path, moment);
+    EXPECT_EQ(files.changedAt(path), moment);
+  }
+}
+
 TEST(FilesWin, WorkBeyond260Characters) {
   const TemporaryFolder temporary;
   os::FilesWin files;
@@ -53,6 +87,7 @@ TEST(FilesWin, WorkBeyond260Characters) {
   EXPECT_TRUE(files.replace(path, "pixels"));
   EXPECT_EQ(files.read(path), "pixels");
   EXPECT_TRUE(files.exists(path));
+  EXPECT_TRUE(files.changedAt(path));
   EXPECT_EQ(files.readHead(path, 3), "pix");
   ASSERT_NE(CreateDirectoryW((L"\\\\?\\" + os::ToWide(folder + "\\inner")).c_str(), nullptr), FALSE);
   EXPECT_TRUE(files.canWriteIn(folder));

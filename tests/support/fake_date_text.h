@@ -19,6 +19,11 @@ class FakeDateText : public os::DateText {
            (t.hour < 12 ? " AM" : " PM");
   }
 
+  std::string timeToTheMinute(const os::LocalTime& t) const override {
+    const std::string whole = time(t);
+    return whole.substr(0, whole.rfind(':')) + whole.substr(whole.size() - 3);
+  }
+
  private:
   static std::string twoDigits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
 };

@@ -34,6 +34,13 @@ bool FakeFiles::exists(const std::string& path) {
   return content.contains(path);
 }
 
+std::optional<os::LocalTime> FakeFiles::changedAt(const std::string& path) {
+  dated.push_back(path);
+  if (!content.contains(path)) return std::nullopt;
+  const auto found = changed.find(path);
+  return found == changed.end() ? os::LocalTime() : found->second;
+}
+
 bool FakeFiles::canWriteIn(const std::string&) { return writable; }
 
 std::vector<std::string> FakeFiles::foldersIn(const std::string& folder) {

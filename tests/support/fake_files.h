@@ -18,6 +18,7 @@ class FakeFiles : public os::Files {
   std::optional<std::string> readHead(const std::string& path, std::size_t limit) override;
   bool replace(const std::string& path, std::string_view content) override;
   bool exists(const std::string& path) override;
+  std::optional<os::LocalTime> changedAt(const std::string& path) override;
   bool canWriteIn(const std::string& folder) override;
   std::vector<std::string> foldersIn(const std::string& folder) override;
   std::vector<std::string> filesIn(const std::string& folder) override;
@@ -33,6 +34,7 @@ class FakeFiles : public os::Files {
   std::string shortPath(const std::string& path) override;
 
   std::map<std::string, std::string> content;               // by path
+  std::map<std::string, os::LocalTime> changed;             // by path; another file was changed in 2000
   std::map<std::string, std::vector<std::string>> folders;  // names in a folder, by its path
   std::map<std::string, std::vector<std::string>> listed;  // files of a folder in place of those in `content`
   std::vector<std::string> roots = {"C:\\"};
@@ -48,6 +50,7 @@ class FakeFiles : public os::Files {
   std::vector<std::size_t> limits;   // of the heads, in the order of reading
   std::vector<std::string> writes;   // paths in the order of writing
   std::vector<std::string> lookups;  // paths whose existence was asked, in that order
+  std::vector<std::string> dated;    // paths of which was asked when they were changed, in that order
 };
 
 }  // namespace support

@@ -40,6 +40,7 @@ class FaultyFiles : public os::Files {
     const Fault* fault = next();
     return !(fault && *fault == Fault::Vanished) && files_.exists(path);
   }
+  std::optional<os::LocalTime> changedAt(const std::string& path) override { return files_.changedAt(path); }
   bool canWriteIn(const std::string& folder) override { return !next() && files_.canWriteIn(folder); }
   std::vector<std::string> filesIn(const std::string& folder) override { return files_.filesIn(folder); }
   std::vector<std::string> foldersIn(const std::string& folder) override { return files_.foldersIn(folder); }

@@ -116,12 +116,21 @@ TYPED_TEST_P(FilesContract, AShortPathLeadsToTheSameFile) {
   EXPECT_EQ(this->files().shortPath(this->path("missing")), this->path("missing"));
 }
 
+TYPED_TEST_P(FilesContract, AFileHasAMomentOfItsLastChangeAndWhatIsNoneHasNot) {
+  EXPECT_TRUE(this->files().replace(this->path("a.jpg"), "1"));
+  const std::optional<os::LocalTime> changed = this->files().changedAt(this->path("a.jpg"));
+  ASSERT_TRUE(changed);
+  EXPECT_GE(changed->year, 2000);
+  EXPECT_EQ(this->files().changedAt(this->path("missing")), std::nullopt);
+  EXPECT_EQ(this->files().changedAt(this->folder()), std::nullopt);
+}
+
 REGISTER_TYPED_TEST_SUITE_P(FilesContract, AFileReadsBackAsItWasPut, AnEmptyFileIsNotAMissingOne,
                             ReplacingPutsTheNewContentWholeAndLeavesNothingBeside,
                             AFileThatIsInUseKeepsItsOldContentWhole,
                             WhatKilledSavesLeftBesideAFileGoesWithItsNextSave, AHeadIsTheFrontOfAFile,
                             TheFolderThatWasEnteredIsTheCurrentOne, AFolderListsTheNamesOfItsFiles,
                             AFolderIsNoFile, AFileCanBeMadeInAWritableFolderAndTheQuestionLeavesNone,
-                            AShortPathLeadsToTheSameFile);
+                            AShortPathLeadsToTheSameFile, AFileHasAMomentOfItsLastChangeAndWhatIsNoneHasNot);
 
 }  // namespace support
