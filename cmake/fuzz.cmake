@@ -3,11 +3,13 @@
 set_target_properties(lumora_core PROPERTIES EXCLUDE_FROM_ALL ON)
 
 set(fuzzed_sources ${portable_sources})
-list(FILTER fuzzed_sources INCLUDE REGEX "/src/((base|os|pictures|settings|library)/|startup/command_line\\.cpp)")
+list(FILTER fuzzed_sources INCLUDE REGEX
+     "/src/((base|os|pictures|settings|library)/|saver/caption_template\\.cpp|startup/command_line\\.cpp)")
 
 set(fuzz_instrumentation -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
 add_library(lumora_fuzzed STATIC ${fuzzed_sources} tests/support/windows_1252.cpp tests/support/jpeg_builder.cpp
-            tests/support/gif_builder.cpp)
+            tests/support/gif_builder.cpp tests/support/photo_builder.cpp tests/support/plain_picture_facts.cpp
+            tests/support/plain_caption.cpp)
 target_include_directories(lumora_fuzzed PUBLIC ${CMAKE_SOURCE_DIR}/tests)
 target_compile_options(lumora_fuzzed PUBLIC ${fuzz_instrumentation})
 target_link_options(lumora_fuzzed PUBLIC -fsanitize=fuzzer,address,undefined)

@@ -12,22 +12,24 @@ constexpr int kAtOnceMs = 1;
 
 class DrawnPicture final : public Picture {
  public:
-  DrawnPicture(base::PixelSize size, base::SharedBitmap drawn)
-      : size_(size), drawn_(MakePicture(std::move(drawn))) {}
+  DrawnPicture(base::PixelSize size, base::SharedBitmap drawn, PictureFacts facts)
+      : size_(size), drawn_(MakePicture(std::move(drawn))), facts_(std::move(facts)) {}
 
   base::PixelSize size() const override { return size_; }
   base::SharedBitmap drawnAt(base::PixelSize size) const override { return drawn_->drawnAt(size); }
+  PictureFacts facts() const override { return facts_; }
 
  private:
   base::PixelSize size_;
   SharedPicture drawn_;
+  PictureFacts facts_;
 };
 
 }  // namespace
 
-SharedPicture DrawAhead(const Picture& file, base::PixelSize shown) {
+SharedPicture DrawAhead(const Picture& file, base::PixelSize shown, PictureFacts facts) {
   base::SharedBitmap drawn = file.drawnAt(shown);
-  return drawn ? std::make_shared<DrawnPicture>(file.size(), std::move(drawn)) : nullptr;
+  return drawn ? std::make_shared<DrawnPicture>(file.size(), std::move(drawn), std::move(facts)) : nullptr;
 }
 
 AheadLoader::AheadLoader(std::shared_ptr<PictureLoader> loader, os::EventLoop& loop,

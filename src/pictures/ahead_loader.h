@@ -29,8 +29,9 @@ struct Wish {
 };
 
 // A picture of its own size that is drawn at `shown` already: asked for that size it gives those pixels,
-// asked for another it resamples them. Never reads the file again. Null when the file cannot be drawn.
-SharedPicture DrawAhead(const Picture& file, base::PixelSize shown);
+// asked for another it resamples them. Never reads the file again: of its facts it has those that it is
+// given. Null when the file cannot be drawn.
+SharedPicture DrawAhead(const Picture& file, base::PixelSize shown, PictureFacts facts = {});
 
 // Everything of it but the jobs runs on the user-interface thread, and so does every answer, from the event
 // loop. One thread loads, one picture at a time. A thread that does not come back in time is left to itself,

@@ -1,5 +1,7 @@
 #include "pictures/jpeg_head.h"
 
+#include "pictures/tiff_block.h"
+
 namespace pictures {
 
 namespace {
@@ -13,57 +15,22 @@ bool StandsAlone(std::uint8_t marker) {
 }
 
 constexpr std::uint8_t kApp1 = 0xE1;
-constexpr std::string_view kExifName("Exif\0\0", 6);
 constexpr std::uint16_t kOrientationTag = 0x0112;
-constexpr std::size_t kEntrySize = 12;
-
-std::optional<ByteOrder> ReadByteOrder(std::string_view tiff) {
-  if (tiff.substr(0, 2) == "II") return ByteOrder::LittleEndian;
-  if (tiff.substr(0, 2) == "MM") return ByteOrder::BigEndian;
-  return std::nullopt;
-}
-
-// The value of a directory's entry. The tag is meant to be a SHORT; some writers make it a LONG or a BYTE. A
-// shorter number stands at the beginning of the four bytes.
-std::optional<std::uint32_t> EntryValue(const ByteReader& bytes, std::size_t entry) {
-  constexpr std::uint16_t kByte = 1;
-  constexpr std::uint16_t kShort = 3;
-  constexpr std::uint16_t kLong = 4;
-  const std::size_t value = entry + 8;
-  switch (bytes.u16(entry + 2).value_or(0)) {
-    case kByte:
-      return bytes.u8(value);
-    case kShort:
-      return bytes.u16(value);
-    case kLong:
-      return bytes.u32(value);
-    default:
-      return std::nullopt;
-  }
-}
 
 std::optional<base::Orientation> OrientationNumbered(std::optional<std::uint32_t> number) {
   if (!number || *number < 1 || *number > 8) return std::nullopt;
   return static_cast<base::Orientation>(*number);
 }
 
-// Offsets inside a TIFF block count from its beginning. Only the first directory is looked at: the second
-// one describes the thumbnail.
+// Only the first directory is looked at: the second one describes the thumbnail. The tag is meant to be a
+// SHORT; some writers make it a LONG or a BYTE.
 std::optional<base::Orientation> OrientationOfTiff(std::string_view tiff) {
-  const auto order = ReadByteOrder(tiff);
-  if (!order) return std::nullopt;
-  const ByteReader bytes(tiff, *order);
-  if (bytes.u16(2) != 42) return std::nullopt;
-  const auto directory = bytes.u32(4);
+  const auto block = TiffBlock::of(tiff);
+  const auto directory = block ? block->firstDirectory() : std::nullopt;
   if (!directory) return std::nullopt;
-  const auto count = bytes.u16(*directory);
-  if (!count) return std::nullopt;
-  for (std::size_t i = 0; i < *count; ++i) {
-    const std::size_t entry = std::size_t{*directory} + 2 + i * kEntrySize;
-    const auto tag = bytes.u16(entry);
-    if (!tag) return std::nullopt;
-    if (*tag != kOrientationTag) continue;
-    if (const auto orientation = OrientationNumbered(EntryValue(bytes, entry))) return orientation;
+  for (std::size_t i = 0; const auto entry = block->entry(*directory, i); ++i) {
+    if (entry->tag != kOrientationTag) continue;
+    if (const auto orientation = OrientationNumbered(block->number(*entry))) return orientation;
   }
   return std::nullopt;
 }
@@ -99,14 +66,19 @@ bool BeginsLikeTiff(std::string_view head) {
          head.starts_with(std::string_view("MM\0\x2A", 4));
 }
 
+std::optional<std::string_view> ContentNamed(std::string_view name, const JpegSegment& segment) {
+  if (segment.marker != kApp1 || !segment.content.starts_with(name)) return std::nullopt;
+  return segment.content.substr(name.size());
+}
+
 base::Orientation ReadExifOrientation(std::string_view head) {
   if (BeginsLikeTiff(head)) return OrientationOfTiff(head).value_or(base::Orientation::Upright);
   if (!BeginsLikeJpeg(head)) return base::Orientation::Upright;
   JpegSegments segments(head);
   while (const auto segment = segments.next()) {
-    if (segment->marker != kApp1 || !segment->content.starts_with(kExifName)) continue;
+    const auto block = ContentNamed(kExifName, *segment);
     // A block that says nothing of use does not hide a later one that does.
-    const auto orientation = OrientationOfTiff(segment->content.substr(kExifName.size()));
+    const auto orientation = block ? OrientationOfTiff(*block) : std::nullopt;
     if (orientation) return *orientation;
   }
   return base::Orientation::Upright;

@@ -39,6 +39,13 @@ bool BeginsLikeJpeg(std::string_view head);
 // True when the bytes begin as a TIFF file does.
 bool BeginsLikeTiff(std::string_view head);
 
+// The name that a TIFF block with a camera's notes has in front of it.
+constexpr std::string_view kExifName("Exif\0\0", 6);
+
+// What an application segment of the first kind holds behind the name in front; nothing when its name is
+// another one.
+std::optional<std::string_view> ContentNamed(std::string_view name, const JpegSegment& segment);
+
 // From the first bytes of a JPEG or a TIFF file; 256 KiB hold every Exif block, which is at most 64 KiB and
 // stands near the beginning. Upright when there is none, or none that can be understood.
 base::Orientation ReadExifOrientation(std::string_view head);

@@ -7,6 +7,7 @@
 
 #include "base/bitmap.h"
 #include "base/geometry.h"
+#include "pictures/picture_facts.h"
 
 namespace pictures {
 
@@ -26,6 +27,9 @@ class Picture {
   // Of the picture at its own size only the pixels in `part`, which lies inside it: what the whole would show
   // there, without holding the whole where the picture is a file. Null as above.
   virtual base::SharedBitmap drawnPart(const base::PixelRect& part) const;
+
+  // What the file says about itself, as far as anybody knows. May have to ask the disk when it was changed.
+  virtual PictureFacts facts() const { return {}; }
 };
 
 using SharedPicture = std::shared_ptr<const Picture>;

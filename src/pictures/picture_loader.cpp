@@ -62,6 +62,7 @@ std::unique_ptr<os::PictureSource> OpenGif(os::Files& heads, const std::string& 
 struct OpenedPicture {
   std::unique_ptr<os::PictureSource> source;
   base::Orientation orientation = base::Orientation::Upright;
+  PictureFacts facts = {};
 
   base::PixelSize uprightSize() const { return base::UprightSize(source->size(), orientation); }
 };
@@ -73,17 +74,22 @@ OpenedPicture OpenPicture(os::Files& heads, os::PictureDecoder& decoder, const s
   if (!head) return {};
   auto source = head->isGif() ? OpenGif(heads, path, *head) : decoder.open(path);
   if (!source || !IsDecodable(source->size(), head->bytesPerPixel())) return {};
-  return {std::move(source), ReadExifOrientation(head->bytes)};
+  return {std::move(source), ReadExifOrientation(head->bytes), ReadPictureFacts(head->bytes)};
 }
 
 class FilePicture final : public Picture {
  public:
-  using Reopen = std::function<OpenedPicture()>;
+  // What else the picture asks for.
+  struct Ways {
+    std::function<OpenedPicture()> reopen;
+    std::function<std::optional<os::LocalTime>()> changedAt;
+    std::function<void()> tellFailure;
+  };
 
-  FilePicture(OpenedPicture opened, Reopen reopen, std::function<void()> tellFailure)
+  FilePicture(OpenedPicture opened, Ways ways)
       : size_(opened.uprightSize()),
-        reopen_(std::move(reopen)),
-        tellFailure_(std::move(tellFailure)),
+        ways_(std::move(ways)),
+        facts_(std::move(opened.facts)),
         opened_(std::move(opened)) {}
 
   base::PixelSize size() const override { return size_; }
@@ -100,6 +106,12 @@ class FilePicture final : public Picture {
     });
   }
 
+  PictureFacts facts() const override {
+    PictureFacts facts = facts_;
+    if (!facts.date) facts.date = ways_.changedAt();
+    return facts;
+  }
+
  private:
   // Gives the pixels as they are stored.
   using Decode = std::function<std::optional<base::Bitmap>(const OpenedPicture&)>;
@@ -112,12 +124,12 @@ class FilePicture final : public Picture {
     } catch (const std::bad_alloc&) {
       // Too large for this machine at this moment.
     }
-    if (!pixels) tellFailure_();
+    if (!pixels) ways_.tellFailure();
     return pixels;
   }
 
   base::SharedBitmap upright(const Decode& decode) const {
-    const OpenedPicture picture = opened_.source ? std::move(opened_) : reopen_();
+    const OpenedPicture picture = opened_.source ? std::move(opened_) : ways_.reopen();
     if (!picture.source || picture.uprightSize() != size_) return nullptr;  // the file has changed
     auto stored = decode(picture);
     if (!stored) return nullptr;
@@ -125,8 +137,8 @@ class FilePicture final : public Picture {
   }
 
   base::PixelSize size_;
-  Reopen reopen_;
-  std::function<void()> tellFailure_;
+  Ways ways_;
+  PictureFacts facts_;
 
   // What opening has left, given up at the first drawing: a file seldom is drawn twice.
   mutable OpenedPicture opened_;
@@ -139,8 +151,10 @@ SharedPicture FilePictureLoader::open(const std::string& path) {
     OpenedPicture opened = OpenPicture(heads_, decoder_, path);
     if (opened.source) {
       return std::make_shared<FilePicture>(
-          std::move(opened), [this, path] { return OpenPicture(heads_, decoder_, path); },
-          [this, path] { tell(path, PictureFailure::NotDrawn); });
+          std::move(opened),
+          FilePicture::Ways{.reopen = [this, path] { return OpenPicture(heads_, decoder_, path); },
+                            .changedAt = [this, path] { return heads_.changedAt(path); },
+                            .tellFailure = [this, path] { tell(path, PictureFailure::NotDrawn); }});
     }
   } catch (const std::bad_alloc&) {
     // Too large for this machine at this moment.

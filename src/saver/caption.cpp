@@ -1,6 +1,7 @@
 #include "saver/caption.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "base/errors.h"
 #include "base/number_text.h"
@@ -54,6 +55,8 @@ void Caption::prepare() {
   if (first) {
     label_.setCaption(settings_.imageCaptions[*first]);
     bandHeight_ = base::ToInt16(label_.height());
+  } else if (mayComeFromTemplate()) {
+    bandHeight_ = base::ToInt16(label_.height());  // one line of any text
   } else if (total > 0) {
     bandHeight_ = 0;
     label_.setHeight(0);
@@ -84,6 +87,16 @@ void Caption::screenChanged() {
   const CaptionRoom room = this->room();
   label_.setLeft(scrolls() ? std::min(label_.left(), room.left + room.width)
                            : room.left + CenteredEdge(room.width, label_.width()));
+}
+
+// The last entry of the list stands for no picture. Pictures of followed folders have no caption of their
+// own.
+bool Caption::mayComeFromTemplate() const {
+  if (settings_.record.captions.empty()) return false;
+  const std::vector<std::string>& own = settings_.imageCaptions;
+  return !settings_.folders.empty() ||
+         (!own.empty() &&
+          std::any_of(own.begin(), own.end() - 1, [](const auto& text) { return text.empty(); }));
 }
 
 bool Caption::scrolls() const { return base::StrictDouble(settings_.record.scroll) == 0; }

@@ -42,11 +42,13 @@ class Caption {
   // The form has taken the size of another screen.
   void screenChanged();
 
-  // Twips at the top of the screen that floating pictures keep clear of; 0 when no picture has a caption.
+  // Twips at the top of the screen that floating pictures keep clear of; 0 when no picture has a caption, and
+  // none can get one from a template.
   std::int16_t bandHeight() const { return bandHeight_; }
 
  private:
   CaptionRoom room() const;
+  bool mayComeFromTemplate() const;
 
   forms::Label& label_;
   const settings::SaverSettings& settings_;

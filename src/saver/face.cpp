@@ -5,6 +5,8 @@
 #include "base/color.h"
 #include "base/number_text.h"
 #include "base/rounding.h"
+#include "saver/caption_template.h"
+#include "saver/picture_words.h"
 
 namespace saver {
 
@@ -123,7 +125,18 @@ std::optional<EffectOnBox> Face::effectOnBox(const Effect& effect, base::Random&
 void Face::showCaption() {
   const auto index = static_cast<std::size_t>(currentImageIndex_);
   const bool known = currentImageIndex_ >= 0 && index < settings_.imageCaptions.size();
-  caption_.show(known ? settings_.imageCaptions[index] : std::string());
+  const std::string own = known ? settings_.imageCaptions[index] : std::string();
+  caption_.show(own.empty() ? captionByTemplate() : own);
+}
+
+// Of the picture that is shown; nothing is told of one that could not be loaded.
+std::string Face::captionByTemplate() const {
+  const auto index = static_cast<std::size_t>(currentImageIndex_);
+  if (!captionsByTemplate() || !loadedPicture_ || index >= settings_.imageFiles.size()) return {};
+  const ListedPicture listed{settings_.imageFiles[index], currentImageIndex_ + 1,
+                             settings_.lastImageIndex + 1};
+  return FillCaptionTemplate(settings_.record.captions,
+                             WordsOf(listed, loadedPicture_->facts(), face_.dates, face_.ansi));
 }
 
 int Face::changeIntervalMs() const {

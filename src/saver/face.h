@@ -11,7 +11,9 @@
 #include "forms/form.h"
 #include "forms/picture_boxes.h"
 #include "forms/texts.h"
+#include "os/ansi_code_page.h"
 #include "os/clock.h"
+#include "os/date_text.h"
 #include "os/event_loop.h"
 #include "os/screen.h"
 #include "pictures/picture.h"
@@ -36,6 +38,8 @@ struct FaceServices {
   const os::Clock& clock;
   os::EventLoop& loop;
   const os::Screen& screen;
+  const os::DateText& dates;
+  const os::AnsiCodePage& ansi;
   Stage& stage;
   StageWindow& window;
 };
@@ -141,6 +145,8 @@ class Face : public forms::Form {
   void wishBackground(ImageLayout layout);
   void dropBackgroundWish();
   std::optional<pictures::Wish> wishFor(std::int16_t number) const;
+  bool captionsByTemplate() const { return !settings_.record.captions.empty(); }
+  std::string captionByTemplate() const;
   void clearBoxes();
   void useLoadedPicture();
   void PlacePicture();

@@ -18,9 +18,10 @@ std::optional<pictures::Wish> Face::wishFor(std::int16_t number) const {
   const PictureLimit limit = PictureLimit::of(width(), height(), settings_.pictureScale);
   // Runs beside the show, of which it has only what it was given.
   const auto prepare = [limit, perPixel = twipsPerPixel(), looks = floats() ? Looks() : look_.looks(),
-                        on = compositionFor({})](const pictures::Picture& file) mutable {
+                        on = compositionFor({}),
+                        wantsFacts = captionsByTemplate()](const pictures::Picture& file) mutable {
     on.documented = ShownPixels(limit, file.size(), perPixel);
-    return ComposeAhead(looks, file, on);
+    return ComposeAhead(looks, file, on, wantsFacts ? file.facts() : pictures::PictureFacts());
   };
   return pictures::Wish{.path = settings_.imageFiles[index],
                         .box = {limit.maxPictureWidth, limit.maxPictureHeight},

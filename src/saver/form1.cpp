@@ -32,8 +32,8 @@ OtherScreens OtherScreensNamed(std::string_view text) {
 
 Form1::Form1(const ShowServices& services, const os::SystemFacts& facts, std::string programFolder)
     : Face("Form1",
-           {services.pictures, services.ahead, services.clock, services.loop, services.screen, services.stage,
-            services.window},
+           {services.pictures, services.ahead, services.clock, services.loop, services.screen, services.dates,
+            services.ansi, services.stage, services.window},
            settings_, [this] { return isOver(); }),
       time(*this, "time"),
       StartSaver(services.loop),

@@ -93,11 +93,11 @@ void Form1::setFurtherScreens(std::span<const FurtherScreen> screens) {
 // It joins with the next change, and has its background until then.
 void Form1::addFurther(const FurtherScreen& screen) {
   Further further{screen.window, services_.makeStage(*screen.window), nullptr};
-  further.face =
-      std::make_unique<Face>("Face",
-                             FaceServices{services_.pictures, services_.ahead, services_.clock,
-                                          services_.loop, services_.screen, *further.stage, *screen.window},
-                             settings_, [this] { return isOver(); });
+  further.face = std::make_unique<Face>(
+      "Face",
+      FaceServices{services_.pictures, services_.ahead, services_.clock, services_.loop, services_.screen,
+                   services_.dates, services_.ansi, *further.stage, *screen.window},
+      settings_, [this] { return isOver(); });
   Face& face = *further.face;
   further_.push_back(std::move(further));
   face.showOnStage();

@@ -53,8 +53,9 @@ base::Bitmap OnArea(base::PixelSize area, const base::Bitmap& picture, bool blur
 // A picture on a surround that leaves all of it to be seen.
 class ComposedAhead final : public pictures::Picture {
  public:
-  ComposedAhead(base::PixelSize size, base::PixelSize drawn, base::SharedBitmap area)
-      : size_(size), drawn_(drawn), area_(std::move(area)) {}
+  ComposedAhead(base::PixelSize size, base::PixelSize drawn, base::SharedBitmap area,
+                pictures::PictureFacts facts)
+      : size_(size), drawn_(drawn), area_(std::move(area)), facts_(std::move(facts)) {}
 
   base::PixelSize size() const override { return size_; }
 
@@ -66,6 +67,8 @@ class ComposedAhead final : public pictures::Picture {
     return pictures::MakePicture(std::move(picture))->drawnAt(size);
   }
 
+  pictures::PictureFacts facts() const override { return facts_; }
+
   // Null where other sizes are wanted.
   base::SharedBitmap composedFor(base::PixelSize drawn, base::PixelSize area) const {
     return drawn == drawn_ && area == area_->size() ? area_ : nullptr;
@@ -75,6 +78,7 @@ class ComposedAhead final : public pictures::Picture {
   base::PixelSize size_;
   base::PixelSize drawn_;
   base::SharedBitmap area_;
+  pictures::PictureFacts facts_;
 };
 
 }  // namespace
@@ -113,18 +117,18 @@ ComposedPicture ComposePicture(const Looks& looks, const pictures::Picture& pict
   return {std::move(drawn), plan.glide};
 }
 
-pictures::SharedPicture ComposeAhead(const Looks& looks, const pictures::Picture& file,
-                                     const Composition& on) {
-  if (looks.isDocumentedSize()) return pictures::DrawAhead(file, on.documented);
+pictures::SharedPicture ComposeAhead(const Looks& looks, const pictures::Picture& file, const Composition& on,
+                                     pictures::PictureFacts facts) {
+  if (looks.isDocumentedSize()) return pictures::DrawAhead(file, on.documented, std::move(facts));
   const CompositionPlan plan = PlanComposition(looks, file.size(), on);
   const base::PixelSize drawn = plan.drawn;
   // To cut a picture is quickly done when it is shown, and another screen may want all of it.
   if (!looks.blurredSurround || !Covers(plan.glide.drawnSize(), drawn)) {
-    return pictures::DrawAhead(file, drawn);
+    return pictures::DrawAhead(file, drawn, std::move(facts));
   }
   base::SharedBitmap composed = ComposePicture(looks, file, on).pixels;
   if (!composed) return nullptr;
-  return std::make_shared<ComposedAhead>(file.size(), drawn, std::move(composed));
+  return std::make_shared<ComposedAhead>(file.size(), drawn, std::move(composed), std::move(facts));
 }
 
 }  // namespace saver

@@ -57,8 +57,9 @@ ComposedPicture ComposePicture(const Looks& looks, const pictures::Picture& pict
 
 // The same beside the show: a picture of the file's own size of which ComposePicture has nothing left to do
 // for the same looks and sizes. Composed for others it is taken from what was composed. Never reads the file
-// again; null when the file cannot be drawn. Touches nothing else, so that it runs on any thread.
-pictures::SharedPicture ComposeAhead(const Looks& looks, const pictures::Picture& file,
-                                     const Composition& on);
+// again: of its facts it has those that it is given. Null when the file cannot be drawn. Touches nothing
+// else, so that it runs on any thread.
+pictures::SharedPicture ComposeAhead(const Looks& looks, const pictures::Picture& file, const Composition& on,
+                                     pictures::PictureFacts facts = {});
 
 }  // namespace saver

@@ -32,8 +32,10 @@ class ProgramFolder {
   // Adds a picture of one colour to the list, with a caption.
   void addPicture(base::PixelSize size, base::PackedColor color, const std::string& caption = "");
 
-  // Adds a file to the list that may be a picture or not, without a caption.
-  void addPath(const std::string& path) { pictures_.emplace_back(path, ""); }
+  // Adds a file to the list that may be a picture or not.
+  void addPath(const std::string& path, const std::string& caption = "") {
+    pictures_.emplace_back(path, caption);
+  }
 
   // Writes a file into the folder and gives its path.
   std::string writeFile(const std::string& name, const std::string& bytes) const;

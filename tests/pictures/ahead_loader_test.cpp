@@ -56,6 +56,17 @@ class AheadLoaderTest : public testing::Test {
 
 using Texts = std::vector<std::string>;
 
+TEST(DrawAhead, GivesTheFactsThatItWasGivenAndAsksForNoOthers) {
+  support::FakePictures files;
+  files.add("a", {40, 30}, base::kWhite);
+  files.facts["a"].title = "Lake";
+  const SharedPicture file = files.open("a");
+  EXPECT_EQ(DrawAhead(*file, {4, 3})->facts(), PictureFacts());
+  EXPECT_TRUE(files.factsAsked.empty());
+  EXPECT_EQ(DrawAhead(*file, {4, 3}, file->facts())->facts().title, "Lake");
+  EXPECT_EQ(files.factsAsked.size(), 1U);
+}
+
 TEST_F(AheadLoaderTest, AWishIsAnsweredFromTheLoopWithThePictureThatWasMadeOfTheFile) {
   wish("a");
   EXPECT_TRUE(answers.empty()) << "never before the loop runs";

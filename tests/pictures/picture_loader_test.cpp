@@ -10,6 +10,7 @@
 #include "support/fake_picture_decoder.h"
 #include "support/gif_builder.h"
 #include "support/jpeg_builder.h"
+#include "support/photo_builder.h"
 
 namespace pictures {
 namespace {
@@ -353,6 +354,33 @@ TEST_F(PictureLoader, ASizeFarInsideTheFileIsFoundByALongerLook) {
   heads.content["a.jpg"] = support::JpegHead(profiles, {8, 6});
   ASSERT_TRUE(loader.open("a.jpg"));
   EXPECT_EQ(heads.limits, (std::vector<std::size_t>{256 << 10, 16 << 20}));
+}
+
+TEST_F(PictureLoader, APictureTellsWhatItsFileSaysAndWhenItWasTaken) {
+  addJpeg("a.jpg", Gradient({8, 6}));
+  heads.content["a.jpg"] =
+      support::JpegHead(support::NotesSegment({.first = {{support::kModelTag, "X100"}},
+                                               .exif = {{support::kTakenTag, "2019:07:14 18:05:09"}}}),
+                        {8, 6});
+  heads.changed["a.jpg"] = {2020, 1, 1, 0, 0, 0, 0};
+  const auto picture = loader.open("a.jpg");
+  ASSERT_TRUE(picture);
+  const std::size_t reads = heads.reads.size();
+  EXPECT_EQ(picture->facts().camera, "X100");
+  EXPECT_EQ(picture->facts().date, (os::LocalTime{2019, 7, 14, 18, 5, 9, 0}));
+  EXPECT_EQ(heads.reads.size(), reads) << "read once, with the orientation";
+  EXPECT_TRUE(heads.dated.empty());
+}
+
+TEST_F(PictureLoader, APictureOfAnUnknownMomentTellsWhenItsFileWasChanged) {
+  addJpeg("a.jpg", Gradient({8, 6}));
+  heads.changed["a.jpg"] = {2020, 1, 1, 12, 0, 0, 0};
+  const auto picture = loader.open("a.jpg");
+  ASSERT_TRUE(picture);
+  EXPECT_TRUE(heads.dated.empty()) << "nobody has asked yet";
+  EXPECT_EQ(picture->facts().date, (os::LocalTime{2020, 1, 1, 12, 0, 0, 0}));
+  heads.content.clear();
+  EXPECT_EQ(picture->facts().date, std::nullopt);
 }
 
 support::GifBuilder SmallGif() {

@@ -142,6 +142,16 @@ TEST(Looks, WhatWasComposedAheadIsWhatWouldBeComposedOnTheSpot) {
   }
 }
 
+TEST(Looks, WhatWasComposedAheadTellsWhatTheFileTells) {
+  for (const Fit fit : {Fit::Documented, Fit::Whole, Fit::Fill}) {
+    for (const bool blurred : {false, true}) {
+      const pictures::SharedPicture ahead = ComposeAhead({.fit = fit, .blurredSurround = blurred},
+                                                         *Noisy({90, 160}, true), kSmall, {.title = "Lake"});
+      EXPECT_EQ(ahead->facts().title, "Lake") << static_cast<int>(fit) << blurred;
+    }
+  }
+}
+
 TEST(Looks, OfASurroundThatWasComposedAheadNothingIsLeftToDo) {
   const Looks looks{.fit = Fit::Whole, .blurredSurround = true, .panZoomPercent = 8};
   const pictures::SharedPicture ahead = ComposeAhead(looks, *Noisy({400, 300}, true), kSmall);

@@ -27,6 +27,12 @@ class FakePicture : public pictures::Picture {
     return nullptr;
   }
 
+  pictures::PictureFacts facts() const override {
+    log_.factsAsked.push_back(path_);
+    const auto found = log_.facts.find(path_);
+    return found == log_.facts.end() ? pictures::PictureFacts() : found->second;
+  }
+
  private:
   FakePictures& log_;
   std::string path_;

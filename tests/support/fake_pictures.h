@@ -21,11 +21,14 @@ class FakePictures : public pictures::PictureLoader {
   // A picture with pixels of its own; drawn at another size it is resampled.
   void add(const std::string& path, base::Bitmap pixels);
 
+  std::map<std::string, pictures::PictureFacts> facts;  // that files tell of themselves, by path
+
   // Asked for every path that has no picture here; null: there are no others.
   pictures::PictureLoader* others = nullptr;
 
   std::vector<std::string> opened;          // paths in the order of opening
   std::vector<base::PixelSize> drawnSizes;  // sizes in the order of drawing
+  std::vector<std::string> factsAsked;      // paths in the order of asking
 
  private:
   std::map<std::string, pictures::SharedPicture> files_;
