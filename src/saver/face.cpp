@@ -53,6 +53,7 @@ void Face::cover(const base::PixelRect& area) {
 void Face::prepareFace() {
   look_.prepare(settings_.record);
   caption_.prepare();
+  shadeWords(Label1);
   DrawBackground();
 }
 
@@ -137,6 +138,10 @@ std::string Face::captionByTemplate() const {
                              settings_.lastImageIndex + 1};
   return FillCaptionTemplate(settings_.record.captions,
                              WordsOf(listed, loadedPicture_->facts(), face_.dates, face_.ansi));
+}
+
+void Face::shadeWords(const forms::Label& words) {
+  if (settings_.record.shade == "1") face_.stage.shadeText(words, ShadeFor(words.foreColor()));
 }
 
 int Face::changeIntervalMs() const {

@@ -127,6 +127,9 @@ class Face : public forms::Form {
   void showCaption();
   void moveFloating();
 
+  // Where the settings ask for it, words of the present colour are readable on any picture.
+  void shadeWords(const forms::Label& words);
+
   bool floats() const { return settings_.record.picRandom != "cent"; }
   int changeIntervalMs() const;
 

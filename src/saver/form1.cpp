@@ -113,6 +113,7 @@ void Form1::PrepareDisplay() {
   for (Face* face : faces()) face->prepareFace();
   isPrepared_ = true;
   timeDisplay_.prepare();
+  shadeWords(time);
   moveClock(base::PixelRect::ofSize(screenSize()));
   StartSaver.setInterval(kStartDelayMs);
   StartSaver.setEnabled(true);

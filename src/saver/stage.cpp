@@ -86,6 +86,10 @@ void Stage::keepTextsIn(const base::PixelRect& part) {
   invalidateAll();
 }
 
+void Stage::shadeText(const forms::Label& label, const ShadeInk& ink) {
+  if (TextLayer* layer = textLayerOf(label)) invalidate(layer->shade(ink));
+}
+
 void Stage::showLive(const LivePicture* live) {
   live_ = live;
   liveChanged();

@@ -39,6 +39,9 @@ class Stage : public forms::FormHost {
   // outside the window.
   base::Bitmap backgroundUnder(const base::PixelRect& area);
 
+  // One of the labels is readable on any picture from now on.
+  void shadeText(const forms::Label& label, const ShadeInk& ink);
+
   // Texts are seen inside this part of the window alone.
   void keepTextsIn(const base::PixelRect& part);
 

@@ -21,20 +21,39 @@ base::Pixel Mix(base::Pixel ink, base::Pixel below, const os::TextCoverage& cove
 
 base::PixelRect TextLayer::labelChanged(forms::Change change) {
   if (change == forms::Change::Font) overhang_.reset();
-  if (change == forms::Change::Text || change == forms::Change::Font) mask_.reset();
+  if (change == forms::Change::Text || change == forms::Change::Font) {
+    mask_.reset();
+    shade_.reset();
+  }
+  return areaChanged();
+}
+
+base::PixelRect TextLayer::shade(const ShadeInk& ink) {
+  shadeInk_ = ink;
+  return areaChanged();
+}
+
+base::PixelRect TextLayer::areaChanged() {
   const base::PixelRect place = inkPlace();
   const base::PixelRect stale = was_.united(place);
   was_ = place;
   return stale;
 }
 
-// The label and what its letters reach beyond it.
+// Beyond the letters; 0 where there is no shade.
+int TextLayer::shadeReach() const {
+  return shadeInk_ && label_.transparent() ? ShadeReach(label_.pixelRect().height) : 0;
+}
+
+// The label and what its letters and their shade reach beyond it.
 base::PixelRect TextLayer::inkPlace() {
   if (!label_.visible()) return {};
   const base::PixelRect place = label_.pixelRect();
   if (label_.caption().empty() || place.isEmpty()) return place;
   if (!overhang_) overhang_ = text_.overhang(label_.font());
-  return {place.left - *overhang_, place.top, place.width + 2 * *overhang_, place.height};
+  const int above = shadeReach();
+  const int beside = *overhang_ + above;
+  return {place.left - beside, place.top - above, place.width + 2 * beside, place.height + 2 * above};
 }
 
 void TextLayer::compose(const base::BitmapView& target, const base::PixelRect& area) {
@@ -42,11 +61,15 @@ void TextLayer::compose(const base::BitmapView& target, const base::PixelRect& a
   if (ink.isEmpty()) return;
   if (!mask_) mask_ = text_.draw(label_.font(), label_.caption());
   const base::PixelRect place = label_.pixelRect();
+  const base::PixelPoint corner{place.left - mask_->origin, place.top};
   if (!label_.transparent()) {
     base::FillRect(target, place.intersected(area), base::OpaquePixel(base::PlainColor(label_.backColor())));
   }
-  BlendText(target, {place.left - mask_->origin, place.top}, *mask_, base::PlainColor(label_.foreColor()),
-            ink);
+  if (const int reach = shadeReach(); reach > 0 && !mask_->size.isEmpty()) {
+    if (!shade_ || shade_->reach != reach) shade_ = MakeShade(*mask_, reach);
+    BlendShade(target, {corner.x - reach, corner.y - reach}, *shade_, *shadeInk_, ink);
+  }
+  BlendText(target, corner, *mask_, base::PlainColor(label_.foreColor()), ink);
 }
 
 void BlendText(const base::BitmapView& target, base::PixelPoint corner, const os::TextMask& mask,

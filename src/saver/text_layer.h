@@ -7,6 +7,7 @@
 #include "base/color.h"
 #include "forms/texts.h"
 #include "os/text_renderer.h"
+#include "saver/text_shade.h"
 
 namespace saver {
 
@@ -19,17 +20,26 @@ class TextLayer {
   // Takes note of what has changed of the label. Gives the area of the window that is to be composed anew.
   base::PixelRect labelChanged(forms::Change change);
 
-  // Lays the label over `area` of the target. Its text is drawn once for any number of areas.
+  // Has the text drawn over a shade from now on, where its label shows what lies behind it. Gives the area
+  // that is to be composed anew.
+  base::PixelRect shade(const ShadeInk& ink);
+
+  // Lays the label over `area` of the target. Its text is drawn once for any number of areas, and so is its
+  // shade.
   void compose(const base::BitmapView& target, const base::PixelRect& area);
 
  private:
+  base::PixelRect areaChanged();
   base::PixelRect inkPlace();
+  int shadeReach() const;
 
   const forms::Label& label_;
   os::TextRenderer& text_;
   std::optional<int> overhang_;  // of the present font
   std::optional<os::TextMask> mask_;
-  base::PixelRect was_;  // where the label's ink was composed last; empty while hidden
+  std::optional<ShadeInk> shadeInk_;
+  std::optional<TextShade> shade_;  // of the mask
+  base::PixelRect was_;             // where the label's ink was composed last; empty while hidden
 };
 
 // Blends `color` through the mask, whose top left corner is at `corner`, over the pixels of `clip`. The

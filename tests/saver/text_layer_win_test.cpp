@@ -10,6 +10,7 @@
 #include "os/dib_win.h"
 #include "os/text_renderer_win.h"
 #include "os/utf16_win.h"
+#include "support/text_contrast.h"
 
 namespace saver {
 namespace {
@@ -139,6 +140,31 @@ TEST(TextLayerWin, AMaskIsBoundedHoweverLargeTheText) {
   EXPECT_EQ(mask.coverage.size(),
             static_cast<std::size_t>(mask.size.width) * static_cast<std::size_t>(mask.size.height));
   EXPECT_TRUE(std::ranges::any_of(mask.coverage, [](const auto& part) { return part.overDarker == 255; }));
+}
+
+TEST(TextLayerWin, WordsWithAShadeAreReadableOnAnyPictureInEveryFont) {
+  os::TextRendererWin renderer(kDpi);
+  const base::Font fonts[] = {{.name = "Arial", .sizePoints = 9},
+                              {.name = "Arial", .sizePoints = 20, .italic = true},
+                              {.name = "Times New Roman", .sizePoints = 14, .bold = true},
+                              {.name = "Times New Roman", .sizePoints = 48}};
+  for (const base::Font& font : fonts) {
+    const os::TextMask mask = renderer.draw(font, "Lake Geneva, Quai du Mont-Blanc 1987");
+    const int reach = ShadeReach(mask.size.height);
+    const TextShade shade = MakeShade(mask, reach);
+    for (const base::Bitmap& picture : support::HardPictures(shade.size)) {
+      for (const base::PackedColor color : {base::kWhite, base::kBlack, base::Rgb(255, 255, 0),
+                                            base::Rgb(200, 0, 0), base::Rgb(120, 120, 120)}) {
+        base::Bitmap drawn = picture;
+        const base::PixelRect all = base::PixelRect::ofSize(drawn.size());
+        BlendShade(drawn.view(), {0, 0}, shade, ShadeFor(color), all);
+        BlendText(drawn.view(), {reach, reach}, mask, color, all);
+        const double contrast = support::LeastTextContrast(drawn, mask, {reach, reach});
+        EXPECT_GE(contrast, base::kReadableContrast) << font.name << ' ' << font.sizePoints << ' ' << color;
+        EXPECT_LE(contrast, 21) << "nothing was measured";
+      }
+    }
+  }
 }
 
 }  // namespace
