@@ -178,6 +178,46 @@ TEST(PictureFacts, TitlesOfTwoBytesAreReadInBothByteOrders) {
   EXPECT_EQ(title(Utf16Bytes("Lake") + "x"), "Lake") << "half a character";
 }
 
+TEST(PictureFacts, WhatStandsBehindATitleDoesNotTellItsByteOrder) {
+  const std::string bytes = Utf16Bytes("Lake", true) + std::string(2, '\0') + Utf16Bytes("something else");
+  EXPECT_EQ(FactsOf(PhotoNotes{.first = {XpTitle(bytes)}}).title, "Lake");
+}
+
+TEST(PictureFacts, OfSeveralLanguagesTheDefaultOneCountsElseTheFirst) {
+  const auto title = [](const std::string& items) {
+    return FactsOf(XmpSegment(XmpPacket("<dc:title><rdf:Alt>" + items + "</rdf:Alt></dc:title>"))).title;
+  };
+  const std::string german = "<rdf:li xml:lang=\"de\">See</rdf:li>";
+  const std::string french = "<rdf:li xml:lang='fr'>Lac</rdf:li>";
+  const std::string standard = "<rdf:li xml:lang=\"x-default\">Lake</rdf:li>";
+  EXPECT_EQ(title(german + french + standard), "Lake");
+  EXPECT_EQ(title(german + french), "See");
+  EXPECT_EQ(title("<rdf:li> </rdf:li>" + french), "Lac");
+  EXPECT_EQ(title(""), "");
+}
+
+TEST(PictureFacts, TitlesOfXmpMayBeWrittenInEveryWay) {
+  const auto title = [](const std::string& packet) { return FactsOf(XmpSegment(packet)).title; };
+  EXPECT_EQ(title(XmpPacket("<dc:title>Lake</dc:title>")), "Lake");
+  EXPECT_EQ(title(XmpPacket("<dc:title><![CDATA[a < b & c]]></dc:title>")), "a < b & c");
+  EXPECT_EQ(title(XmpPacket("<dc:title>a &lt; b &amp; &#228;&#xE4; &nothing;</dc:title>")),
+            "a < b & \xC3\xA4\xC3\xA4 &nothing;");
+  EXPECT_EQ(title(XmpPacket("<dc:title>&#x0001F30A; &#xD800; &#0; &#x110000; &#x00000000041;</dc:title>")),
+            "\xF0\x9F\x8C\x8A &#xD800; &#0; &#x110000; &#x00000000041;");
+  EXPECT_EQ(title(XmpPacket("<dc:title>La<!-- <dc:title> -->ke</dc:title>")), "Lake");
+  const std::string dublin = " xmlns:d='http://purl.org/dc/elements/1.1/'";
+  EXPECT_EQ(title("<r:RDF><r:Description" + dublin + " d:title='a &gt; b'/></r:RDF>"), "a > b");
+  EXPECT_EQ(title("<r:RDF" + dublin + "><r:Description d:title=\"a > b\"/></r:RDF>"), "a > b");
+  EXPECT_EQ(title("<r:RDF><r:Description d:title='Lake'/></r:RDF>"), "") << "a name of something else";
+  EXPECT_EQ(title("<r:RDF><r:Description" + dublin + "><m:from><r:Description d:title='Lake'/></m:from>" +
+                  "</r:Description></r:RDF>"),
+            "")
+      << "of a picture that this one was made of";
+  const std::string whole = XmpPacket(XmpProperty("dc:title", "L\xC3\xA4ke"));
+  EXPECT_EQ(title("\xFF\xFE" + Utf16Bytes(whole)), "L\xC3\xA4ke");
+  EXPECT_EQ(title(Utf16Bytes(whole, true)), "L\xC3\xA4ke");
+}
+
 TEST(PictureFacts, DescriptionsKeepTheirBytesUnlessTheySayWhatTheyAre) {
   const auto title = [](const std::string& bytes) {
     return FactsOf(PhotoNotes{.first = {{support::kDescriptionTag, bytes}}}).title;
@@ -324,6 +364,10 @@ TEST(PictureFacts, NotesBehindTheBeginningOfThePixelsAreNotLookedAt) {
   const std::string head =
       JpegHead("", kSize) + NotesSegment({.first = {Ascii(support::kDescriptionTag, "Lake")}});
   EXPECT_EQ(ReadPictureFacts(head), PictureFacts());
+  const std::string scan("\0\x08\1\1\0\0\x3F\0", 8);  // its head, as long as it says
+  EXPECT_EQ(ReadPictureFacts(JpegHead("", kSize) + scan +
+                             NotesSegment({.first = {Ascii(support::kDescriptionTag, "Lake")}})),
+            PictureFacts());
 }
 
 TEST(PictureFacts, ATextAsLongAsASegmentCanHoldIsRead) {
