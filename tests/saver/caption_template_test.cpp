@@ -94,6 +94,7 @@ TEST(CaptionTemplate, LineEndsAndControlCharactersBecomeBlanks) {
                                         "c\xE2\x80\xA9"
                                         "d"}),
             "a b c d");
+  EXPECT_EQ(Filled("{title}", {.title = "a\xC2\x80|\xC2\x9F|\xC2\xA0z"}), "a | |\xC2\xA0z");
   EXPECT_EQ(Filled("a\tb"), "a b");
   EXPECT_EQ(Filled("{title}|, {date}|", {.date = " \r\n ", .title = "Lake"}), "Lake")
       << "blanks alone are nothing";
