@@ -37,18 +37,63 @@ HWND WaitForWindow(const wchar_t* title) {
   return window;
 }
 
-bool WaitForNoWindow(const wchar_t* title) {
-  return e2e::WaitFor([&] {
-    const HWND window = FindWindowW(nullptr, title);
-    return window == nullptr || !IsWindowVisible(window);
-  });
+bool WaitForNoWindow(const wchar_t* title, int limitMs = 15000) {
+  return e2e::WaitFor(
+      [&] {
+        const HWND window = FindWindowW(nullptr, title);
+        return window == nullptr || !IsWindowVisible(window);
+      },
+      limitMs);
 }
 
-bool HasFocus(HWND window) {
+// The first visible window of a class inside another one; null when there is none.
+HWND VisibleChild(HWND parent, const wchar_t* className) {
+  struct Search {
+    const wchar_t* className;
+    HWND found;
+  } search{className, nullptr};
+  EnumChildWindows(
+      parent,
+      [](HWND window, LPARAM data) -> BOOL {
+        auto& wanted = *reinterpret_cast<Search*>(data);
+        wchar_t name[64] = {};
+        GetClassNameW(window, name, 64);
+        if (!IsWindowVisible(window) || std::wstring(name) != wanted.className) return TRUE;
+        wanted.found = window;
+        return FALSE;
+      },
+      reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
+// What has the keyboard in the program of a window.
+HWND FocusIn(HWND window) {
   GUITHREADINFO info{};
   info.cbSize = sizeof(info);
   const DWORD thread = GetWindowThreadProcessId(window, nullptr);
-  return GetGUIThreadInfo(thread, &info) != FALSE && info.hwndFocus == window;
+  return GetGUIThreadInfo(thread, &info) != FALSE ? info.hwndFocus : nullptr;
+}
+
+bool WaitForFocus(HWND window) {
+  return e2e::WaitFor([&] { return FocusIn(window) == window; });
+}
+
+// The window takes keys: what was open over it has gone.
+bool WaitForKeyboard(HWND window) {
+  return e2e::WaitFor([&] {
+    const HWND focus = FocusIn(window);
+    return IsWindowEnabled(window) != FALSE && GetForegroundWindow() == window && focus != nullptr &&
+           (focus == window || IsChild(window, focus));
+  });
+}
+
+bool WaitForEditInside(HWND window) {
+  return e2e::WaitFor([&] {
+    wchar_t name[16] = {};
+    const HWND focus = FocusIn(window);
+    return focus != nullptr && IsChild(window, focus) && GetClassNameW(focus, name, 16) > 0 &&
+           std::wstring(name) == L"Edit";
+  });
 }
 
 bool IsChecked(HWND option) { return SendMessageW(option, BM_GETCHECK, 0, 0) == BST_CHECKED; }
@@ -64,9 +109,12 @@ class MoreOptionsTest : public testing::Test {
       ASSERT_TRUE(CopyFileW((e2e::builtFolder + L"\\" + name).c_str(), (folder.path() + L"\\" + name).c_str(),
                             FALSE));
     }
-    album.writeBitmap("a.bmp", {30, 20}, base::Rgb(1, 2, 3));
-    album.writeBitmap("b.bmp", {30, 20}, base::Rgb(1, 2, 3));
+    ASSERT_TRUE(CreateDirectoryW(album().c_str(), nullptr));
+    pictureFolder.writeBitmap("album\\a.bmp", {30, 20}, base::Rgb(1, 2, 3));
+    pictureFolder.writeBitmap("album\\b.bmp", {30, 20}, base::Rgb(1, 2, 3));
   }
+
+  std::wstring album() const { return pictureFolder.path() + L"\\album"; }
 
   void expectTheFileToHaveIt() {
     const support::Windows1252 ansi;
@@ -74,7 +122,7 @@ class MoreOptionsTest : public testing::Test {
     EXPECT_EQ(file.value("extras", "change"), "crossfade");
     EXPECT_EQ(file.value("extras", "captions"), "{name}");
     ASSERT_EQ(settings::FollowedFolders(file).size(), 1U);
-    EXPECT_EQ(settings::FollowedFolders(file)[0], os::FromWide(album.path()));
+    EXPECT_EQ(settings::FollowedFolders(file)[0], os::FromWide(album()));
     EXPECT_EQ(file.value("images", "1"), os::FromWide(folder.path()) + "\\image2.gif") << "the list stays";
   }
 
@@ -87,7 +135,7 @@ class MoreOptionsTest : public testing::Test {
   }
 
   e2e::ProgramFolder folder{L"more"};
-  e2e::ProgramFolder album{L"followed"};
+  e2e::ProgramFolder pictureFolder{L"pictures"};
 };
 
 TEST_F(MoreOptionsTest, AreChosenSavedAndShownByTheKeyboardAlone) {
@@ -114,20 +162,23 @@ TEST_F(MoreOptionsTest, AreChosenSavedAndShownByTheKeyboardAlone) {
   const HWND combo = e2e::WaitForChild(more, L"ComboBox", L"No captions by themselves");
   ASSERT_NE(combo, nullptr);
   PressWith(VK_MENU, 'T');
-  ASSERT_TRUE(e2e::WaitFor([&] { return HasFocus(combo); })) << "a label's letter leads to what it names";
+  ASSERT_TRUE(WaitForFocus(combo)) << "a label's letter leads to what it names";
   e2e::PressKey(VK_DOWN);
   EXPECT_NE(e2e::WaitForChild(more, L"Edit", L"{name}"), nullptr);
 
   PressWith(VK_CONTROL, VK_TAB);
   ASSERT_NE(e2e::WaitForChild(more, L"Button", L"&Add..."), nullptr);
   PressWith(VK_MENU, 'A');
-  ASSERT_NE(WaitForWindow(kChooser), nullptr);
-  e2e::TypeText(album.path());
+  const HWND chooser = WaitForWindow(kChooser);
+  ASSERT_NE(chooser, nullptr);
+  ASSERT_TRUE(WaitForEditInside(chooser));
+  e2e::TypeText(album());
   e2e::PressKey(VK_RETURN);
   ASSERT_TRUE(WaitForNoWindow(kChooser));
-  e2e::PressKey(VK_RETURN);
+  ASSERT_TRUE(WaitForKeyboard(more));
+  PressWith(VK_MENU, 'O');
   ASSERT_TRUE(WaitForNoWindow(kMore));
-  ASSERT_TRUE(e2e::WaitFor([&] { return IsWindowEnabled(dialog) != FALSE; }));
+  ASSERT_TRUE(WaitForKeyboard(dialog));
   PressWith(VK_MENU, 'O');
   ASSERT_TRUE(program.waitForEnd());
   expectTheFileToHaveIt();
@@ -149,7 +200,8 @@ HWND FindByTabs(HWND form, const wchar_t* className, const wchar_t* text) {
 }
 
 TEST_F(MoreOptionsTest, AreChosenSavedAndShownByTheMouseAlone) {
-  const e2e::PicturesFolder pictures(album.path());
+  // The folder of photos lies alone where the user keeps pictures.
+  const e2e::PicturesFolder pictures(pictureFolder.path());
   e2e::RunningProgram program(folder.program(), L"/C");
   const HWND dialog = e2e::DialogOf(program);
   ASSERT_NE(dialog, nullptr);
@@ -180,15 +232,23 @@ TEST_F(MoreOptionsTest, AreChosenSavedAndShownByTheMouseAlone) {
   ClickOn(add);
   const HWND chooser = WaitForWindow(kChooser);
   ASSERT_NE(chooser, nullptr);
-  HWND take = nullptr;  // of the folder that it shows
-  ASSERT_TRUE(e2e::WaitFor([&] { return (take = GetDlgItem(chooser, IDOK)) != nullptr; }));
-  ClickOn(take);
-  ASSERT_TRUE(WaitForNoWindow(kChooser));
+  HWND list = nullptr;
+  ASSERT_TRUE(e2e::WaitFor([&] { return (list = VisibleChild(chooser, L"SysListView32")) != nullptr; }));
+  RECT first{};
+  GetWindowRect(list, &first);
+  const HWND take = GetDlgItem(chooser, IDOK);
+  ASSERT_TRUE(e2e::WaitFor([&] {
+    e2e::MoveMouseTo(first.left + 30, first.top + 8);
+    e2e::ClickMouse();
+    ClickOn(take);
+    return WaitForNoWindow(kChooser, 1000);
+  }));
+  ASSERT_TRUE(WaitForKeyboard(more));
   const HWND ok = ChildOf(more, L"Button", L"&OK");
   ASSERT_NE(ok, nullptr);
   ClickOn(ok);
   ASSERT_TRUE(WaitForNoWindow(kMore));
-  ASSERT_TRUE(e2e::WaitFor([&] { return IsWindowEnabled(dialog) != FALSE; }));
+  ASSERT_TRUE(WaitForKeyboard(dialog));
   ClickOn(ChildOf(dialog, L"Button", L"&OK"));
   ASSERT_TRUE(program.waitForEnd());
   expectTheFileToHaveIt();
