@@ -2,6 +2,7 @@
 # ./package runs it with
 #   -DVERSION=1.2.3     the product's version
 #   -DFOLDER=path       the program folder, with the times that its files are to have
+#   -DTODAY=path        the settings file with the look of today; the one in the program folder has the classic look
 #   -DLAUNCHER=path     the program that opens the settings from the Start menu
 #   -DOUTPUT=path       the installer to write
 #   -DTARGET=stub       for which Windows it is: amd64-unicode or x86-unicode
@@ -11,6 +12,7 @@ Target ${TARGET}
 SetCompressor /SOLID lzma
 
 !include MUI2.nsh
+!include nsDialogs.nsh
 !include FileFunc.nsh
 !include LogicLib.nsh
 
@@ -42,13 +44,16 @@ VIAddVersionKey /LANG=1033 "LegalCopyright" "The Lumora founders"
 VIAddVersionKey /LANG=1033 "ProductName" "${PRODUCT}"
 VIAddVersionKey /LANG=1033 "ProductVersion" "${VERSION}"
 
-# "yes" when a Lumora was there before; "yes", "no" or nothing as the switch /SAVER= says.
+# "yes" when a Lumora was there before; "yes", "no" or nothing as the switch /SAVER= says; the look that a first
+# installation begins with, "today" or "classic".
 Var upgrade
 Var saverSwitch
+Var look
 
 !include "screen_saver_setting.nsh"
 !include "running_program.nsh"
 !include "sample_pictures.nsh"
+!include "look_page.nsh"
 !include "setup_pages.nsh"
 
 Function .onInit
@@ -61,6 +66,11 @@ Function .onInit
   ${GetOptions} $0 "/SAVER=" $saverSwitch
   ${If} ${Errors}
     StrCpy $saverSwitch ""
+  ${EndIf}
+  ClearErrors
+  ${GetOptions} $0 "/LOOK=" $look
+  ${If} $look != "classic"
+    StrCpy $look today
   ${EndIf}
 FunctionEnd
 
@@ -96,7 +106,11 @@ Section "Lumora" main_section
   File "/oname=${LAUNCHER_NAME}" "${LAUNCHER}"
   # The settings are the user's from the first start on.
   SetOverwrite off
-  File "${FOLDER}/${SETTINGS}"
+  ${If} $look == "classic"
+    File "${FOLDER}/${SETTINGS}"
+  ${Else}
+    File "/oname=${SETTINGS}" "${TODAY}"
+  ${EndIf}
   SetOverwrite on
   !insertmacro INSTALL_SAMPLE "image1.gif"
   !insertmacro INSTALL_SAMPLE "image2.gif"

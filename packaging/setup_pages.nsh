@@ -21,6 +21,7 @@ SetDateSave off
 !define MUI_DIRECTORYPAGE_TEXT_TOP "Lumora keeps its settings beside the program, so choose a folder of your \
   own. The proposed one is fine for nearly everybody."
 !insertmacro MUI_PAGE_DIRECTORY
+Page custom ShowLookPage LeaveLookPage
 !insertmacro MUI_PAGE_INSTFILES
 
 !define MUI_PAGE_CUSTOMFUNCTION_SHOW ShowChoices

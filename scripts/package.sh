@@ -19,8 +19,23 @@ stage_program_folder() {
   # For Windows' own editor of texts.
   sed -e "s/@VERSION@/$(version_of_build "$1")/" -e 's/$/\r/' "$packing_sources/packaging/readme.txt" >"$2/readme.txt"
   cp "$1/LumoraSettings.exe" "$2/../LumoraSettings.exe"
-  chmod 644 "$2"/* "$2/../LumoraSettings.exe"
-  touch -d "@$SOURCE_DATE_EPOCH" "$2"/* "$2/../LumoraSettings.exe"
+  make_today_settings "$2/zbfaone.ini" "$2/../zbfaone-today.ini"
+  chmod 644 "$2"/* "$2"/../*.*
+  touch -d "@$SOURCE_DATE_EPOCH" "$2"/* "$2"/../*.*
+}
+
+# The settings file with the look of today, which an installer offers beside the classic one. $1: the classic file,
+# $2: the file to write. Fails when a key is not there once.
+make_today_settings() {
+  local key value
+  cp "$1" "$2"
+  while IFS== read -r key value; do
+    if [ "$(grep -c "^$key=" "$2")" != 1 ]; then
+      say "packaging/look_today.txt: '$key' does not stand in $1 once"
+      return 1
+    fi
+    sed -i "s/^$key=[^\r]*/$key=$value/" "$2"
+  done <"$packing_sources/packaging/look_today.txt"
 }
 
 # Where the installer's script, its texts and the assets are.
@@ -45,6 +60,7 @@ setup_target() {
 make_setup() {
   local log="$root/out/makensis.log"
   if ! (cd "$packing_sources/packaging" && makensis -V2 -WX -NOCD -INPUTCHARSET UTF8 -DVERSION="$2" -DFOLDER="$1" \
+    -DTODAY="$1/../zbfaone-today.ini" \
     -DLAUNCHER="$1/../LumoraSettings.exe" -DOUTPUT="$3" -DTARGET="$4" lumora.nsi) >"$log" 2>&1; then
     cat "$log" >&2
     return 1

@@ -155,8 +155,8 @@ std::optional<MultiFiles::Pictures> MultiFiles::listed() const {
 // cannot be read.
 std::optional<MultiFiles::Pictures> MultiFiles::searched() {
   const std::string folder = filFilenames.path();
-  TreeSearch search(services_.folders, services_.makeWorker, folder,
-                    library::PictureNames::ofPatterns(filFilenames.pattern()));
+  TreeSearch search(services_.folders, services_.makeWorker,
+                    {.folder = folder, .names = library::PictureNames::ofPatterns(filFilenames.pattern())});
   progress_.onTimer = [this, &search] {
     if (!isOver()) lblProgress.setCaption(FoundSoFar(search.picturesFound(), search.foldersRead()));
   };

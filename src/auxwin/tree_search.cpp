@@ -26,23 +26,28 @@ struct TreeSearch::Search {
 };
 
 TreeSearch::TreeSearch(const std::shared_ptr<os::FolderReader>& folders, const os::MakeWorker& makeWorker,
-                       const std::string& folder, library::PictureNames names)
+                       Request request)
     : search_(new Search{.folders = folders,
-                         .walk = library::FolderWalk(*folders, folder,
-                                                     {.subfolders = true,
-                                                      .names = std::move(names),
+                         .walk = library::FolderWalk(*folders, request.folder,
+                                                     {.subfolders = request.subfolders,
+                                                      .names = std::move(request.names),
                                                       .choice = library::DayChoice(0),
                                                       .most = kMostPictures}),
                          .failure = nullptr}),
       worker_(makeWorker()) {
-  worker_->run([search = search_] { run(*search); }, [search = search_] { search->done = true; });
+  worker_->run([search = search_] { run(*search); },
+               [search = search_, whenDone = std::move(request.whenDone)] {
+                 search->done = true;
+                 if (whenDone) whenDone();
+               });
 }
 
 TreeSearch::~TreeSearch() { search_->stopped = true; }
 
 void TreeSearch::run(Search& search) noexcept {
   try {
-    while (!search.stopped && search.walk.step()) {
+    for (bool more = true; more && !search.stopped;) {
+      more = search.walk.step();
       search.picturesFound = static_cast<int>(search.walk.pictures().size());
       search.foldersRead = search.walk.foldersRead();
     }

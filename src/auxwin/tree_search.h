@@ -1,7 +1,8 @@
-// The pictures of a whole folder tree, looked for beside the dialog.
+// The pictures of a folder, or of a whole folder tree, looked for beside the dialog.
 #pragma once
 
 #include <exception>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -16,9 +17,16 @@ namespace auxwin {
 // the search after the folder that is being read, and waits for nothing.
 class TreeSearch {
  public:
+  struct Request {
+    std::string folder;
+    library::PictureNames names;
+    bool subfolders = true;                    // else the folder's own pictures alone
+    std::function<void()> whenDone = nullptr;  // on the user-interface thread
+  };
+
   // Begins at once. `folders` is shared with the thread, which may come back from the system late.
   TreeSearch(const std::shared_ptr<os::FolderReader>& folders, const os::MakeWorker& makeWorker,
-             const std::string& folder, library::PictureNames names);
+             Request request);
   ~TreeSearch();
   TreeSearch(const TreeSearch&) = delete;
   TreeSearch& operator=(const TreeSearch&) = delete;

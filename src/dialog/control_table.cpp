@@ -8,29 +8,10 @@ namespace {
 
 using F = Form2;
 
-// A control of the form, for a row of a table.
-template <auto Member>
-forms::Control& It(Form2& form) {
-  return form.*Member;
-}
-
-template <auto Member>
-forms::RangeControl& Range(Form2& form) {
-  return form.*Member;
-}
-
-// What a control stands on.
-template <auto Member>
-forms::Control* On(Form2& form) {
-  return &(form.*Member);
-}
-
 template <int Tab>
 forms::Control* OnTab(Form2& form) {
   return &form.SSTab1.page(Tab);
 }
-
-forms::Control* OnForm(Form2&) { return nullptr; }
 
 constexpr std::string_view kTabCaptions[] = {
     " Loaded Images ", " Image Properties ",  " Background Color ", " Mouse Sensitivity ",
@@ -185,6 +166,8 @@ constexpr ControlRow kControls[] = {
 
     {It<&F::photo>, OnForm, {0, 0, 10, 10}, "", "", ""},
     {It<&F::photo_caption>, OnForm, {0, 0, 10, 10}, "", "", ""},
+    {It<&F::MoreCommand>, OnForm, {12, 460, 88, 26}, "&More...", "More options", "",
+     "More Options: Screens, order, look, words, keys and folders of the screen saver"},
     {It<&F::Ok>, OnForm, {448, 460, 88, 26}, "&OK", "Save changes", "",
      "Save Settings: Save all screen saver settings"},
     {It<&F::Cancel>, OnForm, {544, 460, 88, 26}, "&Cancel", "Cancel changes", "",

@@ -24,6 +24,8 @@ struct DialogMachineWin {
   pictures::PictureLoader& pictures;
   pictures::AheadLoader* ahead = nullptr;
   os::MakeWorker makeWorker = nullptr;  // for what is looked for beside the dialog; null: nothing is
+  CaptionExample captionExample = nullptr;
+  HiddenPictures hidden = {};
 };
 
 class SettingsDialogWin {

@@ -12,8 +12,6 @@ namespace dialog {
 
 namespace {
 
-float Twips(int tablePixels) { return static_cast<float>(tablePixels * kTwipsPerTablePixel); }
-
 std::vector<std::string> Texts(std::span<const std::string_view> views) {
   return {views.begin(), views.end()};
 }
@@ -25,15 +23,6 @@ std::vector<std::string> Numbers(int first, int last) {
     numbers.push_back(digits.size() < 2 ? "0" + digits : digits);
   }
   return numbers;
-}
-
-void SetText(forms::Control& control, std::string_view text) {
-  if (text.empty()) return;
-  if (auto* captioned = dynamic_cast<forms::CaptionedControl*>(&control)) {
-    captioned->setCaption(std::string(text));
-  } else if (auto* label = dynamic_cast<forms::Label*>(&control)) {
-    label->setCaption(std::string(text));
-  }
 }
 
 }  // namespace
@@ -57,20 +46,7 @@ Form2::Form2(const DialogServices& services, std::string programFolder)
 }
 
 void Form2::layOut() {
-  for (const ControlRow& row : ControlTable()) {
-    forms::Control& control = row.control(*this);
-    control.setContainer(row.container(*this));
-    control.move(Twips(row.place.left), Twips(row.place.top), Twips(row.place.width),
-                 Twips(row.place.height));
-    SetText(control, row.caption);
-    control.setToolTip(std::string(row.toolTip));
-    control.setAccessibleName(std::string(row.accessibleName));
-  }
-  for (const RangeRow& row : RangeTable()) {
-    forms::RangeControl& control = row.control(*this);
-    control.setRange(row.min, row.max, 1, row.largeChange);
-    if (auto* slider = dynamic_cast<forms::Slider*>(&control)) slider->setTickFrequency(row.tickFrequency);
-  }
+  LayOut(*this, ControlTable(), RangeTable());
   for (const ComboRow& row : ComboTable()) (this->*row.control).setItems(Numbers(row.first, row.last));
   for (int i = 0; i < SSTab1.tabCount(); ++i) {
     // Two rows of tabs; the host measures their real height.
@@ -117,14 +93,6 @@ void Form2::setDesignValues() {
   Text3.setDesignText("Total: 0");
 }
 
-void Form2::connectHints() {
-  const auto say = [this](const char* hint) {
-    return [this, hint](const forms::MouseEvent&) { SS_StatusBar.setPanelText(1, hint); };
-  };
-  for (const ControlRow& row : ControlTable()) {
-    if (row.hint) row.control(*this).onMouseMove = say(row.hint);
-  }
-  onMouseMove = say(kClearsHint);
-}
+void Form2::connectHints() { ConnectHints(*this, ControlTable(), SS_StatusBar); }
 
 }  // namespace dialog

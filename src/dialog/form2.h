@@ -4,6 +4,8 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "auxwin/picture_target.h"
 #include "base/font.h"
@@ -27,6 +29,15 @@
 
 namespace dialog {
 
+// A caption as the show would make it of a template, for a picture that is a good example.
+using CaptionExample = std::function<std::string(std::string_view captionTemplate)>;
+
+// The pictures that a user has put away in the show.
+struct HiddenPictures {
+  std::function<int()> count;
+  std::function<void()> showAgain;  // all of them
+};
+
 // What the settings dialog needs of the machine.
 struct DialogServices {
   os::Files& files;
@@ -38,6 +49,8 @@ struct DialogServices {
   pictures::AheadLoader* ahead = nullptr;  // used where the settings ask for it; null: there is none
   std::shared_ptr<os::FolderReader> folders = nullptr;  // to look below folders, and for the system's formats
   os::MakeWorker makeWorker = nullptr;                  // there where `folders` is
+  CaptionExample captionExample = nullptr;  // what the show makes of a template; without it none is shown
+  HiddenPictures hidden = {};               // without it none can be hidden
 };
 
 // What the font dialog starts with.
@@ -61,6 +74,12 @@ class Form2 : public forms::Form {
 
   // Every setting as text, as a save would write it.
   settings::SettingsRecord record;
+
+  // Folders whose pictures a show has besides the list, as a save would write them.
+  std::vector<std::string> followedFolders;
+
+  // Whether a save brings back the pictures that were hidden in the show.
+  bool showsHiddenAgain = false;
 
   // Tabs.
   forms::TabControl SSTab1;
@@ -183,6 +202,7 @@ class Form2 : public forms::Form {
   forms::ListBox photo_caption{*this, "photo_caption"};
 
   // Below the tabs.
+  forms::CommandButton MoreCommand{*this, "MoreCommand"};
   forms::CommandButton Ok{*this, "Ok"};
   forms::CommandButton Cancel{*this, "Cancel"};
   forms::StatusBar SS_StatusBar{*this, "SS_StatusBar", {{""}, {""}}};
@@ -205,9 +225,8 @@ class Form2 : public forms::Form {
   // The settings file as the loading found it; empty when it found none. And what it read of it.
   const std::string& loadedFile() const { return loadedFile_; }
 
-  // The file names a folder whose pictures a show has besides the list.
-  bool followsFolders() const { return followsFolders_; }
   const settings::SettingsRecord& loaded() const { return loaded_; }
+  const std::vector<std::string>& loadedFolders() const { return loadedFolders_; }
 
   const DialogServices& services() const { return services_; }
   const std::string& programFolder() const { return programFolder_; }
@@ -293,9 +312,9 @@ class Form2 : public forms::Form {
   bool loadedWell_ = true;
   std::string loadedFile_;
   settings::SettingsRecord loaded_;
+  std::vector<std::string> loadedFolders_;
   std::string savingNote_;
   bool loadsAhead_ = false;
-  bool followsFolders_ = false;
   std::string importedPatterns_ = auxwin::kImportedPatterns;
   AwaitedPictures awaited_;
 };

@@ -67,7 +67,8 @@ void Form2::loadSettings(settings::SettingsRecord& read) {
     read.*key.field = settings::ReadIniValue(document, key);
   }
   loadsAhead_ = read.loadAhead == "1";
-  followsFolders_ = !settings::FollowedFolders(document).empty();
+  loadedFolders_ = settings::FollowedFolders(document);
+  followedFolders = loadedFolders_;
   record.moreFormats = read.moreFormats;
   if (offersMoreFormats() && services_.folders) {
     std::vector<std::string> further = services_.folders->pictureEndings();

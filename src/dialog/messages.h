@@ -19,6 +19,12 @@ inline constexpr char kImageFirst[] = "An image must be loaded first.";
 inline constexpr char kOneBackgroundOnly[] = "You can only display 1 background image.";
 inline constexpr char kNoBackgroundToRemove[] = "Nothing to remove.";
 
+// Followed folders.
+inline constexpr char kFolderPathTooLong[] =
+    "The path of this folder is longer than 254 characters.\r\nMove it to a folder with a shorter path and "
+    "add "
+    "it again.";
+
 // Saving.
 inline constexpr char kNoImages[] =
     "There are no images loaded in the Screen Saver. Load at least one image file to be displayed.";

@@ -45,7 +45,7 @@ bool IsDateUsable(const settings::SettingsRecord& record) {
 // What speaks against saving; null when nothing does. A folder that is followed gives a show its pictures
 // without any in the list.
 const char* FaultOf(const Form2& form) {
-  if (form.List1.item(0).empty() && !form.followsFolders()) return kNoImages;
+  if (form.List1.item(0).empty() && form.followedFolders.empty()) return kNoImages;
   if (form.record.backEffect == "2" && form.record.backgroundImage.empty()) return kNoBackgroundImage;
   if (!IsDateUsable(form.record)) return kInvalidDate;
   return nullptr;
@@ -76,7 +76,8 @@ void WriteFile(const Form2& form) {
   settings::IniDocument document(old, form.services().ansi);
   settings::WriteSettings(document, RecordToWrite(form), form.List1.items(), form.photo_caption.items());
   settings::WriteExtras(document, form.record, form.loaded());
-  files.replace(path, document.serialise());
+  settings::WriteFolders(document, form.followedFolders, form.loadedFolders());
+  if (files.replace(path, document.serialise()) && form.showsHiddenAgain) form.services().hidden.showAgain();
 }
 
 const char* CheckAndWrite(Form2& form) {

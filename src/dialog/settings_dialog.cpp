@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "dialog/messages.h"
+#include "dialog/more_table.h"
 #include "dialog/save_settings.h"
 #include "os/paths.h"
 
@@ -28,6 +29,7 @@ SettingsDialog::~SettingsDialog() {
   loop_.setErrorHandler(nullptr);
   form.onUnload = nullptr;
   if (folderImport) services_.windows.unload(*folderImport);
+  if (moreOptions) services_.windows.unload(*moreOptions);
   services_.windows.unload(about);
   services_.windows.unload(viewer);
   services_.windows.unload(form);
@@ -42,6 +44,7 @@ void SettingsDialog::connect() {
   form.Ok.onClick = [this] { Ok_Click(); };
   form.Save.onClick = [this] { Save_Click(); };
   form.FolderCommand.onClick = [this] { FolderCommand_Click(); };
+  form.MoreCommand.onClick = [this] { MoreCommand_Click(); };
   form.List1.onDblClick = [this] { List1_DblClick(); };
   form.photo1.onDblClick = [this] { photo1_DblClick(); };
   form.EnlargeCommand.onClick = [this] { EnlargeCommand_Click(); };
@@ -92,6 +95,17 @@ void SettingsDialog::FolderCommand_Click() {
   pictures.listChanged();
   importsSubfolders_ = folderImport->chkSubfolders.value();
   if (!folderImport->addedFolder().empty()) lastFolder_ = folderImport->addedFolder();
+}
+
+void SettingsDialog::MoreCommand_Click() {
+  moreOptions.emplace(services_, MoreChoices{form.record, form.followedFolders, form.showsHiddenAgain});
+  moreOptions->onHelp = [this] { LumoraHelp_Click(); };
+  services_.windows.showModal(*moreOptions);
+  if (!moreOptions->accepted()) return;
+  const MoreChoices& choices = moreOptions->choices;
+  for (const MoreOptionRow& row : MoreOptionTable()) form.record.*row.field = choices.record.*row.field;
+  form.followedFolders = choices.folders;
+  form.showsHiddenAgain = choices.showsHiddenAgain;
 }
 
 // The system starts a screen saver in a folder of its own, where nobody looks for pictures.

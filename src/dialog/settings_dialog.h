@@ -10,6 +10,7 @@
 #include "auxwin/multi_files.h"
 #include "dialog/background_image.h"
 #include "dialog/form2.h"
+#include "dialog/more_options.h"
 #include "dialog/picture_list.h"
 #include "os/event_loop.h"
 #include "os/shell.h"
@@ -35,10 +36,12 @@ class SettingsDialog {
   auxwin::frmAbout about;
   // Lives on until the next one: its window may outlast the wait for it.
   std::optional<auxwin::MultiFiles> folderImport;
+  std::optional<MoreOptions> moreOptions;  // likewise
 
   void Ok_Click();
   void Save_Click();
   void FolderCommand_Click();
+  void MoreCommand_Click();
   void List1_DblClick();
   void photo1_DblClick();
   void EnlargeCommand_Click();

@@ -46,15 +46,17 @@ void ControlPeer::leave() {
   window_ = nullptr;
 }
 
-// Where no label in sight says what the control is, one that is hidden does.
+// Where no label in sight says what the control is, one that is hidden does. Of a label's mnemonic a screen
+// reader tells the letter, not the mark before it.
 void ControlPeer::makeNameBefore(HWND parent) const {
   const std::string& name = control_.accessibleName();
   if (name.empty()) return;
   const std::wstring wide = os::ToWide(name);
   if (const HWND first = GetWindow(parent, GW_CHILD)) {
     const HWND before = GetWindow(first, GW_HWNDLAST);
-    std::wstring text(wide.size() + 2, L'\0');
+    std::wstring text(wide.size() + 3, L'\0');
     text.resize(static_cast<std::size_t>(GetWindowTextW(before, text.data(), static_cast<int>(text.size()))));
+    if ((GetWindowLongPtrW(before, GWL_STYLE) & SS_NOPREFIX) == 0) std::erase(text, L'&');
     wchar_t windowClass[8] = {};
     GetClassNameW(before, windowClass, 8);
     if (text == wide && std::wstring_view(windowClass) == L"Static") return;

@@ -1,4 +1,4 @@
-// The system's ready-made dialogs: message box, open file, colour, font.
+// The system's ready-made dialogs: message box, open file, folder, colour, font.
 #pragma once
 
 #include <cstdint>
@@ -25,6 +25,11 @@ struct OpenFileRequest {
 };
 constexpr std::uint32_t kHideReadOnly = 0x4;
 constexpr std::uint32_t kFileMustExist = 0x1000;
+
+struct FolderRequest {
+  std::string title;
+  std::string start;  // the folder that is shown first; empty = the one that the system remembers
+};
 
 struct ColorRequest {
   base::PackedColor initial = base::kBlack;
@@ -58,6 +63,7 @@ class Dialogs {
   virtual std::optional<std::string> openFile(const OpenFileRequest& request) = 0;
   // Several files of one folder, in no order; none when the user cancelled.
   virtual std::vector<std::string> openFiles(const OpenFileRequest& request) = 0;
+  virtual std::optional<std::string> chooseFolder(const FolderRequest& request) = 0;
 
   virtual std::optional<base::PackedColor> chooseColor(const ColorRequest& request) = 0;
   virtual std::optional<ChosenFont> chooseFont(const FontRequest& request) = 0;

@@ -2,6 +2,8 @@
 
 #include <cderr.h>
 #include <commdlg.h>
+#include <shobjidl.h>
+#include <wrl/client.h>
 
 #include <algorithm>
 #include <stdexcept>
@@ -15,6 +17,8 @@
 #include "os/utf16_win.h"
 
 namespace forms {
+
+using Microsoft::WRL::ComPtr;
 
 namespace {
 
@@ -51,6 +55,15 @@ std::optional<std::wstring> AskForFiles(HWND owner, const OpenFileRequest& reque
   return std::nullopt;
 }
 
+// The place in the file system that an item of the shell stands for; nothing when it stands for none.
+std::optional<std::string> PathOf(IShellItem& item) {
+  wchar_t* path = nullptr;
+  if (FAILED(item.GetDisplayName(SIGDN_FILESYSPATH, &path))) return std::nullopt;
+  std::string utf8 = os::FromWide(path);
+  CoTaskMemFree(path);
+  return utf8;
+}
+
 }  // namespace
 
 Answer DialogsWin::messageBox(const std::string& text, std::uint32_t style) {
@@ -78,6 +91,26 @@ std::vector<std::string> DialogsWin::openFiles(const OpenFileRequest& request) {
   if (!chosen) return {};
   chosen->resize(chosen->find(std::wstring_view(L"\0", 2)));
   return FilesOfSelection(os::FromWide(*chosen));
+}
+
+std::optional<std::string> DialogsWin::chooseFolder(const FolderRequest& request) {
+  ComPtr<IFileOpenDialog> dialog;
+  if (FAILED(CoCreateInstance(CLSID_FileOpenDialog, nullptr, CLSCTX_INPROC_SERVER, IID_PPV_ARGS(&dialog)))) {
+    throw std::runtime_error("The system's dialog for folders is not there.");
+  }
+  FILEOPENDIALOGOPTIONS options = 0;
+  dialog->GetOptions(&options);
+  dialog->SetOptions(options | FOS_PICKFOLDERS | FOS_FORCEFILESYSTEM | FOS_PATHMUSTEXIST | FOS_NOCHANGEDIR);
+  dialog->SetTitle(os::ToWide(request.title).c_str());
+  ComPtr<IShellItem> item;
+  if (!request.start.empty() && SUCCEEDED(SHCreateItemFromParsingName(os::ToWide(request.start).c_str(),
+                                                                      nullptr, IID_PPV_ARGS(&item)))) {
+    dialog->SetFolder(item.Get());
+  }
+  if (FAILED(dialog->Show(owner_())) || FAILED(dialog->GetResult(item.ReleaseAndGetAddressOf()))) {
+    return std::nullopt;
+  }
+  return PathOf(*item.Get());
 }
 
 std::optional<base::PackedColor> DialogsWin::chooseColor(const ColorRequest& request) {

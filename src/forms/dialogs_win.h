@@ -17,6 +17,7 @@ class DialogsWin : public Dialogs {
   Answer messageBox(const std::string& text, std::uint32_t style) override;
   std::optional<std::string> openFile(const OpenFileRequest& request) override;
   std::vector<std::string> openFiles(const OpenFileRequest& request) override;
+  std::optional<std::string> chooseFolder(const FolderRequest& request) override;
   std::optional<base::PackedColor> chooseColor(const ColorRequest& request) override;
   std::optional<ChosenFont> chooseFont(const FontRequest& request) override;
 

@@ -43,7 +43,8 @@ std::string CaptionOf(const Control& control) {
     return WithoutMnemonic(captioned->caption());
   }
   const auto* label = dynamic_cast<const Label*>(&control);
-  return label && !label->wraps ? label->caption() : std::string();
+  if (!label || label->wraps) return {};
+  return label->hasMnemonic ? WithoutMnemonic(label->caption()) : label->caption();
 }
 
 }  // namespace

@@ -52,7 +52,8 @@ WindowRecipe LabelPeer::recipe() const {
   DWORD align = label_.wraps ? SS_LEFT : SS_LEFTNOWORDWRAP;
   if (label_.align == TextAlign::Right) align = SS_RIGHT;
   if (label_.align == TextAlign::Center) align = SS_CENTER;
-  return {L"STATIC", WS_GROUP | SS_NOPREFIX | align, 0};
+  if (!label_.hasMnemonic) align |= SS_NOPREFIX;
+  return {L"STATIC", WS_GROUP | align, 0};
 }
 
 void LabelPeer::onChange(Change change) {

@@ -25,7 +25,8 @@ class Label : public Control {
 
   // Set once while building a form.
   TextAlign align = TextAlign::Left;
-  bool wraps = false;  // goes on in further lines at the end of its width
+  bool wraps = false;        // goes on in further lines at the end of its width
+  bool hasMnemonic = false;  // "&" before a letter leads to the control behind the label
 
   const base::Font& font() const { return font_; }
   void setFont(base::Font font);

@@ -30,6 +30,11 @@ std::optional<ShowState> ShowStateOf(std::string_view payload) {
   return state;
 }
 
+ShowState LoadShowState(KeptFile& file) {
+  const std::optional<std::string> payload = file.load();
+  return payload ? ShowStateOf(*payload).value_or(ShowState()) : ShowState();
+}
+
 std::size_t IndexOfLast(const std::vector<std::string>& paths, std::size_t count, const ShowState& state) {
   const auto isLast = [&](std::size_t i) { return base::EqualAsciiBlind(paths[i], state.position.lastPath); };
   if (state.position.lastPath.empty()) return count;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "library/deck.h"
+#include "library/kept_file.h"
 #include "library/sealed.h"
 
 namespace library {
@@ -27,6 +28,9 @@ std::string PayloadOf(const ShowState& state);
 
 // Nothing for a payload that no show wrote.
 std::optional<ShowState> ShowStateOf(std::string_view payload);
+
+// What the file of this name and kind holds; an empty state when no show has written one.
+ShowState LoadShowState(KeptFile& file);
 
 // Where the last picture stands in the first `count` of the list; `count` when it has gone. Of a list that
 // has it several times the place where it was shown counts.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <cstddef>
 
@@ -10,7 +9,6 @@ namespace saver {
 
 namespace {
 
-constexpr int kMostPercent = 30;
 constexpr double kSoftShare = 0.2;  // of the time, at each end
 constexpr double kEvenSpeed = 1 / (1 - kSoftShare);
 constexpr double kFramesPerMs = 0.06;
@@ -33,13 +31,6 @@ double LargestExtra(base::PixelSize shown, int durationMs) {
 int Enlarged(int length, double extra) { return length + static_cast<int>(length * extra); }
 
 }  // namespace
-
-int ParsePanZoom(std::string_view text) {
-  int percent = 0;
-  const auto [rest, error] = std::from_chars(text.data(), text.data() + text.size(), percent);
-  const bool whole = error == std::errc{} && rest == text.data() + text.size();
-  return whole && percent >= 1 && percent <= kMostPercent ? percent : 0;
-}
 
 double SoftProgress(double share) {
   const double at = std::clamp(share, 0.0, 1.0);

@@ -1,15 +1,13 @@
 // The path of a picture that glides while it is shown.
 #pragma once
 
-#include <string_view>
-
 #include "base/framed.h"
 #include "base/geometry.h"
+#include "settings/extra_values.h"
 
 namespace saver {
 
-// Percent of extra size: a whole number from 1 to 30, and 0 (no glide) for any other text.
-int ParsePanZoom(std::string_view text);
+using settings::ParsePanZoom;
 
 // Between two framings: the whole of a picture drawn somewhat larger than its place on the screen, and a part
 // of it that fills the place pixel by pixel and lies at an edge or a corner. The picture grows from the first

@@ -5,6 +5,7 @@
 
 #include "base/text.h"
 #include "os/paths.h"
+#include "settings/load_settings.h"
 
 namespace settings {
 
@@ -90,8 +91,25 @@ void WriteExtras(IniDocument& document, const SettingsRecord& record, const Sett
       document.erase(key.section, key.name);
     } else {
       document.set(key.section, key.name, text);
+      if (IsCutInAnsi(text, document.ansi())) document.writeAsUtf16();
     }
   }
+}
+
+void WriteFolders(IniDocument& document, const std::vector<std::string>& folders,
+                  const std::vector<std::string>& loaded) {
+  if (folders == loaded) return;
+  const std::vector<std::string> before = FollowedFolders(document);
+  for (std::size_t i = 0; i < folders.size(); ++i) {
+    if (i < before.size() && folders[i] == before[i]) continue;
+    document.set(kFoldersSection, std::to_string(i), folders[i]);
+    if (IsCutInAnsi(folders[i], document.ansi())) document.writeAsUtf16();
+  }
+  for (std::size_t i = folders.size(); i < before.size(); ++i) {
+    document.erase(kFoldersSection, std::to_string(i));
+  }
+  const std::string behind = std::to_string(folders.size());
+  if (!ReadIniValue(document, kFoldersSection, behind).empty()) document.erase(kFoldersSection, behind);
 }
 
 }  // namespace settings

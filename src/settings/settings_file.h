@@ -51,4 +51,9 @@ void WriteSettings(IniDocument& document, const SettingsRecord& record, const st
 // is taken out of the file.
 void WriteExtras(IniDocument& document, const SettingsRecord& record, const SettingsRecord& loaded);
 
+// Makes `folders` those of [folders], unless they are the ones that were loaded. What stands behind a gap in
+// their numbers stays there unless it would be taken for one more of them.
+void WriteFolders(IniDocument& document, const std::vector<std::string>& folders,
+                  const std::vector<std::string>& loaded);
+
 }  // namespace settings

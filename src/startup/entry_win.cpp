@@ -117,7 +117,8 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
           [&] {
             settings = std::make_unique<dialog::SettingsDialogWin>(
                 dialog::DialogMachineWin{machine.loop, machine.savedFiles, machine.ansi, machine.pictures,
-                                         machine.ahead.get(), startup::MakeWorkers(machine.loop)},
+                                         machine.ahead.get(), startup::MakeWorkers(machine.loop), nullptr,
+                                         startup::MakeHiddenPictures(machine.files, machine.programFolder)},
                 machine.programFolder);
           },
       .drawPreview = [&](const std::string& text) { DrawPreview(machine, text); }};

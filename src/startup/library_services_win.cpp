@@ -2,8 +2,11 @@
 
 #include <windows.h>
 
+#include <memory>
 #include <utility>
+#include <vector>
 
+#include "library/hidden_pictures.h"
 #include "os/clock_win.h"
 #include "os/files_win.h"
 #include "os/folder_reader_win.h"
@@ -20,6 +23,8 @@ std::string LocalFolder() {
   return folder.empty() ? std::string() : os::FromWide(folder) + "\\Lumora";
 }
 
+void MakeLocalFolder() { CreateDirectoryW(os::ToWide(LocalFolder()).c_str(), nullptr); }
+
 // No frame of the show waits for a listing.
 void GiveWay() { SetThreadPriority(GetCurrentThread(), THREAD_PRIORITY_BELOW_NORMAL); }
 
@@ -35,7 +40,14 @@ saver::LibraryServices MakeLibraryServices() {
                     std::move(request));
               },
           .userFolder = LocalFolder(),
-          .makeUserFolder = [] { CreateDirectoryW(os::ToWide(LocalFolder()).c_str(), nullptr); }};
+          .makeUserFolder = MakeLocalFolder};
+}
+
+dialog::HiddenPictures MakeHiddenPictures(os::Files& files, const std::string& programFolder) {
+  const auto hidden = std::make_shared<library::HiddenPictures>(
+      files, std::vector<std::string>{programFolder, LocalFolder()}, MakeLocalFolder);
+  return {.count = [hidden] { return static_cast<int>(hidden->count()); },
+          .showAgain = [hidden] { hidden->bringBack(); }};
 }
 
 }  // namespace startup

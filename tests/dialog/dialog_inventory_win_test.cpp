@@ -93,6 +93,7 @@ TEST_F(DialogInventory, EveryControlIsARealWindowWithItsTexts) {
          {"ImagePosition", "Edit", "", "Position of image"},
          {"Label5(1)", "Static", "Loaded Image(s)", ""},
          {"Label5(2)", "Static", "Image Caption", ""},
+         {"MoreCommand", kButton, "&More...", "More options"},
          {"Ok", kButton, "&OK", "Save changes"},
          {"Cancel", kButton, "&Cancel", "Cancel changes"}});
   check(dialog, 1,

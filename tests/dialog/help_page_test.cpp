@@ -6,7 +6,9 @@
 #include <string>
 
 #include "base/text.h"
+#include "dialog/caption_templates.h"
 #include "dialog/control_table.h"
+#include "dialog/more_table.h"
 #include "settings/settings_record.h"
 #include "support/settings_dialog_machine.h"
 
@@ -54,6 +56,21 @@ TEST(HelpPage, NamesEveryTabControlAndMenuByItsCaption) {
       EXPECT_NE(page.find(Shown(item->caption())), std::string::npos) << item->caption();
     }
   }
+}
+
+TEST(HelpPage, NamesEveryOptionBeyondTheTabs) {
+  const std::string page = WithSingleBlanks(Page());
+  for (const std::string_view tab : MoreTabCaptions()) {
+    EXPECT_NE(page.find(Shown(tab) + "</h3>"), std::string::npos) << tab;
+  }
+  support::SettingsDialogMachine machine;
+  MoreOptions form(machine.openDialog().form.services(), {});
+  for (const auto& row : MoreControlTable()) {
+    const auto* label = dynamic_cast<const forms::Label*>(&row.control(form));
+    if (label && label->wraps) continue;  // a help of its own
+    EXPECT_NE(page.find(Shown(row.caption)), std::string::npos) << row.caption;
+  }
+  EXPECT_NE(page.find("<b>" + Shown(kOwnTemplate) + "</b>"), std::string::npos);
 }
 
 TEST(HelpPage, NamesEveryKeyOfTheSettingsFile) {

@@ -4,6 +4,10 @@ namespace e2e {
 
 namespace {
 
+constexpr wchar_t kShellFolders[] =
+    L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders";
+constexpr wchar_t kPictures[] = L"My Pictures";
+
 struct Wanted {
   const wchar_t* className;
   const wchar_t* text;
@@ -62,6 +66,35 @@ void ClickOn(HWND window) {
   GetWindowRect(window, &place);
   MoveMouseTo((place.left + place.right) / 2, (place.top + place.bottom) / 2);
   ClickMouse();
+}
+
+void TypeText(const std::wstring& text) {
+  for (const wchar_t letter : text) {
+    INPUT input[2]{};
+    input[0].type = INPUT_KEYBOARD;
+    input[0].ki.wScan = letter;
+    input[0].ki.dwFlags = KEYEVENTF_UNICODE;
+    input[1] = input[0];
+    input[1].ki.dwFlags |= KEYEVENTF_KEYUP;
+    SendInput(2, input, sizeof(INPUT));
+  }
+}
+
+PicturesFolder::PicturesFolder(const std::wstring& path) {
+  DWORD size = sizeof(before_);
+  known_ = RegGetValueW(HKEY_CURRENT_USER, kShellFolders, kPictures, RRF_RT_ANY | RRF_NOEXPAND, &type_,
+                        before_, &size) == ERROR_SUCCESS;
+  size_ = size;
+  RegSetKeyValueW(HKEY_CURRENT_USER, kShellFolders, kPictures, REG_EXPAND_SZ, path.c_str(),
+                  static_cast<DWORD>((path.size() + 1) * sizeof(wchar_t)));
+}
+
+PicturesFolder::~PicturesFolder() {
+  if (known_) {
+    RegSetKeyValueW(HKEY_CURRENT_USER, kShellFolders, kPictures, type_, before_, size_);
+  } else {
+    RegDeleteKeyValueW(HKEY_CURRENT_USER, kShellFolders, kPictures);
+  }
 }
 
 }  // namespace e2e

@@ -22,4 +22,22 @@ HWND WaitForChild(HWND parent, const wchar_t* className, const wchar_t* text);
 // Clicks the middle of a window.
 void ClickOn(HWND window);
 
+// Types text as a keyboard would, whatever its letters.
+void TypeText(const std::wstring& text);
+
+// Where the user keeps pictures, as the system knows it, for a scope.
+class PicturesFolder {
+ public:
+  explicit PicturesFolder(const std::wstring& path);
+  ~PicturesFolder();
+  PicturesFolder(const PicturesFolder&) = delete;
+  PicturesFolder& operator=(const PicturesFolder&) = delete;
+
+ private:
+  bool known_ = false;
+  DWORD type_ = 0;
+  DWORD size_ = 0;
+  wchar_t before_[MAX_PATH] = {};
+};
+
 }  // namespace e2e

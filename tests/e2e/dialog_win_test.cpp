@@ -13,51 +13,6 @@ using e2e::ChildOf;
 using e2e::ClickOn;
 using e2e::DialogOf;
 
-// Types text as a keyboard would, whatever its letters.
-void Type(const std::wstring& text) {
-  for (const wchar_t letter : text) {
-    INPUT input[2]{};
-    input[0].type = INPUT_KEYBOARD;
-    input[0].ki.wScan = letter;
-    input[0].ki.dwFlags = KEYEVENTF_UNICODE;
-    input[1] = input[0];
-    input[1].ki.dwFlags |= KEYEVENTF_KEYUP;
-    SendInput(2, input, sizeof(INPUT));
-  }
-}
-
-// Where the user keeps pictures, as the system knows it, for a scope.
-class PicturesFolder {
- public:
-  explicit PicturesFolder(const std::wstring& path) {
-    DWORD size = sizeof(before_);
-    known_ = RegGetValueW(HKEY_CURRENT_USER, kKey, kName, RRF_RT_ANY | RRF_NOEXPAND, &type_, before_,
-                          &size) == ERROR_SUCCESS;
-    size_ = size;
-    RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kName, REG_EXPAND_SZ, path.c_str(),
-                    static_cast<DWORD>((path.size() + 1) * sizeof(wchar_t)));
-  }
-  ~PicturesFolder() {
-    if (known_) {
-      RegSetKeyValueW(HKEY_CURRENT_USER, kKey, kName, type_, before_, size_);
-    } else {
-      RegDeleteKeyValueW(HKEY_CURRENT_USER, kKey, kName);
-    }
-  }
-  PicturesFolder(const PicturesFolder&) = delete;
-  PicturesFolder& operator=(const PicturesFolder&) = delete;
-
- private:
-  static constexpr wchar_t kKey[] =
-      L"Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell Folders";
-  static constexpr wchar_t kName[] = L"My Pictures";
-
-  bool known_ = false;
-  DWORD type_ = 0;
-  DWORD size_ = 0;
-  wchar_t before_[MAX_PATH] = {};
-};
-
 // Goes to the next tab with the keyboard.
 void NextTab() {
   INPUT input[4]{};
@@ -161,7 +116,7 @@ TEST_F(DialogTest, PicturesAddedMovedAndOptionsChangedOnEveryTabAreInTheFile) {
   e2e::ProgramFolder album(L"album");
   const std::string first = album.writeBitmap("a.bmp", {30, 20}, base::Rgb(1, 2, 3));
   const std::string second = album.writeBitmap("b.bmp", {30, 20}, base::Rgb(1, 2, 3));
-  const PicturesFolder pictures(album.path());
+  const e2e::PicturesFolder pictures(album.path());
   e2e::RunningProgram program(folder.program(), L"/C");
   const HWND dialog = DialogOf(program);
   ASSERT_NE(dialog, nullptr);
@@ -182,7 +137,7 @@ TEST_F(DialogTest, PicturesAddedMovedAndOptionsChangedOnEveryTabAreInTheFile) {
 
   ASSERT_TRUE(FindAndClick(dialog, L"Button", L"&Add..."));
   ASSERT_NE(WindowTitled(L"Select a file to open"), nullptr);
-  Type(os::ToWide(single));
+  e2e::TypeText(os::ToWide(single));
   e2e::PressKey(VK_RETURN);
   ASSERT_TRUE(e2e::WaitFor([&] { return ChildOf(dialog, L"Edit", L"Total: 5") != nullptr; }));
 

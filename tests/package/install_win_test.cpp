@@ -90,6 +90,40 @@ TEST_F(Install, FindsTheSettingsOfALumoraThatWasThereBefore) {
   EXPECT_EQ(package::ReadWholeFile(settingsFile()), "[image]\r\npicSpeed=4\r\n");
 }
 
+// The lines of a settings file that stand for the look of today.
+const std::vector<std::string> kLinesOfToday = {"fit=whole", "surround=blur", "change=crossfade", "panZoom=8",
+                                                "shade=1"};
+
+TEST_F(Install, BeginsWithTheLookOfTodayUnlessItIsToldOtherwise) {
+  ASSERT_TRUE(install(packages.setup));
+  std::string today = package::ReadWholeFile(settingsFile());
+  ASSERT_TRUE(uninstall(L"/SETTINGS=remove"));
+  ASSERT_TRUE(install(packages.setup, L"/LOOK=today"));
+  EXPECT_EQ(package::ReadWholeFile(settingsFile()), today);
+  ASSERT_TRUE(uninstall(L"/SETTINGS=remove"));
+  ASSERT_TRUE(install(packages.setup, L"/LOOK=classic"));
+  const std::string classic = package::ReadWholeFile(settingsFile());
+  EXPECT_EQ(classic, package::ReadWholeFile(packages.unpacked + L"\\zbfaone.ini"));
+  // In these lines alone the two differ.
+  for (const std::string& line : kLinesOfToday) {
+    const std::size_t at = today.find("\r\n" + line + "\r\n");
+    ASSERT_NE(at, std::string::npos) << line;
+    const std::size_t value = today.find('=', at) + 1;
+    today.erase(value, today.find('\r', value) - value);
+  }
+  EXPECT_EQ(today, classic);
+}
+
+TEST_F(Install, LeavesTheLookOfSettingsThatAreThere) {
+  ASSERT_TRUE(install(packages.setup, L"/LOOK=classic"));
+  const std::string before = package::ReadWholeFile(settingsFile());
+  ASSERT_TRUE(install(packages.laterSetup, L"/LOOK=today"));
+  EXPECT_EQ(package::ReadWholeFile(settingsFile()), before);
+  ASSERT_TRUE(uninstall());
+  ASSERT_TRUE(install(packages.setup, L"/LOOK=today"));
+  EXPECT_EQ(package::ReadWholeFile(settingsFile()), before);
+}
+
 TEST_F(Install, PutsAnEntryIntoTheListOfApps) {
   ASSERT_TRUE(install(packages.setup));
   EXPECT_EQ(ReadText(kAppKey, L"DisplayName"), L"Lumora Screen Saver");

@@ -5,6 +5,7 @@
 
 #include "base/number_text.h"
 #include "base/text.h"
+#include "dialog/look_table.h"
 #include "settings/ini_document.h"
 #include "settings/load_settings.h"
 #include "settings/settings_file.h"
@@ -69,8 +70,30 @@ TEST(InstalledFile, HoldsValuesThatTheirUsersCanConvert) {
   EXPECT_EQ(record.backEffect, "3");
   EXPECT_EQ(record.picturePercent, "90");
   EXPECT_EQ(record.transitionTime, "700");
-  EXPECT_EQ(record.otherScreens, "black");
   EXPECT_EQ(record.livePreview, "1");
+  EXPECT_EQ(record.otherScreens, "same");
+  EXPECT_EQ(record.loadAhead, "1");
+  EXPECT_EQ(record.shuffle, "1");
+  EXPECT_EQ(record.moreFormats, "1");
+}
+
+TEST(InstalledFile, HasTheClassicLook) {
+  const settings::SettingsRecord record = LoadInstalled().record;
+  for (const dialog::LookRow& row : dialog::kLooks) {
+    EXPECT_EQ(record.*row.field, row.classic) << settings::KeyOf(row.field).name;
+  }
+}
+
+// The installer writes these lines into the file when the user wants the other look.
+TEST(InstalledFile, BecomesTheLookOfTodayByTheLinesOfTheInstaller) {
+  std::ifstream lines(LUMORA_SOURCE_DIR "/packaging/look_today.txt");
+  for (const dialog::LookRow& row : dialog::kLooks) {
+    std::string line;
+    ASSERT_TRUE(std::getline(lines, line));
+    EXPECT_EQ(line, std::string(settings::KeyOf(row.field).name) + "=" + row.today);
+  }
+  std::string more;
+  EXPECT_FALSE(std::getline(lines, more)) << more;
 }
 
 }  // namespace

@@ -184,4 +184,52 @@ TEST(WriteExtras, WritesWhatChangedAloneAndTakesAnAbsenceOut) {
             "[extras]\r\n; mine\r\ntransitionTime = 900\r\nother=x\r\nlivePreview=1\r\n");
 }
 
+TEST(WriteExtras, ATextThatWouldBeCutInTheCodePageMakesTheFileUtf16) {
+  static const TwoBytes kTwoBytes;
+  SettingsRecord record;
+  for (int i = 0; i < 200; ++i) record.captions += kLetter;
+  IniDocument document("", kTwoBytes);
+  WriteExtras(document, record, {});
+  const IniDocument again(document.serialise(), kTwoBytes);
+  EXPECT_EQ(settings::ReadIniValue(again, "extras", "captions"), record.captions);
+}
+
+using Folders = std::vector<std::string>;
+
+TEST(WriteFolders, WritesNothingOverTheOnesThatWereLoaded) {
+  const std::string text = "[folders]\r\n0 = C:\\a\r\n1=" + std::string(300, 'x') + "\r\n";
+  IniDocument document(text, kWestern);
+  const Folders loaded = settings::FollowedFolders(document);
+  settings::WriteFolders(document, loaded, loaded);
+  EXPECT_EQ(document.serialise(), text);
+  // Another program has changed them meanwhile: nobody chose anything here.
+  IniDocument changed("[folders]\r\n0=D:\\new\r\n", kWestern);
+  settings::WriteFolders(changed, loaded, loaded);
+  EXPECT_EQ(changed.serialise(), "[folders]\r\n0=D:\\new\r\n");
+}
+
+TEST(WriteFolders, ReadsBackWhateverStoodThere) {
+  const std::vector<std::string> before = {
+      "",
+      "[folders]\r\n0=a\r\n",
+      "[folders]\r\n0=a\r\n1=b\r\n2=c\r\n",
+      "[folders]\r\n0=a\r\n2=c\r\n",
+      "[folders]\r\n1=b\r\n2=c\r\n",
+      "[folders]\r\n0=\r\n1=b\r\n",
+      "[folders]\r\n1=b\r\n0=a\r\n; note\r\nmine=1\r\n",
+  };
+  for (const std::string& text : before) {
+    for (const Folders& folders :
+         {Folders{}, Folders{"x"}, Folders{"a"}, Folders{"a", "y"}, Folders{"x", "y", "z"}}) {
+      IniDocument document(text, kWestern);
+      const Folders loaded = settings::FollowedFolders(document);
+      settings::WriteFolders(document, folders, loaded);
+      const std::string bytes = document.serialise();
+      EXPECT_EQ(settings::FollowedFolders(IniDocument(bytes, kWestern)), folders) << bytes;
+      EXPECT_EQ(bytes.find("mine=1") != std::string::npos, text.find("mine=1") != std::string::npos);
+      EXPECT_EQ(bytes.find("; note") != std::string::npos, text.find("; note") != std::string::npos);
+    }
+  }
+}
+
 }  // namespace

@@ -25,6 +25,7 @@ class FakeDialogs : public forms::Dialogs {
   std::deque<forms::Answer> answers;
   std::deque<std::optional<std::string>> files;
   std::deque<std::vector<std::string>> several;
+  std::deque<std::optional<std::string>> folders;
   std::deque<std::optional<base::PackedColor>> colors;
   std::deque<std::optional<forms::ChosenFont>> fonts;
 
@@ -33,6 +34,7 @@ class FakeDialogs : public forms::Dialogs {
   std::vector<Message> messages;
   std::vector<forms::OpenFileRequest> fileRequests;
   std::vector<forms::OpenFileRequest> severalRequests;
+  std::vector<forms::FolderRequest> folderRequests;
   std::vector<forms::ColorRequest> colorRequests;
   std::vector<forms::FontRequest> fontRequests;
 
@@ -48,6 +50,10 @@ class FakeDialogs : public forms::Dialogs {
   std::vector<std::string> openFiles(const forms::OpenFileRequest& request) override {
     severalRequests.push_back(request);
     return next(several, std::vector<std::string>());
+  }
+  std::optional<std::string> chooseFolder(const forms::FolderRequest& request) override {
+    folderRequests.push_back(request);
+    return next(folders, std::optional<std::string>());
   }
   std::optional<base::PackedColor> chooseColor(const forms::ColorRequest& request) override {
     colorRequests.push_back(request);

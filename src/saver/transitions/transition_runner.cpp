@@ -1,12 +1,10 @@
 #include "saver/transitions/transition_runner.h"
 
 #include <algorithm>
-#include <charconv>
 #include <utility>
 #include <vector>
 
 #include "base/region.h"
-#include "base/text.h"
 
 namespace saver {
 
@@ -14,8 +12,6 @@ namespace {
 
 constexpr std::int64_t kEventCheckMs = 15;  // in a tight run
 constexpr int kFramesPerSecond = 60;
-constexpr int kShortestTimeMs = 100;
-constexpr int kLongestTimeMs = 5000;
 
 // The pixels that a box and a picture have in common.
 base::PixelRect Common(const forms::PictureBox& box, const base::Bitmap& source) {
@@ -106,15 +102,6 @@ class TransitionRunner::Canvas {
 std::int64_t NextFrameMs(std::int64_t elapsedMs) {
   const std::int64_t frame = elapsedMs * kFramesPerSecond / 1000 + 1;
   return (frame * 1000 + kFramesPerSecond - 1) / kFramesPerSecond;
-}
-
-std::optional<int> ParseTransitionTime(std::string_view text) {
-  const std::string_view digits = base::TrimBlanks(text);
-  const char* const end = digits.data() + digits.size();
-  int ms = 0;
-  const auto [rest, error] = std::from_chars(digits.data(), end, ms);
-  if (error != std::errc{} || rest != end || ms < kShortestTimeMs || ms > kLongestTimeMs) return std::nullopt;
-  return ms;
 }
 
 TransitionRunner::TransitionRunner(const os::Clock& clock, os::EventLoop& loop, std::function<bool()> isOver)

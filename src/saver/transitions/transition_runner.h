@@ -12,12 +12,11 @@
 #include "os/clock.h"
 #include "os/event_loop.h"
 #include "saver/transitions/plans.h"
+#include "settings/extra_values.h"
 
 namespace saver {
 
-// The text of the setting `transitionTime` in milliseconds for one whole effect: a whole number from 100 to
-// 5000. Nothing for any other text: the effects then run as fast as the machine draws.
-std::optional<int> ParseTransitionTime(std::string_view text);
+using settings::ParseTransitionTime;
 
 // The first moment of the grid of sixty frames a second that lies after `elapsedMs`, counted from its start.
 std::int64_t NextFrameMs(std::int64_t elapsedMs);

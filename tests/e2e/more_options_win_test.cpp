@@ -1,0 +1,258 @@
+// More options from the first press of a button to the file, by the mouse alone and by the keyboard alone.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "e2e/dialog_hands.h"
+#include "e2e/program_folder.h"
+#include "e2e/running_program.h"
+#include "os/utf16_win.h"
+#include "settings/ini_document.h"
+#include "settings/load_settings.h"
+#include "support/windows_1252.h"
+
+namespace {
+
+using e2e::ChildOf;
+using e2e::ClickOn;
+
+// A key with another one held down.
+void PressWith(WORD held, WORD key) {
+  INPUT input[4]{};
+  const WORD keys[] = {held, key, key, held};
+  for (int i = 0; i < 4; ++i) {
+    input[i].type = INPUT_KEYBOARD;
+    input[i].ki.wVk = keys[i];
+    if (i >= 2) input[i].ki.dwFlags = KEYEVENTF_KEYUP;
+  }
+  SendInput(4, input, sizeof(INPUT));
+}
+
+HWND WaitForWindow(const wchar_t* title) {
+  HWND window = nullptr;
+  e2e::WaitFor([&] {
+    window = FindWindowW(nullptr, title);
+    return window != nullptr && IsWindowVisible(window);
+  });
+  return window;
+}
+
+bool WaitForNoWindow(const wchar_t* title, int limitMs = 15000) {
+  return e2e::WaitFor(
+      [&] {
+        const HWND window = FindWindowW(nullptr, title);
+        return window == nullptr || !IsWindowVisible(window);
+      },
+      limitMs);
+}
+
+// The first visible window of a class inside another one; null when there is none.
+HWND VisibleChild(HWND parent, const wchar_t* className) {
+  struct Search {
+    const wchar_t* className;
+    HWND found;
+  } search{className, nullptr};
+  EnumChildWindows(
+      parent,
+      [](HWND window, LPARAM data) -> BOOL {
+        auto& wanted = *reinterpret_cast<Search*>(data);
+        wchar_t name[64] = {};
+        GetClassNameW(window, name, 64);
+        if (!IsWindowVisible(window) || std::wstring(name) != wanted.className) return TRUE;
+        wanted.found = window;
+        return FALSE;
+      },
+      reinterpret_cast<LPARAM>(&search));
+  return search.found;
+}
+
+// What has the keyboard in the program of a window.
+HWND FocusIn(HWND window) {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof(info);
+  const DWORD thread = GetWindowThreadProcessId(window, nullptr);
+  return GetGUIThreadInfo(thread, &info) != FALSE ? info.hwndFocus : nullptr;
+}
+
+bool WaitForFocus(HWND window) {
+  return e2e::WaitFor([&] { return FocusIn(window) == window; });
+}
+
+// The window takes keys: what was open over it has gone.
+bool WaitForKeyboard(HWND window) {
+  return e2e::WaitFor([&] {
+    const HWND focus = FocusIn(window);
+    return IsWindowEnabled(window) != FALSE && GetForegroundWindow() == window && focus != nullptr &&
+           (focus == window || IsChild(window, focus));
+  });
+}
+
+bool WaitForEditInside(HWND window) {
+  return e2e::WaitFor([&] {
+    wchar_t name[16] = {};
+    const HWND focus = FocusIn(window);
+    return focus != nullptr && IsChild(window, focus) && GetClassNameW(focus, name, 16) > 0 &&
+           std::wstring(name) == L"Edit";
+  });
+}
+
+bool IsChecked(HWND option) { return SendMessageW(option, BM_GETCHECK, 0, 0) == BST_CHECKED; }
+
+constexpr wchar_t kMore[] = L"More Options";
+constexpr wchar_t kChooser[] = L"Select a folder to follow";
+
+// The classic file with the sample pictures, and a folder of photos beside it.
+class MoreOptionsTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    for (const wchar_t* name : {L"zbfaone.ini", L"image1.gif", L"image2.gif"}) {
+      ASSERT_TRUE(CopyFileW((e2e::builtFolder + L"\\" + name).c_str(), (folder.path() + L"\\" + name).c_str(),
+                            FALSE));
+    }
+    ASSERT_TRUE(CreateDirectoryW(album().c_str(), nullptr));
+    pictureFolder.writeBitmap("album\\a.bmp", {30, 20}, base::Rgb(1, 2, 3));
+    pictureFolder.writeBitmap("album\\b.bmp", {30, 20}, base::Rgb(1, 2, 3));
+  }
+
+  std::wstring album() const { return pictureFolder.path() + L"\\album"; }
+
+  void expectTheFileToHaveIt() {
+    const support::Windows1252 ansi;
+    const settings::IniDocument file(folder.readSettingsFile(), ansi);
+    EXPECT_EQ(file.value("extras", "change"), "crossfade");
+    EXPECT_EQ(file.value("extras", "captions"), "{name}");
+    ASSERT_EQ(settings::FollowedFolders(file).size(), 1U);
+    EXPECT_EQ(settings::FollowedFolders(file)[0], os::FromWide(album()));
+    EXPECT_EQ(file.value("images", "1"), os::FromWide(folder.path()) + "\\image2.gif") << "the list stays";
+  }
+
+  // The show that comes of it runs, and a key ends it.
+  void expectTheShowToRun() {
+    e2e::RunningProgram show(folder.program(), L"/S");
+    ASSERT_NE(show.waitForShow(), nullptr);
+    EXPECT_TRUE(show.endsByKey());
+    EXPECT_EQ(show.exitCode(), 0U);
+  }
+
+  e2e::ProgramFolder folder{L"more"};
+  e2e::ProgramFolder pictureFolder{L"pictures"};
+};
+
+TEST_F(MoreOptionsTest, AreChosenSavedAndShownByTheKeyboardAlone) {
+  e2e::RunningProgram program(folder.program(), L"/C");
+  const HWND dialog = e2e::DialogOf(program);
+  ASSERT_NE(dialog, nullptr);
+  const HWND moreButton = e2e::WaitForChild(dialog, L"Button", L"&More...");
+  ASSERT_NE(moreButton, nullptr);
+  HWND more = nullptr;
+  // A key that comes before the dialog has the keyboard is somebody else's.
+  ASSERT_TRUE(e2e::WaitFor([&] {
+    PressWith(VK_MENU, 'M');
+    return e2e::WaitFor([&] { return (more = FindWindowW(nullptr, kMore)) != nullptr; }, 500);
+  }));
+
+  PressWith(VK_CONTROL, VK_TAB);
+  PressWith(VK_CONTROL, VK_TAB);
+  const HWND fade = e2e::WaitForChild(more, L"Button", L"Crossf&ade");
+  ASSERT_NE(fade, nullptr);
+  PressWith(VK_MENU, 'A');
+  EXPECT_TRUE(e2e::WaitFor([&] { return IsChecked(fade); }));
+
+  PressWith(VK_CONTROL, VK_TAB);
+  const HWND combo = e2e::WaitForChild(more, L"ComboBox", L"No captions by themselves");
+  ASSERT_NE(combo, nullptr);
+  PressWith(VK_MENU, 'T');
+  ASSERT_TRUE(WaitForFocus(combo)) << "a label's letter leads to what it names";
+  e2e::PressKey(VK_DOWN);
+  EXPECT_NE(e2e::WaitForChild(more, L"Edit", L"{name}"), nullptr);
+
+  PressWith(VK_CONTROL, VK_TAB);
+  ASSERT_NE(e2e::WaitForChild(more, L"Button", L"&Add..."), nullptr);
+  PressWith(VK_MENU, 'A');
+  const HWND chooser = WaitForWindow(kChooser);
+  ASSERT_NE(chooser, nullptr);
+  ASSERT_TRUE(WaitForEditInside(chooser));
+  e2e::TypeText(album());
+  e2e::PressKey(VK_RETURN);
+  ASSERT_TRUE(WaitForNoWindow(kChooser));
+  ASSERT_TRUE(WaitForKeyboard(more));
+  PressWith(VK_MENU, 'O');
+  ASSERT_TRUE(WaitForNoWindow(kMore));
+  ASSERT_TRUE(WaitForKeyboard(dialog));
+  PressWith(VK_MENU, 'O');
+  ASSERT_TRUE(program.waitForEnd());
+  expectTheFileToHaveIt();
+  expectTheShowToRun();
+}
+
+// Clicks along the tabs until a control of the wanted page is there.
+HWND FindByTabs(HWND form, const wchar_t* className, const wchar_t* text) {
+  const HWND tabs = FindWindowExW(form, nullptr, L"SysTabControl32", nullptr);
+  RECT place{};
+  GetWindowRect(tabs, &place);
+  for (int x = place.left + 15; x < place.right; x += 30) {
+    e2e::MoveMouseTo(x, place.top + 10);
+    e2e::ClickMouse();
+    HWND found = nullptr;
+    if (e2e::WaitFor([&] { return (found = ChildOf(form, className, text)) != nullptr; }, 300)) return found;
+  }
+  return nullptr;
+}
+
+TEST_F(MoreOptionsTest, AreChosenSavedAndShownByTheMouseAlone) {
+  // The folder of photos lies alone where the user keeps pictures.
+  const e2e::PicturesFolder pictures(pictureFolder.path());
+  e2e::RunningProgram program(folder.program(), L"/C");
+  const HWND dialog = e2e::DialogOf(program);
+  ASSERT_NE(dialog, nullptr);
+  const HWND moreButton = e2e::WaitForChild(dialog, L"Button", L"&More...");
+  ASSERT_NE(moreButton, nullptr);
+  ClickOn(moreButton);
+  const HWND more = WaitForWindow(kMore);
+  ASSERT_NE(more, nullptr);
+
+  const HWND fade = FindByTabs(more, L"Button", L"Crossf&ade");
+  ASSERT_NE(fade, nullptr);
+  ClickOn(fade);
+  EXPECT_TRUE(e2e::WaitFor([&] { return IsChecked(fade); }));
+
+  const HWND combo = FindByTabs(more, L"ComboBox", L"No captions by themselves");
+  ASSERT_NE(combo, nullptr);
+  ClickOn(combo);
+  ASSERT_TRUE(e2e::WaitFor([&] { return SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0) != 0; }));
+  RECT field{};
+  GetWindowRect(combo, &field);
+  const auto line = static_cast<int>(SendMessageW(combo, CB_GETITEMHEIGHT, 0, 0));
+  e2e::MoveMouseTo(field.left + 20, field.bottom + line * 3 / 2);
+  e2e::ClickMouse();
+  EXPECT_NE(e2e::WaitForChild(more, L"Edit", L"{name}"), nullptr);
+
+  const HWND add = FindByTabs(more, L"Button", L"&Add...");
+  ASSERT_NE(add, nullptr);
+  ClickOn(add);
+  const HWND chooser = WaitForWindow(kChooser);
+  ASSERT_NE(chooser, nullptr);
+  HWND list = nullptr;
+  ASSERT_TRUE(e2e::WaitFor([&] { return (list = VisibleChild(chooser, L"SysListView32")) != nullptr; }));
+  RECT first{};
+  GetWindowRect(list, &first);
+  const HWND take = GetDlgItem(chooser, IDOK);
+  ASSERT_TRUE(e2e::WaitFor([&] {
+    e2e::MoveMouseTo(first.left + 30, first.top + 8);
+    e2e::ClickMouse();
+    ClickOn(take);
+    return WaitForNoWindow(kChooser, 1000);
+  }));
+  ASSERT_TRUE(WaitForKeyboard(more));
+  const HWND ok = ChildOf(more, L"Button", L"&OK");
+  ASSERT_NE(ok, nullptr);
+  ClickOn(ok);
+  ASSERT_TRUE(WaitForNoWindow(kMore));
+  ASSERT_TRUE(WaitForKeyboard(dialog));
+  ClickOn(ChildOf(dialog, L"Button", L"&OK"));
+  ASSERT_TRUE(program.waitForEnd());
+  expectTheFileToHaveIt();
+  expectTheShowToRun();
+}
+
+}  // namespace
