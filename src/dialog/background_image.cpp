@@ -19,6 +19,7 @@ void BackgroundImage::addBackImg_Click() {
   if (!path) return;
   form_.record.backgroundImage = *path;
   form_.backgroundImageFile.setText(*path);
+  form_.showNotes();
   if (form_.ahead()) {
     form_.wishBackgroundPreview(*path);
     return;
@@ -35,6 +36,7 @@ void BackgroundImage::removeBackImg_Click() {
   }
   form_.backgroundImageFile.setText({});
   form_.record.backgroundImage.clear();
+  form_.showNotes();
   form_.dropBackgroundPreview();
   form_.Image1.setPicture(nullptr);
 }

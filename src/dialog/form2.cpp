@@ -61,6 +61,7 @@ void Form2::layOut() {
     label->align = forms::TextAlign::Right;
   }
   percentLabel.align = forms::TextAlign::Center;
+  List1.multiSelect = true;
   Text2.digitsOnly = true;
   Text2.maxLength = 4;
   up.glyph = forms::ButtonGlyph::Up;

@@ -238,10 +238,15 @@ class Form2 : public forms::Form {
   // The background picture as small as its preview; null when it cannot be loaded.
   base::SharedBitmap drawBackgroundPreview(const std::string& path) const;
 
-  // The second panel of the status bar: why a save cannot succeed, when it cannot; and that the list is
-  // longer than the show can use.
+  // The second panel of the status bar: why a save cannot succeed, when it cannot; what is wrong with the
+  // list's pictures; and that the list is longer than the show can use.
   void setSavingNote(std::string note);
+  void setListNote(std::string note);
   void showNotes();
+
+  // Why the last save was refused, as long as that is still so: asked each time that something changes. Null
+  // when it was not.
+  void setRefusalNote(std::function<std::string()> note);
 
   // The files that are taken for pictures when a folder is added, as patterns between ";".
   const std::string& importedPatterns() const { return importedPatterns_; }
@@ -314,6 +319,8 @@ class Form2 : public forms::Form {
   settings::SettingsRecord loaded_;
   std::vector<std::string> loadedFolders_;
   std::string savingNote_;
+  std::string listNote_;
+  std::function<std::string()> refusalNote_;
   bool loadsAhead_ = false;
   std::string importedPatterns_ = auxwin::kImportedPatterns;
   AwaitedPictures awaited_;

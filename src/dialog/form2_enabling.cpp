@@ -35,6 +35,7 @@ void Form2::showBackground(Background chosen) {
   EnableSolidColorControls(chosen == Background::SolidColor);
   EnableCustomImageControls(chosen == Background::CustomImage);
   EnableGradientControls(chosen == Background::Gradient);
+  showNotes();
 }
 
 void Form2::EnableChangeControls(bool enabled) {

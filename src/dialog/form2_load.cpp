@@ -132,12 +132,28 @@ void Form2::setSavingNote(std::string note) {
   showNotes();
 }
 
+void Form2::setListNote(std::string note) {
+  listNote_ = std::move(note);
+  showNotes();
+}
+
+void Form2::setRefusalNote(std::function<std::string()> note) {
+  refusalNote_ = std::move(note);
+  showNotes();
+}
+
 void Form2::showNotes() {
-  std::string notes = savingNote_;
-  if (List1.listCount() > std::numeric_limits<std::int16_t>::max()) {
-    if (!notes.empty()) notes += ' ';
-    notes += kMoreThanTheShowCanUse;
-  }
+  std::string notes;
+  const auto say = [&notes](const std::string& note) {
+    if (!notes.empty() && !note.empty()) notes += ' ';
+    notes += note;
+  };
+  say(savingNote_);
+  const std::string refusal = refusalNote_ ? refusalNote_() : "";
+  if (refusal.empty()) refusalNote_ = nullptr;
+  say(refusal);
+  say(listNote_);
+  if (List1.listCount() > std::numeric_limits<std::int16_t>::max()) say(kMoreThanTheShowCanUse);
   SS_StatusBar.setPanelText(2, notes);
 }
 

@@ -140,18 +140,21 @@ void Form2::noneOption_Click() {
   EnableCountdownCombos(false);
   ShowCountdownCombosInactive();
   if (noneOption.value()) record.timeDisplay = "0";
+  showNotes();
 }
 
 void Form2::timeOption_Click() {
   EnableCountdownCombos(false);
   ShowCountdownCombosInactive();
   if (timeOption.value()) record.timeDisplay = "1";
+  showNotes();
 }
 
 void Form2::yearOption_Click() {
   EnableCountdownCombos(true);
   ShowCountdownCombosActive();
   if (yearOption.value()) record.timeDisplay = "2";
+  showNotes();
 }
 
 void Form2::Cancel_Click() { services_.windows.unload(*this); }

@@ -13,6 +13,8 @@ inline constexpr char kCouldNotLoadBackground[] =
 // The picture list. Moving without a selection has the text of removing.
 inline constexpr char kNothingSelected[] = "Nothing was selected to remove.";
 inline constexpr char kRemoveAllQuestion[] = "Do you really want to remove all loaded images?";
+inline constexpr char kMissingImage[] = "\r\nThis image cannot be found.";
+inline constexpr char kMissingImages[] = "Images in gray cannot be found.";
 inline constexpr char kImageFirst[] = "An image must be loaded first.";
 
 // The background picture.
@@ -32,6 +34,9 @@ inline constexpr char kNoBackgroundImage[] =
     "You must enter a background image for the 'Custom background Image' feature or make another background "
     "selection.";
 inline constexpr char kInvalidDate[] = "Countdown date is invalid. Please choose a different date.";
+inline constexpr char kNotSavedNoImages[] = "Not saved: there are no images.";
+inline constexpr char kNotSavedNoBackground[] = "Not saved: no background image is chosen.";
+inline constexpr char kNotSavedInvalidDate[] = "Not saved: the countdown date is invalid.";
 inline constexpr char kFolderReadOnly[] = "Settings cannot be saved in this folder.";
 inline constexpr char kFileReadOnly[] = "Settings cannot be saved: zbfaone.ini is read-only.";
 inline constexpr char kMoreThanTheShowCanUse[] = "The show can use 32,767 pictures at most.";

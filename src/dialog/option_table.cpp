@@ -50,7 +50,12 @@ template <settings::Field Field, auto Combo>
 constexpr OptionRow kCombo{
     Field,
     [](Form2& form, Text text) { (form.*Combo).setText(text); },
-    [](Form2& form) { (form.*Combo).onClick = [&form] { form.record.*Field = (form.*Combo).text(); }; },
+    [](Form2& form) {
+      (form.*Combo).onClick = [&form] {
+        form.record.*Field = (form.*Combo).text();
+        form.showNotes();
+      };
+    },
 };
 
 // Option buttons that stand for the numbers from 0; any other number chooses none of them.

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdint>
 #include <memory>
+#include <numeric>
+#include <optional>
 #include <utility>
 
 #include "auxwin/image_view.h"
@@ -59,10 +61,26 @@ void SelectionRest::settle() {
 PictureList::~PictureList() { form_.awaited().drop(kPreview); }
 
 PictureList::PictureList(Form2& form, os::EventLoop& loop)
-    : form_(form), services_(form.services()), paths_(services_), rest_(loop, [this] { selectionRested(); }) {
+    : form_(form),
+      services_(form.services()),
+      paths_(services_),
+      rows_(form.List1, form.photo_caption),
+      presence_(loop, services_.folders, services_.makeWorker),
+      rest_(loop, [this] { selectionRested(); }) {
+  usualToolTip_ = form_.List1.toolTip();
   form_.p_caption.maxLength = static_cast<int>(settings::kLongestValue);
   form_.List1.onClick = [this] { List1_Click(); };
   form_.List1.onFilesDropped = [this](const std::vector<std::string>& paths) { userDropped(paths); };
+  form_.List1.onDelete = [this] { userPressedDelete(); };
+  form_.List1.onRename = [this] { userWantsToRename(); };
+  form_.List1.onUndo = [this] { userTakesBack(); };
+  form_.List1.onEntriesDragged = [this](int gap) { userDragged(gap); };
+  form_.List1.onEntryPointed = [this](int index) { userPointedAt(index); };
+  form_.List1.isFaint = [this](const std::string& path) { return presence_.isMissing(path); };
+  presence_.onNews = [this] {
+    form_.List1.refresh();
+    tellMissing();
+  };
   form_.add.onClick = [this] { add_Click(); };
   form_.remove.onClick = [this] { remove_Click(); };
   form_.RemoveAll.onClick = [this] { RemoveAll_Click(); };
@@ -85,6 +103,7 @@ auxwin::PictureTarget PictureList::target() {
 void PictureList::List1_Click() {
   const int index = form_.List1.listIndex();
   if (index < 0) return;
+  rows_.endTyping();
   form_.ImagePosition.setText("Position: " + base::NumberText(std::int32_t{index + 1}));
   const bool failed = rest_.moved() && !ShowPreview(form_.List1.text());
   form_.p_caption.setText(form_.photo_caption.item(index));
@@ -159,28 +178,39 @@ void PictureList::clearPreview() {
 
 void PictureList::showTotal() {
   form_.Text3.setText("Total: " + base::NumberText(std::int32_t{form_.List1.listCount()}));
-  form_.showNotes();
+  tellMissing();
+}
+
+// In the list's words, where the grey entries are explained. Only those that came into sight are known.
+void PictureList::tellMissing() {
+  const std::vector<std::string>& listed = form_.List1.items();
+  const bool any = !presence_.missing().empty() && std::ranges::any_of(listed, [this](const auto& path) {
+    return presence_.missing().contains(path);
+  });
+  form_.setListNote(any ? kMissingImages : "");
 }
 
 // What the program selects is shown at once, however fast the user goes on.
-void PictureList::select(int index) {
+void PictureList::select(int index) { choose({{index}, index}); }
+
+// The entry may have come to another place, so it is shown even if it was selected before.
+void PictureList::choose(const RowMarks& marks) {
   rest_.settle();
-  form_.List1.setListIndex(index);
+  const bool raises = form_.List1.listIndex() != marks.focus;
+  form_.List1.choose(marks.chosen, marks.focus);
+  if (!raises) List1_Click();
+  if (marks.focus < 0) showNothingSelected();
   rest_.settle();
 }
 
+void PictureList::showNothingSelected() {
+  clearPreview();
+  form_.p_caption.setText({});
+  form_.ImagePosition.setText({});
+}
+
 void PictureList::append(std::vector<std::string> paths) {
-  const int before = form_.List1.listCount();
-  form_.photo_caption.addItems(std::vector<std::string>(paths.size()));
-  try {
-    form_.List1.addItems(std::move(paths));
-  } catch (...) {
-    // Both lists grow or neither does.
-    std::vector<std::string> captions = form_.photo_caption.items();
-    captions.resize(static_cast<std::size_t>(before));
-    form_.photo_caption.setItems(std::move(captions));
-    throw;
-  }
+  rows_.add(std::move(paths));
   select(form_.List1.listCount() - 1);
   showTotal();
   advice_.consider(form_.List1.listCount(), services_.dialogs);
@@ -239,17 +269,20 @@ bool PictureList::refused(bool nothingSelected) {
 }
 
 void PictureList::remove_Click() {
-  if (refused(form_.List1.text().empty())) return;
-  const int index = form_.List1.listIndex();
+  const std::vector<int> rows = form_.List1.chosen();
+  // A single entry without a path counts as none.
+  if (refused(rows.empty() || (rows.size() == 1 && form_.List1.item(rows.front()).empty()))) return;
+  removeRows(rows);
+}
+
+void PictureList::removeRows(const std::vector<int>& rows) {
   rest_.settle();
-  form_.List1.removeItem(index);
-  form_.photo_caption.removeItem(index);
+  rows_.remove(rows);
   clearPreview();
-  if (form_.List1.listCount() == 0) {
-    form_.p_caption.setText({});
-    form_.ImagePosition.setText({});
+  if (rows_.count() == 0) {
+    showNothingSelected();
   } else {
-    select(std::max(0, index - 1));
+    select(std::max(0, rows.front() - 1));
   }
   showTotal();
 }
@@ -259,31 +292,64 @@ void PictureList::RemoveAll_Click() {
       services_.dialogs.messageBox(kRemoveAllQuestion, forms::kYesNo | forms::kQuestion);
   if (answer != forms::Answer::Yes) return;
   rest_.settle();
-  form_.List1.clear();
-  clearPreview();
-  form_.photo_caption.clear();
-  form_.p_caption.setText({});
-  form_.ImagePosition.setText({});
+  std::vector<int> all(static_cast<std::size_t>(rows_.count()));
+  std::iota(all.begin(), all.end(), 0);
+  rows_.remove(all);
+  showNothingSelected();
   showTotal();
 }
 
-void PictureList::up_Click() { swapWithNeighbour(-1); }
+void PictureList::up_Click() { stepRows(-1); }
 
-void PictureList::down_Click() { swapWithNeighbour(+1); }
+void PictureList::down_Click() { stepRows(+1); }
 
-void PictureList::swapWithNeighbour(int step) {
+void PictureList::stepRows(int step) {
   // The text that speaks of removing stands for moving as well. An entry without a path can be moved.
-  if (refused(form_.List1.listIndex() < 0)) return;
-  const int index = form_.List1.listIndex();
-  const int neighbour = index + step;
-  if (neighbour < 0 || neighbour >= form_.List1.listCount()) return;
-  std::string path = form_.List1.item(index);
-  std::string caption = form_.photo_caption.item(index);
-  form_.List1.removeItem(index);
-  form_.photo_caption.removeItem(index);
-  form_.List1.addItem(std::move(path), neighbour);
-  form_.photo_caption.addItem(std::move(caption), neighbour);
-  select(neighbour);
+  const std::vector<int> rows = form_.List1.chosen();
+  if (!refused(rows.empty())) moveRows(rows, SteppedRows(rows, rows_.count(), step));
+}
+
+// The keyboard stays on its entry, which may be one of those that make room.
+void PictureList::moveRows(const std::vector<int>& rows, const std::vector<int>& to) {
+  const int focus = form_.List1.listIndex();
+  if (!rows_.move(rows, to)) return;
+  const auto at = std::ranges::find(rows, focus);
+  const int moved =
+      at == rows.end() ? form_.List1.listIndex() : to[static_cast<std::size_t>(at - rows.begin())];
+  choose({to, moved});
+}
+
+void PictureList::userPressedDelete() {
+  const std::vector<int> rows = form_.List1.chosen();
+  if (!rows.empty()) remove_Click();
+}
+
+void PictureList::userWantsToRename() {
+  if (form_.List1.listIndex() >= 0) form_.p_caption.setFocus();
+}
+
+void PictureList::userTakesBack() {
+  rest_.settle();
+  const std::optional<RowMarks> before = rows_.undo();
+  if (!before) return;
+  choose(*before);
+  showTotal();
+}
+
+void PictureList::userDragged(int gap) {
+  const std::vector<int> rows = form_.List1.chosen();
+  if (!rows.empty()) moveRows(rows, RowsAtGap(rows, gap));
+}
+
+void PictureList::userPointedAt(int index) {
+  const std::string& path = form_.List1.item(index);
+  const char* const missing = presence_.missing().contains(path) ? kMissingImage : "";
+  form_.List1.setToolTip(path.empty() ? usualToolTip_ : path + missing);
+}
+
+void PictureList::listGrew(int before) {
+  rows_.added(before);
+  tellMissing();
 }
 
 // Captions are typed one after the other.
@@ -296,7 +362,7 @@ void PictureList::p_caption_Change() {
   const std::string& text = form_.p_caption.text();
   const int index = form_.List1.listIndex();
   if (index >= 0) {
-    form_.photo_caption.setItem(index, text);
+    rows_.setCaption(index, text);
   } else if (!text.empty() && form_.List1.listCount() == 0) {
     services_.dialogs.messageBox(kImageFirst, forms::kExclamation);
     form_.p_caption.setText({});
@@ -304,9 +370,11 @@ void PictureList::p_caption_Change() {
 }
 
 void PictureList::caption_clear_Click() {
+  rows_.endTyping();
   form_.p_caption.setText({});
   const int index = form_.List1.listIndex();
-  if (index >= 0) form_.photo_caption.setItem(index, {});
+  if (index >= 0) rows_.setCaption(index, {});
+  rows_.endTyping();
 }
 
 }  // namespace dialog

@@ -9,6 +9,8 @@
 #include "base/bitmap.h"
 #include "dialog/form2.h"
 #include "dialog/picture_paths.h"
+#include "dialog/picture_presence.h"
+#include "dialog/picture_rows.h"
 #include "forms/timer.h"
 #include "os/event_loop.h"
 #include "pictures/picture.h"
@@ -45,7 +47,8 @@ class SelectionRest {
 };
 
 // The handlers of the first tab, which it sets on the controls of a form that must outlive it. Entry i of
-// photo_caption is always the caption of entry i of List1.
+// photo_caption is always the caption of entry i of List1. Several entries can be chosen, to be removed or
+// moved together; preview, caption and position are those of the one on which the keyboard stands.
 class PictureList {
  public:
   PictureList(Form2& form, os::EventLoop& loop);
@@ -63,12 +66,22 @@ class PictureList {
   void p_caption_Enter();
   void caption_clear_Click();
 
+  // What a list's own keys and the pointer do: Delete removes what is chosen, F2 goes to the caption, Ctrl+Z
+  // takes back the last change of the list, and what is dragged goes before another entry.
+  void userPressedDelete();
+  void userWantsToRename();
+  void userTakesBack();
+  void userDragged(int gap);
+
+  // The entry under the pointer, or -1: the tool-tip has its whole path.
+  void userPointedAt(int index);
+
   // Files and folders were dropped on the list. Pictures are added as the add button adds one, a folder's as
   // the folder import adds them; other files are left out.
   void userDropped(const std::vector<std::string>& paths);
 
-  // The list was changed by somebody else.
-  void listChanged() { form_.showNotes(); }
+  // Somebody else may have added entries; there were `before`.
+  void listGrew(int before);
 
   // Shows a picture file as a thumbnail in photo1; no path shows nothing. False when there is a path and its
   // picture cannot be loaded; photo1 is then empty. Where pictures are loaded ahead it returns at once with
@@ -82,8 +95,13 @@ class PictureList {
   void append(std::vector<std::string> paths);
   void appendStorable(const std::vector<std::string>& chosen);
   void select(int index);
-  void swapWithNeighbour(int step);
+  void choose(const RowMarks& marks);
+  void showNothingSelected();
+  void stepRows(int step);
+  void moveRows(const std::vector<int>& rows, const std::vector<int>& to);
+  void removeRows(const std::vector<int>& rows);
   bool refused(bool nothingSelected);
+  void tellMissing();
   bool isPicture(const std::string& path) const;
   std::vector<std::string> picturesOf(const std::string& dropped) const;
   bool preview(const std::string& path);
@@ -96,9 +114,12 @@ class PictureList {
   Form2& form_;
   DialogServices services_;
   PicturePaths paths_;
+  PictureRows rows_;
+  PicturePresence presence_;
   SelectionRest rest_;
   auxwin::ManyImagesAdvice advice_;
-  std::string previewed_;  // the path whose thumbnail photo1 shows
+  std::string usualToolTip_;  // of the list where the pointer is on no entry
+  std::string previewed_;     // the path whose thumbnail photo1 shows
 };
 
 }  // namespace dialog

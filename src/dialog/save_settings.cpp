@@ -51,6 +51,14 @@ const char* FaultOf(const Form2& form) {
   return nullptr;
 }
 
+// The same where there is little room; empty when nothing speaks against it any more.
+std::string ShortFaultOf(const Form2& form) {
+  const char* const fault = FaultOf(form);
+  if (fault == kNoImages) return kNotSavedNoImages;
+  if (fault == kNoBackgroundImage) return kNotSavedNoBackground;
+  return fault ? kNotSavedInvalidDate : "";
+}
+
 // What a failed loading did not read has its default.
 settings::SettingsRecord RecordToWrite(const Form2& form) {
   settings::SettingsRecord record = form.record;
@@ -91,6 +99,7 @@ const char* CheckAndWrite(Form2& form) {
 
 bool SaveSettings(Form2& form) {
   if (const char* const fault = CheckAndWrite(form)) {
+    form.setRefusalNote([&form] { return ShortFaultOf(form); });
     form.services().dialogs.messageBox(fault, forms::kExclamation);
     return false;
   }

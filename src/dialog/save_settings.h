@@ -6,7 +6,8 @@
 namespace dialog {
 
 // Checks the dialog's state: pictures, background image, countdown date, in this order. The first fault is
-// reported, and the dialog stays as it was with nothing written. Otherwise writes the settings file in one
+// reported, and the dialog stays as it was with nothing written; the status bar's second panel says what is
+// amiss until it is mended. Otherwise writes the settings file in one
 // step and takes the dialog away, also where the file cannot be written. True when the dialog has gone.
 bool SaveSettings(Form2& form);
 

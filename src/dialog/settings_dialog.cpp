@@ -91,8 +91,9 @@ void SettingsDialog::FolderCommand_Click() {
                        form.importedPatterns());
   folderImport->chkSubfolders.setDesignValue(importsSubfolders_);
   services_.files.enterFolder(workingFolder);
+  const int before = form.List1.listCount();
   services_.windows.showModal(*folderImport);
-  pictures.listChanged();
+  pictures.listGrew(before);
   importsSubfolders_ = folderImport->chkSubfolders.value();
   if (!folderImport->addedFolder().empty()) lastFolder_ = folderImport->addedFolder();
 }

@@ -69,6 +69,10 @@ void Control::setToolTip(std::string text) {
   if (Assign(toolTip_, std::move(text))) changed(Change::ToolTip);
 }
 
+void Control::setFocus() {
+  if (FormHost* host = form_.host()) host->controlWantsFocus(*this);
+}
+
 void Control::changed(Change change) {
   if (FormHost* host = form_.host()) host->controlChanged(*this, change);
 }

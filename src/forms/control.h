@@ -88,6 +88,9 @@ class Control {
   void setBackColor(base::PackedColor color);
   void setForeColor(base::PackedColor color);
 
+  // Takes the keyboard, where a host shows the control.
+  void setFocus();
+
   const std::string& toolTip() const { return toolTip_; }
   void setToolTip(std::string text);
 

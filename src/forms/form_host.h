@@ -57,6 +57,9 @@ class FormHost {
   // A host that shows no lists need not listen.
   virtual void listChanged(ListBox&, const ListEdit&) {}
 
+  // Gives a control the keyboard.
+  virtual void controlWantsFocus(Control&) {}
+
   // Pixels that one line of text takes in a font.
   virtual base::PixelSize measureText(const base::Font& font, const std::string& text) = 0;
 

@@ -15,6 +15,7 @@ void FormWindow::controlChanged(Control& control, Change change) {
     return;
   }
   if (change == Change::Enabled && !control.enabled()) keepFocusOff(control);
+  if (change == Change::ToolTip) return renewToolTip(*peer);
   peer->apply(change);
   if (change != Change::Enabled) return;
   // What stands on a frame looks as the frame allows.
@@ -38,6 +39,11 @@ void FormWindow::controlDrawn(Control& control, std::span<const base::PixelRect>
 
 void FormWindow::listChanged(ListBox& list, const ListEdit& edit) {
   if (ControlPeer* peer = peerOf(list)) peer->applyList(edit);
+}
+
+void FormWindow::controlWantsFocus(Control& control) {
+  const ControlPeer* peer = peerOf(control);
+  if (window_ && peer) SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(peer->window()), TRUE);
 }
 
 void FormWindow::formChanged(Form&, FormChange change) {

@@ -21,6 +21,7 @@ namespace forms {
 namespace {
 
 constexpr WORD kIconResource = 1;
+constexpr int kWidestToolTip = 700;  // pixels at 96 dots per inch
 
 // A dialog without controls of its own; its size and title are set afterwards.
 struct EmptyTemplate {
@@ -124,18 +125,37 @@ void FormWindow::makeToolTips() {
   toolTips_ =
       CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0,
                       0, 0, window_, nullptr, GetModuleHandleW(nullptr), nullptr);
+  // A text with line breaks is shown on several lines only where a width is set; no word is broken.
+  SendMessageW(toolTips_, TTM_SETMAXTIPWIDTH, 0, MulDiv(kWidestToolTip, dpi_, USER_DEFAULT_SCREEN_DPI));
 }
 
-void FormWindow::addToolTip(const ControlPeer& peer) {
-  if (peer.control().toolTip().empty()) return;
-  std::wstring text = os::ToWide(peer.control().toolTip());
+namespace {
+
+TTTOOLINFOW ToolOf(const ControlPeer& peer) {
   TTTOOLINFOW tool{};
   tool.cbSize = TTTOOLINFOW_V1_SIZE;
   tool.uFlags = TTF_IDISHWND;  // fed by filter()
   tool.hwnd = GetParent(peer.window());
   tool.uId = reinterpret_cast<UINT_PTR>(peer.window());
+  return tool;
+}
+
+}  // namespace
+
+void FormWindow::addToolTip(const ControlPeer& peer) {
+  if (peer.control().toolTip().empty()) return;
+  std::wstring text = os::ToWide(peer.control().toolTip());
+  TTTOOLINFOW tool = ToolOf(peer);
   tool.lpszText = text.data();
   SendMessageW(toolTips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+// As a new one it waits for the pointer's rest again, where a changed one would stand where the old one
+// stood.
+void FormWindow::renewToolTip(const ControlPeer& peer) {
+  TTTOOLINFOW tool = ToolOf(peer);
+  SendMessageW(toolTips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  addToolTip(peer);
 }
 
 void FormWindow::present() {

@@ -46,6 +46,7 @@ class FormWindow : public FormHost, private PeerOwner {
   void controlDrawn(Control& control, std::span<const base::PixelRect> areas) override;
   void formChanged(Form& form, FormChange change) override;
   void listChanged(ListBox& list, const ListEdit& edit) override;
+  void controlWantsFocus(Control& control) override;
   base::PixelSize measureText(const base::Font& font, const std::string& text) override;
   int twipsPerPixel() const override { return twipsPerPixel_; }
   base::PixelSize innerSize() const override;
@@ -76,6 +77,7 @@ class FormWindow : public FormHost, private PeerOwner {
   void placeTabPages();
   void makeToolTips();
   void addToolTip(const ControlPeer& peer);
+  void renewToolTip(const ControlPeer& peer);
   void relayOut(int dpi);
   void followAppearance();
   void takePageColor(HWND tabs);

@@ -87,7 +87,7 @@ void DrawListLine(const DRAWITEMSTRUCT& item, const ListLine& line, int dpi) {
   const os::OwnedBrush brush(CreateSolidBrush(selected ? GetSysColor(COLOR_HIGHLIGHT) : line.background));
   FillRect(item.hDC, &item.rcItem, brush.get());
   SetTextColor(item.hDC, selected ? GetSysColor(COLOR_HIGHLIGHTTEXT)
-                                  : FieldTextColor(line.takesInput, line.background));
+                                  : FieldTextColor(line.takesInput && !line.faint, line.background));
   SetBkMode(item.hDC, TRANSPARENT);
   RECT area = item.rcItem;
   area.left += MulDiv(3, dpi, 96) + line.indent;

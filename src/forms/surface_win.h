@@ -49,6 +49,7 @@ class Theme {
 struct ListLine {
   std::wstring text;
   bool takesInput = true;
+  bool faint = false;       // what it names is not there
   COLORREF background = 0;  // where the line is not selected
   int indent = 0;           // pixels
   UINT ellipsis = 0;        // DrawText's way to shorten it

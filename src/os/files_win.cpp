@@ -140,10 +140,7 @@ bool FilesWin::replace(const std::string& path, std::string_view content) {
   return false;
 }
 
-bool FilesWin::exists(const std::string& path) {
-  const DWORD attributes = GetFileAttributesW(WidePath(path).c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
-}
+bool FilesWin::exists(const std::string& path) { return IsFile(path); }
 
 // The time zone's rules for the day on which the file was written, not those of today.
 std::optional<LocalTime> FilesWin::changedAt(const std::string& path) {

@@ -37,6 +37,9 @@ class FolderReader {
   // folder cannot be read.
   virtual std::optional<std::vector<FolderEntry>> read(const std::string& folder) = 0;
 
+  // True when there is a file at a path, hidden or not.
+  virtual bool hasFile(const std::string& path) = 0;
+
   // The folder's path behind all links; nothing when it cannot be found out.
   virtual std::optional<std::string> finalPath(const std::string& folder) = 0;
 

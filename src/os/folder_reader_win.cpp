@@ -13,6 +13,8 @@ std::optional<std::vector<FolderEntry>> FolderReaderWin::read(const std::string&
   return ListFolder(folder);
 }
 
+bool FolderReaderWin::hasFile(const std::string& path) { return IsFile(path); }
+
 std::optional<std::string> FolderReaderWin::finalPath(const std::string& folder) {
   const FileHandle handle(CreateFileW(WidePath(folder).c_str(), 0,
                                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,

@@ -21,6 +21,11 @@ std::wstring WidePath(const std::string& path, std::size_t extra) {
   return wide.size() + extra > kLongestPlainPath ? LongPath(FullPath(wide)) : wide;
 }
 
+bool IsFile(const std::string& path) {
+  const DWORD attributes = GetFileAttributesW(WidePath(path).c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
 FileHandle OpenForReading(const std::string& path) {
   FileHandle file(CreateFileW(WidePath(path).c_str(), GENERIC_READ,
                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,

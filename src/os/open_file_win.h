@@ -12,6 +12,9 @@ namespace os {
 // The path for the system's W functions; `extra` characters can be added to it.
 std::wstring WidePath(const std::string& path, std::size_t extra = 0);
 
+// True when there is a file at a path.
+bool IsFile(const std::string& path);
+
 // An open file, closed at the end of its owner.
 class FileHandle {
  public:

@@ -242,7 +242,8 @@ TEST_F(SaveFaults, TheStatusBarKeepsUpWithTheFolderAtEachRefusedSave) {
   Form2& opened = machine.openDialog().form;
   machine.files.writable = true;
   opened.Ok.userClicked();
-  EXPECT_EQ(opened.SS_StatusBar.panelText(2), "");
+  EXPECT_EQ(opened.SS_StatusBar.panelText(2), "Not saved: there are no images.")
+      << "and no more of the folder";
 }
 
 }  // namespace

@@ -53,6 +53,17 @@ TEST_F(FolderReaderWinTest, AnEmptyFolderIsNotAMissingOne) {
   EXPECT_EQ(reader.read(path("file")), std::nullopt);
 }
 
+TEST_F(FolderReaderWinTest, AFileIsThereHiddenOrNotAndAFolderIsNone) {
+  addFile("1.jpg");
+  addFile("hidden.jpg", FILE_ATTRIBUTE_HIDDEN);
+  addFolder("deep.jpg");
+  EXPECT_TRUE(reader.hasFile(path("1.jpg")));
+  EXPECT_TRUE(reader.hasFile(path("hidden.jpg")));
+  EXPECT_FALSE(reader.hasFile(path("deep.jpg")));
+  EXPECT_FALSE(reader.hasFile(path("gone.jpg")));
+  EXPECT_FALSE(reader.hasFile(path("gone\\1.jpg")));
+}
+
 TEST_F(FolderReaderWinTest, FoldersOfAnyDepthAreRead) {
   std::string deep = folder;
   for (int i = 0; i < 12; ++i) {

@@ -144,6 +144,16 @@ std::optional<std::vector<os::FolderEntry>> FakeFolderReader::read(const std::st
   return entries;
 }
 
+bool FakeFolderReader::hasFile(const std::string& path) {
+  const std::lock_guard lock(mutex_);
+  const std::size_t at = path.rfind('\\');
+  if (at == std::string::npos) return false;
+  const auto folder = folders_.find(path.substr(0, at));
+  if (folder == folders_.end() || away_.contains(folder->first)) return false;
+  const auto file = folder->second.find(path.substr(at + 1));
+  return file != folder->second.end() && !file->second.isFolder;
+}
+
 std::optional<std::string> FakeFolderReader::finalPath(const std::string& folder) {
   const std::lock_guard lock(mutex_);
   const std::string path = resolved(Bare(folder));

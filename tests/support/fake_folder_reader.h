@@ -36,6 +36,7 @@ class FakeFolderReader : public os::FolderReader {
   std::vector<int> waits() const;  // how long the watches were to wait, in order
 
   std::optional<std::vector<os::FolderEntry>> read(const std::string& folder) override;
+  bool hasFile(const std::string& path) override;
   std::optional<std::string> finalPath(const std::string& folder) override;
   void sortNames(std::vector<std::string>& names) override;
   std::vector<std::string> pictureEndings() override { return endings; }

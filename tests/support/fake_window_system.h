@@ -18,6 +18,7 @@ class FakeWindowSystem : public forms::WindowSystem, public forms::FormHost {
   std::vector<std::string> unloaded;  // likewise
   std::vector<std::pair<std::string, forms::Change>> changes;
   int listEdits = 0;
+  std::string focused;  // the control that was last given the keyboard
   float screenWidth = 1920 * 15.0F;
   float screenHeight = 1080 * 15.0F;
   std::function<void(forms::Form&)> whileModal;  // what the user does while a form is shown modally
@@ -58,6 +59,7 @@ class FakeWindowSystem : public forms::WindowSystem, public forms::FormHost {
     changes.emplace_back(control.name(), forms::Change::Picture);
   }
   void listChanged(forms::ListBox&, const forms::ListEdit&) override { ++listEdits; }
+  void controlWantsFocus(forms::Control& control) override { focused = control.name(); }
   base::PixelSize measureText(const base::Font&, const std::string& text) override {
     return {static_cast<int>(text.size()) * 6, 13};
   }
