@@ -178,9 +178,10 @@ TEST_F(DialogInput, AComboIsChosenFromAndShowsAnyText) {
 TEST_F(DialogInput, TheTabKeyStopsAtEveryControlInOrder) {
   EXPECT_EQ(tabStops(),
             "List1 up down ImagePosition Text3 add remove RemoveAll FolderCommand EnlargeCommand p_caption "
-            "caption_clear Ok Cancel SSTab1 ");
+            "caption_clear Ok Cancel TryIt SSTab1 ");
   dialog->showTab(1);
-  EXPECT_EQ(tabStops(), "SSTab1 aChange Text2 changeVScroll1 Random_select pRandom floatSlider Ok Cancel ");
+  EXPECT_EQ(tabStops(),
+            "SSTab1 aChange Text2 changeVScroll1 Random_select pRandom floatSlider Ok Cancel TryIt ");
 }
 
 TEST_F(DialogInput, ControlTabGoesRoundTheTabs) {
