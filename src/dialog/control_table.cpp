@@ -13,6 +13,9 @@ forms::Control* OnTab(Form2& form) {
   return &form.SSTab1.page(Tab);
 }
 
+constexpr char kLiveName[] = "Preview of the show";
+constexpr char kLiveHint[] = "Preview: The show as these settings make it, in small";
+
 constexpr std::string_view kTabCaptions[] = {
     " Loaded Images ", " Image Properties ",  " Background Color ", " Mouse Sensitivity ",
     " Image Size ",    " Image Transitions ", "  Image Caption  ",  " Countdown to Special Date ",
@@ -172,6 +175,15 @@ constexpr ControlRow kControls[] = {
      "Save Settings: Save all screen saver settings"},
     {It<&F::Cancel>, OnForm, {544, 460, 88, 26}, "&Cancel", "Cancel changes", "",
      "Cancel Settings: Cancel and do not save screen saver settings"},
+    {It<&F::TryIt>, OnForm, {108, 460, 88, 26}, "&Try It", "Show the screen saver with these settings", "",
+     "Try It: Show the screen saver as it is set now, without saving. A key or the mouse ends it"},
+    {It<&F::liveProperties>, On<&F::Frame1>, {372, 20, 196, 112}, "", "", kLiveName, kLiveHint},
+    {It<&F::liveSensitivity>, OnTab<3>, {113, 146, 386, 218}, "", "", kLiveName,
+     "Preview: Move the pointer over it. It ends as the screen saver would"},
+    {It<&F::liveSize>, OnTab<4>, {113, 146, 386, 218}, "", "", kLiveName, kLiveHint},
+    {It<&F::liveTransitions>, OnTab<5>, {113, 154, 386, 218}, "", "", kLiveName, kLiveHint},
+    {It<&F::liveCaption>, OnTab<6>, {148, 200, 316, 178}, "", "", kLiveName, kLiveHint},
+    {It<&F::liveCountdown>, OnTab<7>, {148, 200, 316, 178}, "", "", kLiveName, kLiveHint},
     {It<&F::SS_StatusBar>, OnForm, {0, 506, 644, 24}, "", "", "Hint"},
 };
 

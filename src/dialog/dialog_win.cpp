@@ -30,7 +30,7 @@ SettingsDialogWin::SettingsDialogWin(const DialogMachineWin& machine, const std:
       dialogs_([this] { return windows_.activeWindow(); }),
       dialog_({machine.files, machine.ansi, machine.pictures, dialogs_, windows_, os::IsReadOnlyFile,
                machine.ahead, machine.makeWorker ? std::make_shared<os::FolderReaderWin>() : nullptr,
-               machine.makeWorker, machine.captionExample, machine.hidden},
+               machine.makeWorker, machine.captionExample, machine.hidden, machine.live},
               loop_, *shell_, programFolder, ProductIcon()),
       filter_(loop_.addMessageFilter([this](MSG& message) { return windows_.filterMessage(message); })) {
   dialog_.show();

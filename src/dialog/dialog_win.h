@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "dialog/live_show.h"
 #include "dialog/settings_dialog.h"
 #include "forms/dialogs_win.h"
 #include "forms/window_system_win.h"
@@ -26,6 +27,7 @@ struct DialogMachineWin {
   os::MakeWorker makeWorker = nullptr;  // for what is looked for beside the dialog; null: nothing is
   CaptionExample captionExample = nullptr;
   HiddenPictures hidden = {};
+  LiveShow* live = nullptr;             // the show in small; null: it is not seen
 };
 
 class SettingsDialogWin {

@@ -10,11 +10,13 @@
 #include "auxwin/picture_target.h"
 #include "base/font.h"
 #include "dialog/awaited_pictures.h"
+#include "dialog/live_show.h"
 #include "forms/buttons.h"
 #include "forms/containers.h"
 #include "forms/dialogs.h"
 #include "forms/form.h"
 #include "forms/lists.h"
+#include "forms/live_view.h"
 #include "forms/picture_boxes.h"
 #include "forms/ranges.h"
 #include "forms/texts.h"
@@ -51,6 +53,7 @@ struct DialogServices {
   os::MakeWorker makeWorker = nullptr;                  // there where `folders` is
   CaptionExample captionExample = nullptr;  // what the show makes of a template; without it none is shown
   HiddenPictures hidden = {};               // without it none can be hidden
+  LiveShow* live = nullptr;                             // the show in small; null: it is not seen
 };
 
 // What the font dialog starts with.
@@ -203,9 +206,18 @@ class Form2 : public forms::Form {
 
   // Below the tabs.
   forms::CommandButton MoreCommand{*this, "MoreCommand"};
+  forms::CommandButton TryIt{*this, "TryIt"};
   forms::CommandButton Ok{*this, "Ok"};
   forms::CommandButton Cancel{*this, "Cancel"};
   forms::StatusBar SS_StatusBar{*this, "SS_StatusBar", {{""}, {""}}};
+
+  // The show in small, one on each tab that has room for it.
+  forms::LiveView liveProperties{*this, "liveProperties"};
+  forms::LiveView liveSensitivity{*this, "liveSensitivity"};
+  forms::LiveView liveSize{*this, "liveSize"};
+  forms::LiveView liveTransitions{*this, "liveTransitions"};
+  forms::LiveView liveCaption{*this, "liveCaption"};
+  forms::LiveView liveCountdown{*this, "liveCountdown"};
 
   forms::MenuItem File{"File", "&File"};
   forms::MenuItem Save{"Save", "&Save"};

@@ -69,6 +69,15 @@ settings::SettingsRecord RecordToWrite(const Form2& form) {
   return record;
 }
 
+// The file `old` with everything that is chosen in the dialog.
+std::string Written(const Form2& form, const std::string& old) {
+  settings::IniDocument document(old, form.services().ansi);
+  settings::WriteSettings(document, RecordToWrite(form), form.List1.items(), form.photo_caption.items());
+  settings::WriteExtras(document, form.record, form.loaded());
+  settings::WriteFolders(document, form.followedFolders, form.loadedFolders());
+  return document.serialise();
+}
+
 // A write that fails leaves the old file as it was.
 void WriteFile(const Form2& form) {
   os::Files& files = form.services().files;
@@ -81,11 +90,7 @@ void WriteFile(const Form2& form) {
   const std::string& old = found ? *found : form.loadedFile();
   // What a failed loading did not read is not in the record and would be lost with the old file.
   if (!old.empty() && !form.loadedWell() && !KeepOldFile(form, old)) return;
-  settings::IniDocument document(old, form.services().ansi);
-  settings::WriteSettings(document, RecordToWrite(form), form.List1.items(), form.photo_caption.items());
-  settings::WriteExtras(document, form.record, form.loaded());
-  settings::WriteFolders(document, form.followedFolders, form.loadedFolders());
-  if (files.replace(path, document.serialise()) && form.showsHiddenAgain) form.services().hidden.showAgain();
+  if (files.replace(path, Written(form, old)) && form.showsHiddenAgain) form.services().hidden.showAgain();
 }
 
 const char* CheckAndWrite(Form2& form) {
@@ -105,6 +110,16 @@ bool SaveSettings(Form2& form) {
   }
   form.services().windows.unload(form);
   return true;
+}
+
+std::optional<std::string> SettingsToTry(Form2& form) {
+  if (const char* const fault = FaultOf(form)) {
+    form.services().dialogs.messageBox(fault, forms::kExclamation);
+    return std::nullopt;
+  }
+  const std::optional<std::string> found =
+      form.services().files.read(settings::IniPath(form.programFolder()));
+  return Written(form, found ? *found : form.loadedFile());
 }
 
 void ShowWhetherSettingsCanBeSaved(Form2& form) {

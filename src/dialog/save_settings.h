@@ -1,6 +1,9 @@
 // The settings dialog's way into the settings file.
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "dialog/form2.h"
 
 namespace dialog {
@@ -10,6 +13,10 @@ namespace dialog {
 // amiss until it is mended. Otherwise writes the settings file in one
 // step and takes the dialog away, also where the file cannot be written. True when the dialog has gone.
 bool SaveSettings(Form2& form);
+
+// The bytes of the settings file that a save would write now. Reports the first fault as a save would, and
+// gives nothing then.
+std::optional<std::string> SettingsToTry(Form2& form);
 
 // Says in the status bar's second panel when the program's folder or the settings file cannot be written.
 void ShowWhetherSettingsCanBeSaved(Form2& form);

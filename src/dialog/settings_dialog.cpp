@@ -15,12 +15,14 @@ SettingsDialog::SettingsDialog(const DialogServices& services, os::EventLoop& lo
     : form(services, programFolder),
       pictures(form, loop),
       background(form),
+      live(services.live, loop, services.ansi, form, [this] { return SceneOf(form); }),
       viewer(form.List1, services.pictures, services.dialogs, services.windows, aheadOfViewer()),
       about(std::move(icon), shell, services.windows),
       services_(services),
       loop_(loop),
       shell_(shell) {
   connect();
+  addLiveViews();
   loop_.setErrorHandler([this](const std::exception& error) { tellError(error); });
 }
 
@@ -43,6 +45,7 @@ void SettingsDialog::connect() {
   form.onUnload = [this] { closed(); };
   form.Ok.onClick = [this] { Ok_Click(); };
   form.Save.onClick = [this] { Save_Click(); };
+  form.TryIt.onClick = [this] { TryIt_Click(); };
   form.FolderCommand.onClick = [this] { FolderCommand_Click(); };
   form.MoreCommand.onClick = [this] { MoreCommand_Click(); };
   form.List1.onDblClick = [this] { List1_DblClick(); };
@@ -54,9 +57,22 @@ void SettingsDialog::connect() {
   form.onHelp = [this] { LumoraHelp_Click(); };
 }
 
-void SettingsDialog::show() { services_.windows.show(form); }
+void SettingsDialog::addLiveViews() {
+  live.add(form.liveProperties, SceneAim::Show);
+  live.add(form.liveSensitivity, SceneAim::Pointer);
+  live.add(form.liveSize, SceneAim::Show);
+  live.add(form.liveTransitions, SceneAim::Changes);
+  live.add(form.liveCaption, SceneAim::Captions);
+  live.add(form.liveCountdown, SceneAim::Show);
+}
+
+void SettingsDialog::show() {
+  services_.windows.show(form);
+  live.look();
+}
 
 void SettingsDialog::closed() {
+  live.close();
   services_.windows.unload(viewer);
   loop_.quit();
 }
@@ -81,6 +97,14 @@ void SettingsDialog::save() {
 void SettingsDialog::Ok_Click() { save(); }
 
 void SettingsDialog::Save_Click() { save(); }
+
+void SettingsDialog::TryIt_Click() {
+  if (!services_.live) return;
+  const std::optional<std::string> settings = SettingsToTry(form);
+  if (!settings) return;
+  services_.windows.runAlone([&] { services_.live->tryOut(*settings); });
+  live.look();
+}
 
 void SettingsDialog::FolderCommand_Click() {
   const std::string workingFolder = services_.files.currentFolder();

@@ -10,6 +10,7 @@
 #include "auxwin/multi_files.h"
 #include "dialog/background_image.h"
 #include "dialog/form2.h"
+#include "dialog/live_views.h"
 #include "dialog/more_options.h"
 #include "dialog/picture_list.h"
 #include "os/event_loop.h"
@@ -32,6 +33,7 @@ class SettingsDialog {
   Form2 form;
   PictureList pictures;
   BackgroundImage background;
+  LiveViews live;
   auxwin::ImageView viewer;
   auxwin::frmAbout about;
   // Lives on until the next one: its window may outlast the wait for it.
@@ -40,6 +42,7 @@ class SettingsDialog {
 
   void Ok_Click();
   void Save_Click();
+  void TryIt_Click();
   void FolderCommand_Click();
   void MoreCommand_Click();
   void List1_DblClick();
@@ -51,6 +54,7 @@ class SettingsDialog {
 
  private:
   void connect();
+  void addLiveViews();
   void save();
   void openViewer();
   auxwin::AheadSource aheadOfViewer();

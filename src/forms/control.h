@@ -26,6 +26,7 @@ enum class ControlKind {
   Image,
   Label,
   ListBox,
+  LiveView,
   OptionButton,
   PictureBox,
   ScrollBar,

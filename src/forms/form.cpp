@@ -60,6 +60,12 @@ void Form::setMousePointer(MousePointer pointer) {
   tell(FormChange::MousePointer);
 }
 
+void Form::userMinimized(bool minimized) {
+  if (minimized_ == minimized) return;
+  minimized_ = minimized;
+  if (onMinimizedChanged) onMinimizedChanged();
+}
+
 namespace {
 
 // The place of a control's container's inner area on the form.

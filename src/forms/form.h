@@ -79,6 +79,10 @@ class Form {
   // The pointer moved to a place of the inner area (twips): the control there, or the form, hears of it.
   void userMovedMouse(float x, float y, bool leftButton = false);
 
+  // The window is away as an icon. For the host: it has gone, or come back.
+  bool isMinimized() const { return minimized_; }
+  void userMinimized(bool minimized);
+
   // Events; the host raises them.
   std::function<void()> onLoad;          // the window has been made and is not yet shown
   std::function<void()> onUnload;        // the window has gone
@@ -87,6 +91,7 @@ class Form {
   std::function<void(const MouseEvent&)> onMouseDown;
   std::function<void(int keyCode)> onKeyDown;
   std::function<void()> onHelp;  // the system's key for help was pressed
+  std::function<void()> onMinimizedChanged;
 
  private:
   friend class Control;
@@ -106,6 +111,7 @@ class Form {
   float clientWidth_ = 0;
   float clientHeight_ = 0;
   float scaleHeight_ = 0;
+  bool minimized_ = false;
   LayoutScale layoutScale_;
   std::string caption_;
   MousePointer mousePointer_ = MousePointer::Default;

@@ -33,8 +33,8 @@ void FormWindow::keepFocusOff(const Control& disabled) {
   }
 }
 
-void FormWindow::controlDrawn(Control& control, std::span<const base::PixelRect>) {
-  if (auto* drawn = dynamic_cast<DrawnPeer*>(peerOf(control))) drawn->invalidate();
+void FormWindow::controlDrawn(Control& control, std::span<const base::PixelRect> areas) {
+  if (auto* peer = dynamic_cast<DrawnPeer*>(peerOf(control))) peer->drawn(areas);
 }
 
 void FormWindow::listChanged(ListBox& list, const ListEdit& edit) {

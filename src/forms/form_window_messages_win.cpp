@@ -165,6 +165,9 @@ INT_PTR FormWindow::handleSystemChange(UINT message, WPARAM wParam) {
     case WM_THEMECHANGED:
       followAppearance();
       return FALSE;
+    case WM_SIZE:
+      raise([this, wParam] { form_.userMinimized(wParam == SIZE_MINIMIZED); });
+      return FALSE;
     case WM_NCDESTROY:
       window_ = nullptr;
       return FALSE;

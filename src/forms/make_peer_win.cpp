@@ -3,6 +3,7 @@
 #include "forms/container_peer_win.h"
 #include "forms/folder_lists.h"
 #include "forms/lists.h"
+#include "forms/live_view.h"
 #include "forms/peers_win.h"
 #include "forms/picture_peer_win.h"
 #include "forms/ranges.h"
@@ -41,6 +42,8 @@ std::unique_ptr<ControlPeer> MakePeer(Control& control, PeerOwner& owner) {
       return MakePeer(static_cast<Label&>(control), owner);
     case ControlKind::ListBox:
       return MakePeer(static_cast<ListBox&>(control), owner);
+    case ControlKind::LiveView:
+      return Make<LiveViewPeer, LiveView>(control, owner);
     case ControlKind::OptionButton:
       return MakePeer(static_cast<OptionButton&>(control), owner);
     case ControlKind::PictureBox:

@@ -115,4 +115,22 @@ void ImagePeer::draw(base::BitmapView target, const base::PixelRect& area, base:
                   *fitted_, base::PixelRect::ofSize(fitted));
 }
 
+void LiveViewPeer::drawn(std::span<const base::PixelRect> areas) {
+  const base::PixelRect frame = view_.framePlace();
+  for (const base::PixelRect& area : areas) {
+    const base::PixelRect at = area.movedBy(frame.left, frame.top);
+    const RECT stale{at.left, at.top, at.right(), at.bottom()};
+    InvalidateRect(window(), &stale, FALSE);
+  }
+}
+
+void LiveViewPeer::draw(base::BitmapView target, const base::PixelRect& area, base::PixelSize) {
+  base::FillRect(target, base::PixelRect::ofSize(area.size()), SystemPixel(owner().surfaceColor(view_)));
+  if (!view_.frame()) return;
+  const base::PixelRect frame = view_.framePlace().movedBy(-area.left, -area.top);
+  DrawBorder(target, {frame.left - 1, frame.top - 1, frame.width + 2, frame.height + 2},
+             SystemPixel(GetSysColor(COLOR_BTNSHADOW)));
+  base::CopyRect(target, {frame.left, frame.top}, *view_.frame(), base::PixelRect::ofSize(frame.size()));
+}
+
 }  // namespace forms

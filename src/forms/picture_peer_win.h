@@ -1,13 +1,16 @@
-// Picture boxes and images as real windows.
+// Picture boxes, images and live views as real windows.
 #pragma once
 
+#include <span>
+
 #include "forms/control_peer_win.h"
+#include "forms/live_view.h"
 #include "forms/picture_boxes.h"
 #include "os/dib_win.h"
 
 namespace forms {
 
-// The window class of both.
+// The window class of all.
 constexpr const wchar_t* kPictureClass = L"LumoraPicture";
 
 class DrawnPeer : public ControlPeer {
@@ -16,6 +19,9 @@ class DrawnPeer : public ControlPeer {
 
   // Everything is drawn anew with the next paint message.
   void invalidate();
+
+  // The control was drawn on inside `areas` (its own pixels).
+  virtual void drawn(std::span<const base::PixelRect>) { invalidate(); }
 
  protected:
   WindowRecipe recipe() const override { return {kPictureClass, 0, 0}; }
@@ -53,6 +59,18 @@ class ImagePeer : public DrawnPeer {
  private:
   Image& image_;
   base::SharedBitmap fitted_;  // as it was drawn last; null = to be drawn anew
+};
+
+class LiveViewPeer : public DrawnPeer {
+ public:
+  LiveViewPeer(LiveView& view, PeerOwner& owner) : DrawnPeer(view, owner), view_(view) {}
+  void drawn(std::span<const base::PixelRect> areas) override;
+
+ protected:
+  void draw(base::BitmapView target, const base::PixelRect& area, base::PixelSize size) override;
+
+ private:
+  LiveView& view_;
 };
 
 }  // namespace forms

@@ -1,6 +1,8 @@
 // What shows the program's forms as windows.
 #pragma once
 
+#include <functional>
+
 #include "base/geometry.h"
 
 namespace forms {
@@ -22,6 +24,10 @@ class WindowSystem {
   // Takes a form's window away, and those that were opened over it; onUnload runs. Nothing happens when it is
   // not loaded.
   virtual void unload(Form& form) = 0;
+
+  // Runs something that has windows of its own, while the forms take no input. Afterwards they are as they
+  // were, and the control that had the keyboard has it again.
+  virtual void runAlone(const std::function<void()>& other) = 0;
 
   // The primary screen, in twips of its forms.
   virtual float screenWidthTwips() const = 0;

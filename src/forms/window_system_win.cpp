@@ -18,6 +18,45 @@ void InitCommonControlsOnce() {
   InitCommonControlsEx(&classes);
 }
 
+constexpr int kLookMs = 20;
+
+// For a scope windows take no input, as soon as another one of the thread is active. A window that is
+// disabled while it is the active one would leave the keyboard to nobody.
+class WithoutInput {
+ public:
+  WithoutInput(os::EventLoop& loop, std::vector<HWND> windows, HWND active)
+      : loop_(loop), windows_(std::move(windows)), active_(active), focus_(GetFocus()) {
+    timer_ = loop_.startTimer(kLookMs, [this] { disable(); });
+  }
+  ~WithoutInput() {
+    loop_.stopTimer(timer_);
+    for (const HWND window : disabled_) EnableWindow(window, TRUE);
+    if (active_) SetForegroundWindow(active_);
+    if (focus_) SetFocus(focus_);
+  }
+  WithoutInput(const WithoutInput&) = delete;
+  WithoutInput& operator=(const WithoutInput&) = delete;
+
+ private:
+  void disable() {
+    const HWND active = GetActiveWindow();
+    if (!active || std::ranges::find(windows_, active) != windows_.end()) return;
+    loop_.stopTimer(timer_);
+    for (const HWND window : windows_) {
+      if (!IsWindowEnabled(window)) continue;
+      EnableWindow(window, FALSE);
+      disabled_.push_back(window);
+    }
+  }
+
+  os::EventLoop& loop_;
+  std::vector<HWND> windows_;
+  std::vector<HWND> disabled_;
+  HWND active_;
+  HWND focus_;
+  os::EventLoop::TimerId timer_ = 0;
+};
+
 float ScreenTwips(int metric) {
   return static_cast<float>(GetSystemMetrics(metric) * base::TwipsPerPixelForDpi(os::ScreenDpi()));
 }
@@ -95,6 +134,13 @@ void WindowSystemWin::endModal(const Form& form) {
   if (at == modals_.end()) return;
   for (const HWND window : at->disabled) EnableWindow(window, TRUE);
   modals_.erase(at);
+}
+
+void WindowSystemWin::runAlone(const std::function<void()>& other) {
+  std::vector<HWND> windows;
+  for (const auto& window : loaded_) windows.push_back(window->handle());
+  const WithoutInput scope(loop_, std::move(windows), activeWindow());
+  other();
 }
 
 // The system takes the windows above a window away with it; their forms must hear of it.

@@ -22,6 +22,7 @@ class WindowSystemWin : public WindowSystem {
   void show(Form& form) override;
   void showModal(Form& form) override;
   void unload(Form& form) override;
+  void runAlone(const std::function<void()>& other) override;
   float screenWidthTwips() const override;
   float screenHeightTwips() const override;
 

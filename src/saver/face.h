@@ -71,6 +71,9 @@ class Face : public forms::Form {
   std::int16_t currentImageIndex() const { return currentImageIndex_; }
 
   bool pictureShown() const { return pictureShown_; }
+
+  // The picture that came last, or is coming.
+  std::int16_t shownImageIndex() const { return shownImageIndex_; }
   std::int16_t captionHeight() const { return caption_.bandHeight(); }
 
   // Pictures come from the loader, and nothing waits for a disk.
@@ -140,6 +143,7 @@ class Face : public forms::Form {
   FloatStep floatStep_;
   bool pictureShown_ = false;
   std::int16_t currentImageIndex_ = 0;
+  std::int16_t shownImageIndex_ = 0;
 
  private:
   base::SharedBitmap composeBackground(BackgroundKind kind);

@@ -47,6 +47,7 @@ void Face::awaitPicture() {
 }
 
 void Face::LoadCurrentPicture() {
+  shownImageIndex_ = currentImageIndex_;
   const auto wish = wishFor(currentImageIndex_);
   if (!wish) {
     loadedPicture_ = nullptr;

@@ -24,13 +24,16 @@
 #include "os/text_renderer_win.h"
 #include "pictures/picture_loader.h"
 #include "saver/stage_window_win.h"
+#include "startup/caption_example.h"
 #include "startup/command_line.h"
 #include "startup/crash_guard_win.h"
+#include "startup/dialog_stage_win.h"
 #include "startup/library_services_win.h"
 #include "startup/loading_win.h"
 #include "startup/main.h"
 #include "startup/preview.h"
 #include "startup/show.h"
+#include "startup/try_out.h"
 #include "startup/workers_win.h"
 
 namespace {
@@ -64,31 +67,53 @@ struct Machine {
   std::string programFolder = os::FolderOf(facts->programPath());
 };
 
-// The show, from its window to its way out; the system's changes pass through `restore`.
+// The show, from its window to its way out; the system's changes pass through what restores them.
 class SaverMode {
  public:
-  SaverMode(Machine& machine, startup::SystemRestore& restore, const os::SystemFacts& facts)
-      : window_(machine.loop),
+  SaverMode(Machine& machine, const startup::TriedServices& own, const os::SystemFacts& facts)
+      : ahead_(startup::MakeAheadLoader(own.loop)),
+        window_(own.loop),
         text_(machine.screen.dpi()),
         stage_(window_, text_, base::TwipsPerPixelForDpi(machine.screen.dpi())),
-        show_({machine.files, machine.ansi, machine.pictures, *machine.ahead, machine.clock, machine.loop,
-               machine.screen, restore, *machine.dates, stage_, window_, startup::MakeLibraryServices(),
+        show_({own.files, machine.ansi, machine.pictures, *ahead_, machine.clock, own.loop, machine.screen,
+               own.restore, *machine.dates, stage_, window_, own.library,
                [this](saver::StageWindow& window) {
                  return std::make_unique<saver::Stage>(window, text_, stage_.twipsPerPixel());
                }},
-              {*machine.passwords, restore, machine.screen}, restore, facts, machine.programFolder,
-              [&machine] { return std::make_unique<saver::StageWindowWin>(machine.loop); }) {
+              {*machine.passwords, own.restore, machine.screen}, own.restore, facts, machine.programFolder,
+              [&loop = own.loop] { return std::make_unique<saver::StageWindowWin>(loop); }) {
     show_.start();
   }
 
   void rememberAfterCrash() noexcept { show_.rememberAfterCrash(); }
 
  private:
+  std::unique_ptr<pictures::AheadLoader> ahead_;
   saver::StageWindowWin window_;
   os::TextRendererWin text_;
   saver::Stage stage_;
   startup::Show show_;
 };
+
+bool IsAnyKeyDown() {
+  constexpr int kFirstKey = VK_BACK;  // below it are the mouse's buttons
+  constexpr int kLastKey = 0xFE;
+  for (int key = kFirstKey; key <= kLastKey; ++key) {
+    if (GetAsyncKeyState(key) < 0) return true;
+  }
+  return false;
+}
+
+void TryOut(Machine& machine, startup::CrashGuard& guard, const std::string& settings) {
+  startup::TryOut(
+      {machine.loop, machine.clock, machine.files, *machine.desktop, machine.programFolder,
+       startup::MakeLibraryServices(),
+       [&](const startup::TriedServices& own) {
+         return std::make_shared<SaverMode>(machine, own, os::SystemFacts());
+       },
+       [&](std::function<void()> farewell) { guard.setFarewell(std::move(farewell)); }, IsAnyKeyDown},
+      settings);
+}
 
 void DrawPreview(Machine& machine, const std::string& commandText) {
   const std::unique_ptr<os::ForeignWindow> window = os::MakeForeignWindow();
@@ -105,20 +130,31 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
   startup::SystemRestore restore(*machine.desktop);
   startup::CrashGuard guard(restore);
   std::unique_ptr<SaverMode> saver;
+  std::unique_ptr<startup::DialogStageWin> live;
   std::unique_ptr<dialog::SettingsDialogWin> settings;
   const startup::RunModes modes{
       .showSaver =
           [&](const os::SystemFacts& facts) {
             machine.files.enterFolder(machine.programFolder);
-            saver = std::make_unique<SaverMode>(machine, restore, facts);
+            saver = std::make_unique<SaverMode>(
+                machine,
+                startup::TriedServices{machine.loop, machine.files, startup::MakeLibraryServices(), restore},
+                facts);
             guard.setFarewell([&show = *saver] { show.rememberAfterCrash(); });
           },
       .showDialog =
           [&] {
+            live = std::make_unique<startup::DialogStageWin>(
+                machine.loop, machine.clock, machine.screen,
+                [&](const std::string& tried) { TryOut(machine, guard, tried); });
             settings = std::make_unique<dialog::SettingsDialogWin>(
-                dialog::DialogMachineWin{machine.loop, machine.savedFiles, machine.ansi, machine.pictures,
-                                         machine.ahead.get(), startup::MakeWorkers(machine.loop), nullptr,
-                                         startup::MakeHiddenPictures(machine.files, machine.programFolder)},
+                dialog::DialogMachineWin{
+                    machine.loop, machine.savedFiles, machine.ansi, machine.pictures, machine.ahead.get(),
+                    startup::MakeWorkers(machine.loop),
+                    [&](std::string_view captionTemplate) {
+                      return startup::CaptionExample(captionTemplate, *machine.dates, machine.ansi);
+                    },
+                    startup::MakeHiddenPictures(machine.files, machine.programFolder), &live->show()},
                 machine.programFolder);
           },
       .drawPreview = [&](const std::string& text) { DrawPreview(machine, text); }};
@@ -128,6 +164,7 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
   guard.setFarewell(nullptr);
   saver.reset();
   settings.reset();
+  live.reset();
   restore.restore();
   startup::EndLoading(std::move(machine.ahead));
   return 0;

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <utility>
 
+#include "base/errors.h"
+#include "base/number_text.h"
 #include "base/rounding.h"
 
 namespace startup {
@@ -18,6 +20,15 @@ bool IsFar(float now, std::int32_t last) {
 }
 
 }  // namespace
+
+double MovesToEnd(const std::string& mouseSensitivity) {
+  constexpr double kUsual = 7;
+  try {
+    return base::StrictDouble(mouseSensitivity);
+  } catch (const base::RunTimeError&) {
+    return kUsual;
+  }
+}
 
 InputWatch::InputWatch(const os::SystemFacts& facts, double threshold, Actions actions)
     : guardsPassword_(facts.guardsPassword()), threshold_(threshold), actions_(std::move(actions)) {}

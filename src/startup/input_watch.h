@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <string>
 
 #include "base/geometry.h"
 #include "os/machine_facts.h"
@@ -26,6 +27,10 @@ struct MouseMove {
   base::PixelPoint onScreen;  // the same place in pixels of the screen
   float secondsSinceMidnight = 0;
 };
+
+// How many counted moves end a show, by the loaded setting `mouseSensitivity`. Settings that could not be
+// loaded to their end may lack the number.
+double MovesToEnd(const std::string& mouseSensitivity);
 
 // Every key and button ends the show at once; the mouse ends it when it has moved often enough within about
 // two seconds. A move counts when it leads more than 3 units away from where the same handler saw the pointer

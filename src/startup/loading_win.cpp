@@ -31,6 +31,16 @@ std::unique_ptr<pictures::AheadLoader> MakeAheadLoader(os::EventLoop& loop) {
       [parts](const std::string& path) { return parts->files.exists(path); });
 }
 
+std::unique_ptr<pictures::AheadLoader> MakeThumbnailLoader(os::EventLoop& loop,
+                                                           std::shared_ptr<pictures::Thumbnails> kept,
+                                                           base::PixelSize small, base::PixelSize large) {
+  const auto parts = std::make_shared<LoadingParts>();
+  return std::make_unique<pictures::AheadLoader>(
+      std::make_shared<pictures::ThumbnailLoader>(
+          std::shared_ptr<pictures::PictureLoader>(parts, &parts->loader), std::move(kept), small, large),
+      loop, MakeWorkers(loop));
+}
+
 void EndLoading(std::unique_ptr<pictures::AheadLoader> loader) {
   loader.reset();
   if (os::WorkerThread::leftBehind() > 0) TerminateProcess(GetCurrentProcess(), 0);

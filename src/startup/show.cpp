@@ -4,8 +4,6 @@
 #include <exception>
 #include <utility>
 
-#include "base/errors.h"
-#include "base/number_text.h"
 #include "startup/cursor_rules.h"
 
 namespace startup {
@@ -14,16 +12,6 @@ namespace {
 
 constexpr const char* kMissing = "picture: no such file: ";
 constexpr const char* kNotOpened = "picture: in use, or of no kind that can be read: ";
-
-// How many counted moves end the show. Settings that could not be loaded to their end may lack the number.
-double MovesToEnd(const std::string& mouseSensitivity) {
-  constexpr double kUsual = 7;
-  try {
-    return base::StrictDouble(mouseSensitivity);
-  } catch (const base::RunTimeError&) {
-    return kUsual;
-  }
-}
 
 saver::ShowServices InTime(const saver::ShowServices& s, saver::ShowTime& time) {
   return {s.files,   s.ansi,  s.pictures, s.ahead,  time,      time,       s.screen,

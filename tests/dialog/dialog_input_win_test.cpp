@@ -178,10 +178,10 @@ TEST_F(DialogInput, AComboIsChosenFromAndShowsAnyText) {
 TEST_F(DialogInput, TheTabKeyStopsAtEveryControlInOrder) {
   EXPECT_EQ(tabStops(),
             "List1 up down ImagePosition Text3 add remove RemoveAll FolderCommand EnlargeCommand p_caption "
-            "caption_clear MoreCommand Ok Cancel SSTab1 ");
+            "caption_clear MoreCommand TryIt Ok Cancel SSTab1 ");
   dialog->showTab(1);
   EXPECT_EQ(tabStops(),
-            "SSTab1 aChange Text2 changeVScroll1 Random_select pRandom floatSlider MoreCommand Ok "
+            "SSTab1 aChange Text2 changeVScroll1 Random_select pRandom floatSlider MoreCommand TryIt Ok "
             "Cancel ");
 }
 

@@ -51,7 +51,7 @@ TEST_F(Form2Hints, EveryRowShowsItsHintOverItsControl) {
     form.SS_StatusBar.setPanelText(1, "before");
     EXPECT_EQ(over(control), row.hint);
   }
-  EXPECT_EQ(hints, 40);
+  EXPECT_EQ(hints, 47);
 }
 
 TEST_F(Form2Hints, EveryHintWordForWord) {

@@ -61,6 +61,17 @@ HWND WaitForChild(HWND parent, const wchar_t* className, const wchar_t* text) {
   return child;
 }
 
+void NextTab() {
+  INPUT input[4]{};
+  const WORD keys[] = {VK_CONTROL, VK_TAB, VK_TAB, VK_CONTROL};
+  for (int i = 0; i < 4; ++i) {
+    input[i].type = INPUT_KEYBOARD;
+    input[i].ki.wVk = keys[i];
+    if (i >= 2) input[i].ki.dwFlags = KEYEVENTF_KEYUP;
+  }
+  SendInput(4, input, sizeof(INPUT));
+}
+
 void ClickOn(HWND window) {
   RECT place;
   GetWindowRect(window, &place);

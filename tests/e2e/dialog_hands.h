@@ -19,6 +19,9 @@ HWND AnyDialog();
 // Waits for such a window inside another one; null when it does not come.
 HWND WaitForChild(HWND parent, const wchar_t* className, const wchar_t* text);
 
+// Goes to the next tab with the keyboard.
+void NextTab();
+
 // Clicks the middle of a window.
 void ClickOn(HWND window);
 

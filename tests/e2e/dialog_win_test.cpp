@@ -13,18 +13,6 @@ using e2e::ChildOf;
 using e2e::ClickOn;
 using e2e::DialogOf;
 
-// Goes to the next tab with the keyboard.
-void NextTab() {
-  INPUT input[4]{};
-  const WORD keys[] = {VK_CONTROL, VK_TAB, VK_TAB, VK_CONTROL};
-  for (int i = 0; i < 4; ++i) {
-    input[i].type = INPUT_KEYBOARD;
-    input[i].ki.wVk = keys[i];
-    if (i >= 2) input[i].ki.dwFlags = KEYEVENTF_KEYUP;
-  }
-  SendInput(4, input, sizeof(INPUT));
-}
-
 // Goes on through the tabs until a control is there, and clicks it.
 testing::AssertionResult FindAndClick(HWND dialog, const wchar_t* className, const wchar_t* text) {
   for (int tab = 0; tab < 9; ++tab) {
@@ -34,7 +22,7 @@ testing::AssertionResult FindAndClick(HWND dialog, const wchar_t* className, con
       ClickOn(control);
       return testing::AssertionSuccess();
     }
-    NextTab();
+    e2e::NextTab();
   }
   return testing::AssertionFailure() << os::FromWide(text) << " is on no tab";
 }

@@ -42,6 +42,10 @@ class SettingsDialogMachine : public DialogMachine {
   pictures::AheadLoader ahead{{std::shared_ptr<void>(), &pictures}, loop, workers.maker()};
   std::shared_ptr<FakeFolderReader> folders = std::make_shared<FakeFolderReader>();
   ShellRecorder shell;
+  dialog::LiveShow* live = nullptr;  // before the dialog is opened
+
+  // Ends the dialog as the end of the program does.
+  void closeDialog() { dialog_.reset(); }
 
  private:
   std::unique_ptr<dialog::SettingsDialog> dialog_;

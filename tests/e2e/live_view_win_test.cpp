@@ -1,0 +1,216 @@
+// The show in small on the dialog's tabs, and the show that is tried from there.
+#include <gtest/gtest.h>
+
+#include <optional>
+
+#include "e2e/dialog_hands.h"
+#include "e2e/program_folder.h"
+#include "e2e/running_program.h"
+#include "os/handles_win.h"
+#include "os/utf16_win.h"
+
+namespace {
+
+constexpr base::PackedColor kRed = base::Rgb(250, 10, 20);
+constexpr base::PackedColor kBlue = base::Rgb(10, 20, 250);
+constexpr const wchar_t* kView = L"LumoraPicture";
+constexpr const wchar_t* kViewName = L"Preview of the show";
+constexpr const wchar_t* kShow = L"WindowsScreenSaverClass";
+constexpr int kMouseTab = 3;
+constexpr int kTransitionsTab = 5;
+
+// Pixels of a colour that the screen shows inside a window.
+int PixelsOf(HWND window, base::PackedColor color) {
+  RECT place{};
+  GetWindowRect(window, &place);
+  const base::Bitmap screen = e2e::ReadScreen();
+  int count = 0;
+  for (int y = static_cast<int>(place.top); y < static_cast<int>(place.bottom); ++y) {
+    for (int x = static_cast<int>(place.left); x < static_cast<int>(place.right); ++x) {
+      count += screen.at(x, y) == base::OpaquePixel(color) ? 1 : 0;
+    }
+  }
+  return count;
+}
+
+std::vector<std::wstring> NamesIn(const std::wstring& folder) {
+  std::vector<std::wstring> names;
+  WIN32_FIND_DATAW found{};
+  const HANDLE search = FindFirstFileW((folder + L"\\*").c_str(), &found);
+  if (search == INVALID_HANDLE_VALUE) return names;
+  do {
+    names.emplace_back(found.cFileName);
+  } while (FindNextFileW(search, &found));
+  FindClose(search);
+  return names;
+}
+
+class LiveViewTest : public testing::Test {
+ protected:
+  LiveViewTest() {
+    folder.addPicture({800, 600}, kRed, "a caption");
+    folder.addPicture({800, 600}, kBlue);
+    folder.set("image/timeInterval", "600");
+    folder.writeSettings();
+    saved = folder.readSettingsFile();
+  }
+
+  void open() {
+    program.emplace(folder.program(), L"/C");
+    dialog = e2e::DialogOf(*program);
+    ASSERT_NE(dialog, nullptr);
+    ASSERT_TRUE(e2e::WaitFor([&] { return GetForegroundWindow() == dialog; }));
+  }
+
+  void goTo(int tab) {
+    for (int i = 0; i < tab; ++i) {
+      const HWND before = view();
+      e2e::NextTab();
+      e2e::WaitFor([&] { return view() != before; }, 1000);
+    }
+  }
+
+  // On the tab that is shown; null where it has none.
+  HWND view() const { return e2e::ChildOf(dialog, kView, kViewName); }
+
+  bool comesToShow(base::PackedColor color) const {
+    return e2e::WaitFor([&] { return view() && PixelsOf(view(), color) > 1000; });
+  }
+
+  // The show covers the screen and has the keyboard, until something ends it.
+  HWND awaitShow() const {
+    HWND show = nullptr;
+    e2e::WaitFor([&] {
+      show = program->findWindow(kShow);
+      return show && e2e::ScreenPixel(e2e::ScreenSize().width / 2, e2e::ScreenSize().height / 2) ==
+                         base::OpaquePixel(kRed);
+    });
+    return show;
+  }
+
+  bool isAsBefore() const {
+    return e2e::WaitFor([&] {
+      return !program->findWindow(kShow) && IsWindowEnabled(dialog) && GetForegroundWindow() == dialog;
+    });
+  }
+
+  e2e::ProgramFolder folder{L"live"};
+  std::string saved;
+  std::optional<e2e::RunningProgram> program;
+  HWND dialog = nullptr;
+};
+
+TEST_F(LiveViewTest, EachTabThatHasRoomShowsTheShow) {
+  open();
+  EXPECT_EQ(view(), nullptr) << "there is a preview of the selected picture";
+  int views = 0;
+  for (int tab = 1; tab < 8; ++tab) {
+    e2e::NextTab();
+    if (tab == 2) continue;
+    EXPECT_TRUE(comesToShow(kRed)) << "tab " << tab;
+    ++views;
+  }
+  EXPECT_EQ(views, 6);
+}
+
+TEST_F(LiveViewTest, AnEffectThatIsJustCheckedPlays) {
+  open();
+  goTo(kTransitionsTab);
+  ASSERT_TRUE(comesToShow(kRed));
+  e2e::ClickOn(e2e::WaitForChild(dialog, L"Button", L"Left Wipe"));
+  EXPECT_TRUE(e2e::WaitFor([&] {
+    const int blue = PixelsOf(view(), kBlue);
+    return blue > 1000 && blue < 17000;
+  })) << "in the middle of it";
+  EXPECT_TRUE(e2e::WaitFor([&] { return PixelsOf(view(), kBlue) > 19000; })) << "and at its end";
+}
+
+TEST_F(LiveViewTest, ThePointerOverTheMousesTabDarkensTheShow) {
+  open();
+  goTo(kMouseTab);
+  ASSERT_TRUE(comesToShow(kRed));
+  RECT place{};
+  GetWindowRect(view(), &place);
+  int moves = 0;
+  EXPECT_TRUE(e2e::WaitFor([&] {
+    ++moves;
+    e2e::MoveMouseTo(static_cast<int>(place.left) + 120 + moves % 2 * 40, static_cast<int>(place.top) + 100);
+    return PixelsOf(view(), kRed) == 0;
+  }));
+  EXPECT_GE(moves, 7);
+  EXPECT_TRUE(comesToShow(kRed)) << "and it comes again";
+}
+
+TEST_F(LiveViewTest, TriedByTheKeyboardTheShowEndsByAKeyAndTheDialogIsAsBefore) {
+  open();
+  goTo(kTransitionsTab);
+  ASSERT_TRUE(comesToShow(kRed));
+  const std::vector<std::wstring> before = NamesIn(folder.path());
+  const HWND button = e2e::WaitForChild(dialog, L"Button", L"&Try It");
+  ASSERT_NE(button, nullptr);
+  INPUT keys[4]{};
+  const WORD codes[] = {VK_MENU, 'T', 'T', VK_MENU};
+  for (int i = 0; i < 4; ++i) {
+    keys[i].type = INPUT_KEYBOARD;
+    keys[i].ki.wVk = codes[i];
+    if (i >= 2) keys[i].ki.dwFlags = KEYEVENTF_KEYUP;
+  }
+  SendInput(4, keys, sizeof(INPUT));
+  const HWND show = awaitShow();
+  ASSERT_NE(show, nullptr);
+  EXPECT_FALSE(IsWindowEnabled(dialog));
+  e2e::PressKey(VK_SPACE);
+  EXPECT_TRUE(isAsBefore());
+  GUITHREADINFO thread{};
+  thread.cbSize = sizeof(thread);
+  GetGUIThreadInfo(GetWindowThreadProcessId(dialog, nullptr), &thread);
+  EXPECT_EQ(thread.hwndFocus, button);
+  EXPECT_TRUE(comesToShow(kRed)) << "the little show goes on";
+  EXPECT_EQ(folder.readSettingsFile(), saved);
+  EXPECT_EQ(NamesIn(folder.path()), before);
+  e2e::PressKey(VK_ESCAPE);
+  EXPECT_TRUE(program->waitForEnd());
+  EXPECT_EQ(program->exitCode(), 0U);
+}
+
+TEST_F(LiveViewTest, TriedByTheMouseItShowsWhatIsNotSavedAndEndsByAClick) {
+  open();
+  e2e::ClickOn(e2e::WaitForChild(dialog, L"Button", L"Move image down"));  // blue comes first now
+  e2e::ClickOn(e2e::WaitForChild(dialog, L"Button", L"&Try It"));
+  ASSERT_TRUE(e2e::WaitFor([&] {
+    return program->findWindow(kShow) &&
+           e2e::ScreenPixel(e2e::ScreenSize().width / 2, e2e::ScreenSize().height / 2) ==
+               base::OpaquePixel(kBlue);
+  }));
+  e2e::ClickMouse();
+  EXPECT_TRUE(isAsBefore());
+  EXPECT_EQ(folder.readSettingsFile(), saved);
+  e2e::ClickOn(e2e::WaitForChild(dialog, L"Button", L"&Try It"));
+  ASSERT_TRUE(e2e::WaitFor([&] { return program->findWindow(kShow) != nullptr; })) << "as often as wanted";
+  e2e::PressKey(VK_SPACE);
+  EXPECT_TRUE(isAsBefore());
+}
+
+TEST_F(LiveViewTest, ACrashLeavesWhatWasTried) {
+  open();
+  e2e::ClickOn(e2e::WaitForChild(dialog, L"Button", L"Move image down"));
+  e2e::ClickOn(e2e::WaitForChild(dialog, L"Button", L"&Try It"));
+  ASSERT_TRUE(e2e::WaitFor([&] { return program->findWindow(kShow) != nullptr; }));
+  ASSERT_TRUE(e2e::WaitFor([&] {
+    return e2e::ScreenPixel(e2e::ScreenSize().width / 2, e2e::ScreenSize().height / 2) ==
+           base::OpaquePixel(kBlue);
+  }));
+  // A thread that begins at an address where nothing is.
+  const os::OwnedHandle thread(CreateRemoteThread(
+      program->process(), nullptr, 0, reinterpret_cast<LPTHREAD_START_ROUTINE>(8), nullptr, 0, nullptr));
+  ASSERT_TRUE(thread);
+  EXPECT_TRUE(program->waitForEnd());
+  EXPECT_NE(program->exitCode(), 0U);
+  EXPECT_EQ(folder.readSettingsFile(), saved);
+  e2e::RunningProgram again(folder.program(), L"/C");
+  ASSERT_NE(e2e::DialogOf(again), nullptr) << "the dialog opens as ever";
+  const std::vector<std::wstring> names = NamesIn(folder.path());
+  EXPECT_NE(std::find(names.begin(), names.end(), L"zbfaone.bak"), names.end());
+}
+
+}  // namespace

@@ -1,0 +1,25 @@
+#include "startup/caption_example.h"
+
+#include <gtest/gtest.h>
+
+#include "support/fake_ansi_code_page.h"
+#include "support/fake_date_text.h"
+
+namespace startup {
+namespace {
+
+TEST(CaptionExampleTest, KnowsAWordForEveryToken) {
+  const support::FakeDateText dates;
+  const support::FakeAnsiCodePage ansi;
+  for (const char* token : {"{name}", "{file}", "{folder}", "{date}", "{time}", "{camera}", "{title}",
+                            "{number}", "{total}"}) {
+    const std::string word = CaptionExample(token, dates, ansi);
+    EXPECT_FALSE(word.empty()) << token;
+    EXPECT_NE(word, token);
+  }
+  EXPECT_EQ(CaptionExample("{title}| - {folder}|", dates, ansi), "Evening at the lake - Summer");
+  EXPECT_EQ(CaptionExample("", dates, ansi), "");
+}
+
+}  // namespace
+}  // namespace startup
