@@ -15,6 +15,9 @@ std::wstring WidePath(const std::string& path, std::size_t extra = 0);
 // True when there is a file at a path.
 bool IsFile(const std::string& path);
 
+// The path from the root on; the path itself when the system knows no other.
+std::wstring FullPath(const std::wstring& path);
+
 // An open file, closed at the end of its owner.
 class FileHandle {
  public:

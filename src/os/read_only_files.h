@@ -24,6 +24,7 @@ class ReadOnlyFiles final : public Files {
   }
   bool replace(const std::string&, std::string_view) override { return false; }
   bool exists(const std::string& path) override { return path == path_ || files_.exists(path); }
+  std::optional<LocalTime> changedAt(const std::string& path) override { return files_.changedAt(path); }
   bool canWriteIn(const std::string&) override { return false; }
   std::vector<std::string> foldersIn(const std::string& folder) override { return files_.foldersIn(folder); }
   std::vector<std::string> filesIn(const std::string& folder) override { return files_.filesIn(folder); }

@@ -110,7 +110,10 @@ class Face : public forms::Form {
   // Picture number `number` of the list comes next.
   void setNext(std::int16_t number) { currentImageIndex_ = number; }
   void prepareNext();
-  void awaitPicture();
+  void awaitPicture(const std::function<bool()>& givenUp);
+
+  // The picture that was awaited last cannot be had.
+  bool hasGone() const;
 
   // The steps of a change.
   void clearForChange();

@@ -36,14 +36,19 @@ void Face::prepareNext() {
 }
 
 // The old picture stands until the new one is there, or is known not to come.
-void Face::awaitPicture() {
+void Face::awaitPicture(const std::function<bool()>& givenUp) {
   if (!loadsAhead()) return;
-  for (auto wish = wishFor(currentImageIndex_); wish && !isOver_();) {
-    next_.wait(*wish, isOver_);
+  for (auto wish = wishFor(currentImageIndex_); wish && !givenUp();) {
+    next_.wait(*wish, givenUp);
     auto now = wishFor(currentImageIndex_);  // on the screen as it has become
     if (now && now->isSameAs(*wish)) return;
     wish = std::move(now);
   }
+}
+
+bool Face::hasGone() const {
+  const auto wish = wishFor(currentImageIndex_);
+  return loadsAhead() && (!wish || next_.isKnownToFail(*wish));
 }
 
 void Face::LoadCurrentPicture() {

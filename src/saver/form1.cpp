@@ -19,6 +19,7 @@ constexpr int kClockIntervalMs = 100;
 constexpr int kScrollIntervalMs = 100;
 constexpr int kNewsIntervalMs = 500;
 constexpr int kRememberIntervalMs = 10 * 60 * 1000;
+constexpr int kWishIntervalMs = 10;
 
 }  // namespace
 
@@ -46,7 +47,9 @@ Form1::Form1(const ShowServices& services, const os::SystemFacts& facts, std::st
       programFolder_(std::move(programFolder)),
       order_(settings_, services.files, programFolder_, services.library),
       newsTimer_(services.loop, kNewsIntervalMs),
-      rememberTimer_(services.loop, kRememberIntervalMs) {
+      rememberTimer_(services.loop, kRememberIntervalMs),
+      wishTimer_(services.loop, kWishIntervalMs),
+      notes_(*this, services.loop) {
   time.setVisible(false);
   time.setTransparent(true);
   time.setFont({.name = "MS Sans Serif", .sizePoints = 13.5F});
@@ -73,6 +76,10 @@ void Form1::wireTimers() {
   on(timeTimer, [this] { timeDisplay_.timeTimer_Timer(); });
   on(newsTimer_, [this] { takeNews(); });
   on(rememberTimer_, [this] { order_.save(); });
+  on(wishTimer_, [this] { carryOutWishes(true); });
+  notes_.onSignGone = [this] {
+    if (!isOver()) flush();
+  };
 }
 
 void Form1::flush() {
@@ -83,9 +90,10 @@ void Form1::unload() {
   if (!unloaded_) order_.save();
   unloaded_ = true;
   for (forms::Timer* timer : {&StartSaver, &ImageChangeTimer, &FloatTimer, &ScrollerTimer, &timeTimer,
-                              &newsTimer_, &rememberTimer_}) {
+                              &newsTimer_, &rememberTimer_, &wishTimer_}) {
     timer->setEnabled(false);
   }
+  notes_.end();
   for (Face* face : faces()) face->endFace();
   shapes_.forget();
 }
@@ -104,6 +112,7 @@ void Form1::Form_Load() {
   if (facts_.guardsPassword()) services_.desktop.setScreenSaverRunning(true);
   settings::LoadSettings(settings_, document);
   if (onSettingsLoaded) onSettingsLoaded();
+  if (takesKeys()) showNotes();
   beginOrder();
   PrepareDisplay();
   flush();
@@ -129,10 +138,8 @@ void Form1::StartSaver_Timer() {
   if (floats()) {
     setFloatInterval();
   } else if (base::StrictDouble(settings_.record.timeInterval) == 0) {
-    ShowNextPicture();
-    if (isOver()) return;
-    ShowCaption();
-    StartSaver.setEnabled(false);
+    changePictures();
+    if (!isOver()) StartSaver.setEnabled(false);
     return;
   }
   startPictureCycle();
@@ -149,26 +156,34 @@ void Form1::setFloatInterval() {
 }
 
 void Form1::startPictureCycle() {
-  ShowNextPicture();
+  cycles_ = true;
+  changePictures();
   if (isOver()) return;
-  ShowCaption();
-  AdvancePictureIndex();
-  ImageChangeTimer.setEnabled(true);
+  ImageChangeTimer.setEnabled(!isHeld_);
   ImageChangeTimer.setInterval(changeIntervalMs());
   if (floats()) PickFloatDirection();
   StartSaver.setEnabled(false);
 }
 
+// The pictures that come next come, and those behind them are chosen, where there are to be any.
+void Form1::changePictures() {
+  if (!ShowNextPicture()) {
+    if (!isOver()) leaveAwaited();
+    return;
+  }
+  ShowCaption();
+  if (takesKeys()) noteShown();
+  if (cycles_ || takesKeys()) chooseNext(Upcoming::HasCome);
+}
+
 void Form1::ImageChangeTimer_Timer() {
   if (change_ != ChangeState::None) return;
   reseed();
-  if (floats()) FloatTimer_Timer();
+  if (floats() && !isHeld_) FloatTimer_Timer();
   if (currentImageIndex_ > settings_.lastImageIndex) currentImageIndex_ = 0;
   ImageChangeTimer.setInterval(kChangeHoldMs);
-  ShowNextPicture();
+  changePictures();
   if (isOver()) return;
-  ShowCaption();
-  AdvancePictureIndex();
   ImageChangeTimer.setInterval(changeIntervalMs());
 }
 

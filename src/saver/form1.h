@@ -25,8 +25,12 @@
 #include "saver/face.h"
 #include "saver/picture_order.h"
 #include "saver/picture_shapes.h"
+#include "saver/show_notes.h"
+#include "saver/show_wish.h"
+#include "saver/shown_pictures.h"
 #include "saver/time_display.h"
 #include "saver/upcoming_pictures.h"
+#include "saver/wish_queue.h"
 #include "settings/load_settings.h"
 
 namespace saver {
@@ -107,6 +111,16 @@ class Form1 : public Face {
   void unload();
   bool isOver() const { return unloaded_ || services_.loop.isQuitting(); }
 
+  // [extras] keys: keys wish for things instead of ending the show. Known once the settings are loaded.
+  bool takesKeys() const { return settings_.record.keys == "1"; }
+
+  // Carries a wish out: at once, or as soon as the change that is under way has been brought to its end.
+  // `isRepeated`: the key is held down. Ending the program to open a folder is not the form's to do.
+  void wish(ShowWish wish, bool isRepeated = false);
+
+  // The path of the picture that came to the primary screen last, as the list has it; empty when none did.
+  std::string shownPath() const;
+
   // On any thread, when the program has crashed: see PictureOrder.
   void rememberAfterCrash() noexcept { order_.saveAfterCrash(); }
 
@@ -121,7 +135,7 @@ class Form1 : public Face {
   void StartSaver_Timer();
   void ImageChangeTimer_Timer();
   void AdvancePictureIndex();
-  void ShowNextPicture();
+  bool ShowNextPicture();  // false when what was to come has not come: the end, or another wish
   void RetireOldPicture();
   void RunTransition();
   void ShowCaption();
@@ -134,6 +148,16 @@ class Form1 : public Face {
   // effect drew is for another screen, and the effect is given up.
   enum class ChangeState { None, Awaiting, UnderWay, EffectGivenUp };
   class ChangeScope;
+  class StepScope;
+
+  // Of the pictures that the order chose to come next.
+  enum class Upcoming { HasCome, Stands };
+
+  // Whether a picture is to be put away has been asked.
+  struct Asked {
+    std::string path;
+    std::int64_t untilMs = 0;
+  };
 
   static constexpr std::size_t kWishesOfAFace = 2;  // a picture and a background
   static constexpr std::size_t kWishesForShapes = 1;
@@ -149,6 +173,8 @@ class Form1 : public Face {
   void flush();
   void beginOrder();
   void takeNews();
+  void chooseFromNewList();
+  void changePictures();
   std::uint64_t drawSeed();
   bool spans() const { return otherScreens_ == OtherScreens::Span; }
   base::PixelRect areaToCover() const;
@@ -185,6 +211,28 @@ class Form1 : public Face {
   void runDirectEffect();
   std::function<bool()> givenUp() const;
   void reseed();
+  bool showsPicture() const;
+
+  bool endsAwaiting(ShowWish wish) const;
+  bool endsChange(ShowWish wish);
+  void carryOutWishes(bool takesSteps);
+  void carryOut(ShowWish wish);
+  void stepToNext();
+  void stepBack();
+  void takeStep();
+  void chooseNext(Upcoming upcoming);
+  void bringAgain(const ShownPictures::Change& change);
+  void takeUp();
+  void stepThroughNewList();
+  void leaveAwaited();
+  void noteShown();
+  void holdOrGoOn();
+  void neverAgain();
+  void putAway(std::string path);
+  void inform();
+  std::optional<std::int16_t> indexOf(const ShownPicture& picture) const;
+  void showNotes();
+  void layOutNotes();
 
   ShowServices services_;
   os::SystemFacts facts_;
@@ -204,8 +252,25 @@ class Form1 : public Face {
   std::vector<Face*> changing_;  // the faces of the change that is under way
   std::vector<Further> gone_;    // their screens have gone; a change may still be at work on them
   ChangeState change_ = ChangeState::None;
+  bool cycles_ = false;  // pictures change by themselves
   bool isPrepared_ = false;
   bool unloaded_ = false;
+
+  // Of a show that takes keys.
+  WishQueue wishes_;
+  forms::Timer wishTimer_;
+  ShownPictures shown_;
+  ShowNotes notes_;
+  std::optional<ShownPicture> present_;                // on the primary screen
+  std::optional<std::vector<std::int16_t>> putAside_;  // what comes next when older pictures have come again
+  std::optional<Asked> asked_;
+  std::optional<ShowWish> leavesAwaited_;  // for this the awaited pictures are to come no more
+  bool hurries_ = false;                   // the change is to come to its end at once
+  bool steps_ = false;                     // the user has asked for the change
+  bool awaitsOlder_ = false;               // a picture that is left out when it has gone
+  bool olderHasGone_ = false;
+  bool isHeld_ = false;
+  bool informs_ = false;
 };
 
 }  // namespace saver

@@ -41,9 +41,12 @@ class Form1::ChangeScope {
   explicit ChangeScope(Form1& show) : show_(show) {
     show_.change_ = ChangeState::Awaiting;
     show_.changing_ = show_.faces();
+    show_.hurries_ = show_.steps_;
+    show_.leavesAwaited_.reset();
   }
   ~ChangeScope() {
     show_.change_ = ChangeState::None;
+    show_.hurries_ = false;
     show_.changing_.clear();
     show_.gone_.clear();
   }
@@ -55,15 +58,22 @@ class Form1::ChangeScope {
 };
 
 std::function<bool()> Form1::givenUp() const {
-  return [this] { return isOver() || change_ == ChangeState::EffectGivenUp; };
+  return [this] { return isOver() || hurries_ || change_ == ChangeState::EffectGivenUp; };
 }
 
-void Form1::ShowNextPicture() {
+bool Form1::showsPicture() const { return !ShowsNothing(DisplayingPicture.picture()); }
+
+bool Form1::ShowNextPicture() {
   const ChangeScope change(*this);
+  const auto isLeft = [this] { return isOver() || leavesAwaited_; };
   for (Face* face : changing_) {
     if (otherScreens_ != OtherScreens::Different) face->setNext(currentImageIndex());
-    face->awaitPicture();
-    if (isOver()) return;
+    face->awaitPicture(isLeft);
+    if (isLeft()) return false;
+    if (face == this && awaitsOlder_ && hasGone()) {
+      olderHasGone_ = true;
+      return false;
+    }
   }
   change_ = ChangeState::UnderWay;
   for (Face* face : changing_) face->clearForChange();
@@ -72,7 +82,7 @@ void Form1::ShowNextPicture() {
   } else {
     ReplaceByWayOfBackground();
   }
-  if (isOver()) return;
+  if (isOver()) return false;
   for (Face* face : changing_) {
     if (change_ == ChangeState::EffectGivenUp) {
       face->look().showScreen();
@@ -80,8 +90,9 @@ void Form1::ShowNextPicture() {
     }
     face->pictureShown_ = true;
   }
-  FloatTimer.setEnabled(floats());
+  FloatTimer.setEnabled(floats() && !isHeld_);
   for (Face* face : changing_) face->look().startGlide(face->DisplayingPicture);
+  return true;
 }
 
 void Form1::ReplaceByWayOfBackground() {
@@ -100,7 +111,7 @@ void Form1::ReplaceByWayOfBackground() {
 
 void Form1::bringPictures(void (Face::*bring)()) {
   for (Face* face : changing_) {
-    order_.shown(face->currentImageIndex());
+    if (!shown_.aims()) order_.shown(face->currentImageIndex());
     (face->*bring)();
     if (isOver()) return;
   }
@@ -132,10 +143,10 @@ void Form1::runEffectOn(const std::vector<Face*>& faces) {
     std::vector<Face*> seen;  // of the others nobody would see the effect, only wait for it
     std::ranges::copy_if(faces, std::back_inserter(seen),
                          [](Face* face) { return !ShowsNothing(face->IntialPicture.picture()); });
-    if (seen.empty()) return;
-    const std::optional<int> number = ChooseEffect(FlagsOf(settings_.record), random_, services_.clock,
-                                                   services_.loop, [this] { return isOver(); });
-    if (!number || isOver() || change_ == ChangeState::EffectGivenUp) return;
+    if (seen.empty() || hurries_) return;
+    const std::optional<int> number =
+        ChooseEffect(FlagsOf(settings_.record), random_, services_.clock, services_.loop, givenUp());
+    if (!number || givenUp()()) return;
     const Effect& effect = EffectNumbered(*number);
     std::vector<EffectOnBox> effects;
     for (Face* face : seen) {
@@ -158,7 +169,7 @@ void Form1::ReplacePictures() {
   change_ = ChangeState::UnderWay;
   bringPictures(&Face::freezeAndBringPicture);
   if (isOver()) return;
-  if (look().looks().change == ChangeStyle::Direct) {
+  if (look().looks().change == ChangeStyle::Direct && !hurries_) {
     runDirectEffect();
   } else {
     fade();
@@ -175,19 +186,19 @@ void Form1::runDirectEffect() {
 void Form1::fade() {
   std::vector<RunningCrossfade> running;
   for (Face* face : changing_) {
+    if (hurries_) break;
     if (const auto one = face->fadeToPicture()) running.push_back(*one);
   }
   const int durationMs = ParseTransitionTime(settings_.record.transitionTime).value_or(kCrossfadeMs);
-  if (!running.empty() && !RunCrossfades(running, durationMs, services_.clock, services_.loop, givenUp())) {
-    return;
-  }
+  if (!running.empty()) RunCrossfades(running, durationMs, services_.clock, services_.loop, givenUp());
+  if (isOver() || change_ == ChangeState::EffectGivenUp) return;
   for (Face* face : changing_) face->look().showScreen();
   flush();
 }
 
 void Form1::pauseAfterRetiring() {
   const float start = os::SecondsSinceMidnight(services_.clock.now());
-  while (!isOver()) {
+  while (!isOver() && !hurries_) {
     float passed = os::SecondsSinceMidnight(services_.clock.now()) - start;
     if (passed < 0) passed += kSecondsOfDay;  // midnight came in between
     if (passed >= kPauseSeconds) return;

@@ -153,7 +153,10 @@ void Form1::prepareAll() {
 
 // A change that is under way knows its picture by the list as it was, so the news waits for its end.
 void Form1::takeNews() {
-  if (change_ != ChangeState::None || !order_.takeNews()) return;
+  if (change_ == ChangeState::None && order_.takeNews()) chooseFromNewList();
+}
+
+void Form1::chooseFromNewList() {
   upcoming_ = {};
   if (!pictureShown()) {
     if (loadsAhead()) chooseFirst();
@@ -164,6 +167,7 @@ void Form1::takeNews() {
     chooseForFurther();
     prepareAll();
   }
+  if (takesKeys()) stepThroughNewList();
 }
 
 void Form1::reseed() { random_.reseed(os::SecondsSinceMidnight(services_.clock.now())); }

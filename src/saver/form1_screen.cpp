@@ -16,6 +16,7 @@ void Form1::coverScreen() {
   cover(areaToCover());
   part_ = base::PixelRect::ofSize(services_.screen.primarySize()).movedBy(-area().left, -area().top);
   if (spans()) keepWordsOnPrimary();
+  layOutNotes();
 }
 
 // A caption or a clock across the frames of two screens cannot be read.
@@ -101,6 +102,7 @@ void Form1::addFurther(const FurtherScreen& screen) {
   Face& face = *further.face;
   further_.push_back(std::move(further));
   face.showOnStage();
+  face.look().hold(isHeld_);
   if (keepsDesktop_) face.keepDesktop(screen.area);
   face.cover(screen.area);
   face.floatStep_ = floatStep_;

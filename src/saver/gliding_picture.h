@@ -18,6 +18,9 @@ class GlidingPicture final : public LivePicture {
 
   // Goes on to where it is at a moment of the clock on which it started.
   void moveTo(std::int64_t nowMs);
+
+  // It has stood still for so long.
+  void startLater(std::int64_t ms) { startMs_ += ms; }
   bool hasArrived(std::int64_t nowMs) const { return nowMs - startMs_ >= glide_.durationMs(); }
 
   // What it shows now.

@@ -27,6 +27,11 @@ class NextPicture {
   // Waits, and hands the picture out. Null when it cannot be had, not in time, or not before `over`.
   pictures::SharedPicture take(const pictures::Wish& wish, const std::function<bool()>& over);
 
+  // It has been waited for, and cannot be had.
+  bool isKnownToFail(const pictures::Wish& wish) const {
+    return coming_ && coming_->answered && !coming_->picture && coming_->wish.isSameAs(wish);
+  }
+
   void forget();
 
  private:

@@ -39,7 +39,22 @@ void PictureLook::startGlide(const forms::PictureBox& box) {
   gliding_.emplace(composed_->pixels, composed_->glide, base::PixelPoint{place.left, place.top},
                    clock_.tickMs());
   stage_.showLive(&*gliding_);
-  frames_.setEnabled(true);
+  if (heldSinceMs_) heldSinceMs_ = clock_.tickMs();
+  frames_.setEnabled(!heldSinceMs_);
+}
+
+void PictureLook::hold(bool held) {
+  if (held == heldSinceMs_.has_value()) return;
+  const std::int64_t now = clock_.tickMs();
+  if (held) {
+    heldSinceMs_ = now;
+    end();
+    return;
+  }
+  const std::int64_t passed = now - *std::exchange(heldSinceMs_, std::nullopt);
+  if (!gliding_) return;
+  gliding_->startLater(passed);
+  frames_.setEnabled(!gliding_->hasArrived(now));
 }
 
 void PictureLook::showFrame() {

@@ -1,6 +1,7 @@
 // The look of the show's pictures beyond the documented one: composed, gliding, fading into each other.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 
 #include "base/bitmap.h"
@@ -44,6 +45,9 @@ class PictureLook {
   // The box takes the picture over where it is.
   void stopGlide(forms::PictureBox& box);
 
+  // A held picture glides no further, and goes on from there.
+  void hold(bool held);
+
   // The screen stays as it is but for its texts, whatever is done to the boxes, until it is shown or faded
   // to.
   void freezeScreen();
@@ -72,6 +76,7 @@ class PictureLook {
   std::optional<ComposedPicture> composed_;  // that the box shows, or is about to
   std::optional<GlidingPicture> gliding_;
   forms::Timer frames_{loop_, kGlideFrameMs};
+  std::optional<std::int64_t> heldSinceMs_;
   std::optional<Crossfade> crossfade_;
   int turn_ = 0;
 };

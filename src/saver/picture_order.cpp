@@ -1,5 +1,6 @@
 #include "saver/picture_order.h"
 
+#include <algorithm>
 #include <exception>
 #include <limits>
 #include <utility>
@@ -27,8 +28,9 @@ PictureOrder::PictureOrder(settings::SaverSettings& settings, os::Files& files,
 void PictureOrder::begin() {
   const settings::SettingsRecord& record = settings_.record;
   resumes_ = record.resume == "1";
+  const bool hides = record.keys == "1";
   const bool follows = !settings_.folders.empty() && services_.follow != nullptr;
-  if (!resumes_ && !follows && !isDeck()) return;
+  if (!resumes_ && !follows && !hides && !isDeck()) return;
   readState();
   leaveOutHidden();
   ownCount_ = count();
@@ -42,10 +44,11 @@ void PictureOrder::begin() {
 }
 
 void PictureOrder::readState() {
-  const std::optional<std::string> payload = stateFile_.load();
-  if (payload) state_ = library::ShowStateOf(*payload).value_or(library::ShowState());
-  if (!resumes_) state_.position = {};
+  state_ = library::LoadShowState(stateFile_);
   for (const std::string& path : state_.hidden) hidden_.insert(library::PathHash(path));
+  if (resumes_) return;
+  earlier_ = state_;
+  state_.position = {};
 }
 
 // The list's order is the settings' business, so a hidden picture leaves it with its caption.
@@ -57,7 +60,22 @@ void PictureOrder::leaveOutHidden() {
     paths().erase(paths().begin() + static_cast<std::ptrdiff_t>(i));
     captions.erase(captions.begin() + static_cast<std::ptrdiff_t>(i));
     --settings_.lastImageIndex;
+    if (i < ownCount_) --ownCount_;
   }
+}
+
+bool PictureOrder::hide(const std::string& path) {
+  const std::uint64_t hash = library::PathHash(path);
+  hidden_.insert(hash);
+  const std::lock_guard lock(stateMutex_);
+  const std::size_t last = std::min<std::size_t>(state_.lastIndex, count());
+  const auto isHidden = [hash](const std::string& other) { return library::PathHash(other) == hash; };
+  state_.lastIndex -= static_cast<std::uint32_t>(
+      std::count_if(paths().begin(), paths().begin() + static_cast<std::ptrdiff_t>(last), isHidden));
+  leaveOutHidden();
+  state_.hidden.push_back(path);
+  earlier_.hidden.push_back(path);
+  return write(resumes_ ? state_ : earlier_);
 }
 
 bool PictureOrder::isDeck() const {
@@ -121,20 +139,19 @@ void PictureOrder::shown(std::int16_t index) {
 
 void PictureOrder::save() noexcept {
   const std::lock_guard lock(stateMutex_);
-  write();
+  if (hasPosition()) write(state_);
 }
 
 void PictureOrder::saveAfterCrash() noexcept {
   const std::unique_lock lock(stateMutex_, std::try_to_lock);
-  if (lock) write();
+  if (lock && hasPosition()) write(state_);
 }
 
-void PictureOrder::write() noexcept {
-  if (!resumes_ || state_.position.lastPath.empty()) return;
+bool PictureOrder::write(const library::ShowState& state) noexcept {
   try {
-    stateFile_.save(library::PayloadOf(state_));
+    return stateFile_.save(library::PayloadOf(state));
   } catch (const std::exception&) {
-    // Without memory the next show begins where the one before began.
+    return false;  // without memory the next show begins where the one before began
   }
 }
 

@@ -26,8 +26,8 @@ struct LibraryServices {
 };
 
 // [extras] shuffle deals the pictures like cards where they come in random order; [extras] resume goes on
-// behind the picture that the last show showed last; the folders of [folders] are followed. With none of
-// these it does nothing, and the documented rules stand.
+// behind the picture that the last show showed last; the folders of [folders] are followed; with [extras]
+// keys pictures can be hidden for good. With none of these it does nothing, and the documented rules stand.
 class PictureOrder {
  public:
   using DrawSeed = std::function<std::uint64_t()>;
@@ -63,6 +63,10 @@ class PictureOrder {
   // The picture at the index comes to the screen.
   void shown(std::int16_t index);
 
+  // A picture of the list leaves it, wherever the list has it, in this show and in all to come. The show then
+  // asks for its next picture again. False when only this show will know, as nothing could be written.
+  bool hide(const std::string& path);
+
   // Remembers for the next show. Never throws; what cannot be written is forgotten.
   void save() noexcept;
 
@@ -76,7 +80,8 @@ class PictureOrder {
   std::size_t count() const { return static_cast<std::size_t>(settings_.lastImageIndex + 1); }
   std::optional<std::int16_t> deal(const library::DeckPosition& behind, const DrawSeed& drawSeed);
   void readState();
-  void write() noexcept;
+  bool hasPosition() const { return resumes_ && !state_.position.lastPath.empty(); }
+  bool write(const library::ShowState& state) noexcept;
   void leaveOutHidden();
   void putBehindOwn(std::vector<std::string> followed);
 
@@ -86,7 +91,8 @@ class PictureOrder {
   library::KeptFile stateFile_;
   std::unique_ptr<library::PictureFollower> follower_;
   library::ShowState state_;
-  std::mutex stateMutex_;                     // for a crash on another thread, which looks at the state
+  library::ShowState earlier_;  // as a show before left it, where this one does not go on from there
+  std::mutex stateMutex_;       // for a crash on another thread, which looks at the state
   std::unordered_set<std::uint64_t> hidden_;  // hashes of the paths that are not to be shown
   std::uint64_t dealtRound_ = 0;              // of the picture that was dealt last
   std::size_t ownCount_ = 0;                  // pictures of the settings' list

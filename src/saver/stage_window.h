@@ -39,6 +39,7 @@ class StageWindow {
 
   // What the user and the system do to the window.
   std::function<void(int keyCode)> onKeyDown;
+  std::function<void(int keyCode)> onKeyRepeat;  // it is held down; without a handler it goes down once more
   std::function<void(base::PixelPoint)> onMouseDown;
   std::function<void(base::PixelPoint)> onMouseMove;
   std::function<void()> onCloseRequest;           // somebody asks the window politely to go

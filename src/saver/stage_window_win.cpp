@@ -12,6 +12,9 @@ namespace {
 // Other programs look for a running saver under this class name, to close it politely.
 constexpr const wchar_t* kClassName = L"WindowsScreenSaverClass";
 
+// Of a key message: the key was down before.
+bool IsRepeat(LPARAM lParam) { return (HIWORD(lParam) & KF_REPEAT) != 0; }
+
 }  // namespace
 
 StageWindowWin::StageWindowWin(os::EventLoop& loop) : loop_(loop) {
@@ -90,7 +93,7 @@ LRESULT StageWindowWin::receive(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
-      raise(onKeyDown, static_cast<int>(wParam));
+      raise(IsRepeat(lParam) && onKeyRepeat ? onKeyRepeat : onKeyDown, static_cast<int>(wParam));
       return 0;
     case WM_LBUTTONDOWN:
     case WM_MBUTTONDOWN:

@@ -20,6 +20,7 @@
 #include "os/picture_decoder_win.h"
 #include "os/program_resources_win.h"
 #include "os/screen_win.h"
+#include "os/shell.h"
 #include "os/system_library_win.h"
 #include "os/text_renderer_win.h"
 #include "pictures/picture_loader.h"
@@ -86,6 +87,7 @@ class SaverMode {
   }
 
   void rememberAfterCrash() noexcept { show_.rememberAfterCrash(); }
+  const std::string& pictureToOpen() const { return show_.pictureToOpen(); }
 
  private:
   std::unique_ptr<pictures::AheadLoader> ahead_;
@@ -162,10 +164,12 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
                 {*machine.facts, *machine.only, *machine.passwords, restore, machine.screen}, modes);
   if (saver || settings) machine.loop.run();
   guard.setFarewell(nullptr);
+  const std::string picture = saver ? saver->pictureToOpen() : std::string();
   saver.reset();
   settings.reset();
   live.reset();
   restore.restore();
+  if (!picture.empty()) os::MakeShell()->openFolderOf(picture);
   startup::EndLoading(std::move(machine.ahead));
   return 0;
 }

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "startup/cursor_rules.h"
+#include "startup/show_keys.h"
 
 namespace startup {
 
@@ -82,7 +83,8 @@ void Show::watchInput() {
                  InputWatch::Actions{.showCursor = [this] { ShowCursor(restore_); },
                                      .exitSaver = [this] { exit_.ExitSaver(); }});
   saver::StageWindow& window = services_.window;
-  window.onKeyDown = [this](int) { watch_->Form_KeyDown(); };
+  window.onKeyDown = [this](int keyCode) { keyDown(keyCode, false); };
+  window.onKeyRepeat = [this](int keyCode) { keyDown(keyCode, true); };
   window.onMouseDown = [this](base::PixelPoint) { watch_->Form_MouseDown(); };
   window.onMouseMove = [this](base::PixelPoint place) { mouseMoved(place); };
   window.onCloseRequest = [this] { exit_.ExitSaver(); };
@@ -140,6 +142,7 @@ std::unique_ptr<Show::Cover> Show::makeCover() {
   auto made = std::make_unique<Cover>(Cover{makeWindow_(), {}, {}});
   Cover& cover = *made;
   cover.window->onKeyDown = services_.window.onKeyDown;
+  cover.window->onKeyRepeat = services_.window.onKeyRepeat;
   cover.window->onMouseDown = services_.window.onMouseDown;
   cover.window->onMouseMove = [this, &cover](base::PixelPoint place) { coverMouseMoved(cover, place); };
   cover.window->onCloseRequest = services_.window.onCloseRequest;
@@ -195,6 +198,26 @@ std::optional<PointedControl> Show::pointedControl(base::PixelPoint onScreen) co
   const float y = static_cast<float>(inWindow.y) * perPixel;
   return PointedControl{WatchedControl::Form, x,
                         form_.scaleHeight() == 0 ? y : y * form_.scaleHeight() / form_.height()};
+}
+
+void Show::keyDown(int keyCode, bool isRepeated) {
+  const bool takesKeys = form_.takesKeys() && !form_.isOver();
+  const std::optional<saver::ShowWish> wish = takesKeys ? WishOfKey(keyCode) : std::nullopt;
+  if (!wish) {
+    watch_->Form_KeyDown();
+  } else if (*wish == saver::ShowWish::OpenFolder) {
+    endForFolder();
+  } else {
+    form_.wish(*wish, isRepeated);
+  }
+}
+
+// Where a password is asked for, a folder would be open behind the dialog that asks.
+void Show::endForFolder() {
+  const std::string picture = form_.shownPath();
+  if (facts_.guardsPassword() || picture.empty()) return;
+  exit_.ExitSaver();
+  if (form_.isOver()) pictureToOpen_ = picture;
 }
 
 void Show::mouseMoved(base::PixelPoint inWindow) {

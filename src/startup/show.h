@@ -32,6 +32,10 @@ class Show {
 
   saver::Form1& form() { return form_; }
 
+  // The picture whose folder the user wants to see, once the show has ended and the system is as it was
+  // before it; empty when none is wanted.
+  const std::string& pictureToOpen() const { return pictureToOpen_; }
+
   // On any thread, when the program has crashed: what the next show needs to go on is kept.
   void rememberAfterCrash() noexcept { form_.rememberAfterCrash(); }
 
@@ -49,6 +53,8 @@ class Show {
   std::unique_ptr<Cover> makeCover();
   void screenChanged();
   void displayPowerChanged(bool isOn);
+  void keyDown(int keyCode, bool isRepeated);
+  void endForFolder();
   void mouseMoved(base::PixelPoint inWindow);
   void coverMouseMoved(Cover& cover, base::PixelPoint inside);
   void forgetPointer();
@@ -73,6 +79,7 @@ class Show {
   saver::Form1 form_;  // shows pictures in them
   SaverExit exit_;
   std::optional<InputWatch> watch_;
+  std::string pictureToOpen_;
   bool missedScreenChange_ = false;  // while the display was off
 };
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/fake_ansi_code_page.h"
+#include "support/windows_1252.h"
 #include "support/fake_date_text.h"
 
 namespace startup {
@@ -10,7 +10,7 @@ namespace {
 
 TEST(CaptionExampleTest, KnowsAWordForEveryToken) {
   const support::FakeDateText dates;
-  const support::FakeAnsiCodePage ansi;
+  const support::Windows1252 ansi;
   for (const char* token : {"{name}", "{file}", "{folder}", "{date}", "{time}", "{camera}", "{title}",
                             "{number}", "{total}"}) {
     const std::string word = CaptionExample(token, dates, ansi);

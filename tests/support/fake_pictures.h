@@ -15,6 +15,8 @@ class FakePictures : public pictures::PictureLoader {
 
   void add(const std::string& path, base::PixelSize size, base::PackedColor color);
 
+  void remove(const std::string& path) { files_.erase(path); }
+
   // A picture whose header can be read and whose pixels cannot be decoded.
   void addBroken(const std::string& path, base::PixelSize size);
 

@@ -21,7 +21,7 @@ dialog::SettingsDialog& SettingsDialogMachine::openDialog() {
 dialog::SettingsDialog& SettingsDialogMachine::openDialogOnFile() {
   dialog_ = std::make_unique<dialog::SettingsDialog>(
       dialog::DialogServices{files, ansi, pictures, dialogs, windows, nullptr, &ahead, folders,
-                             workers.maker(), live},
+                             workers.maker(), nullptr, {}, live},
       loop, shell, kProgramFolder, nullptr);
   dialog_->show();
   return *dialog_;

@@ -16,6 +16,8 @@ class ShellRecorder : public os::Shell {
     opened.push_back(target);
     return 42;  // more than 32: something was opened
   }
+
+  void openFolderOf(const std::string& path) override { opened.push_back("folder of " + path); }
 };
 
 }  // namespace support
