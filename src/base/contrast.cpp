@@ -13,6 +13,11 @@ double Linear(int component) {
   return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
 }
 
+int Component(double linear) {
+  const double value = linear <= 0.0031308 ? linear * 12.92 : 1.055 * std::pow(linear, 1 / 2.4) - 0.055;
+  return static_cast<int>(std::lround(value * 255));
+}
+
 double Luminance(PackedColor color) {
   return 0.2126 * Linear(RedOf(color)) + 0.7152 * Linear(GreenOf(color)) + 0.0722 * Linear(BlueOf(color));
 }
@@ -34,6 +39,11 @@ double ContrastRatio(PackedColor a, PackedColor b) {
   const double one = Luminance(a) + 0.05;
   const double other = Luminance(b) + 0.05;
   return std::max(one, other) / std::min(one, other);
+}
+
+PackedColor WithShareOfLight(PackedColor color, double share) {
+  const auto part = [share](int component) { return Component(share * Linear(component)); };
+  return Rgb(part(RedOf(color)), part(GreenOf(color)), part(BlueOf(color)));
 }
 
 PackedColor ReadableOn(PackedColor color, PackedColor background) {

@@ -12,6 +12,9 @@ constexpr double kReadableContrast = 4.5;
 // The contrast of two colours by their relative luminance, from 1 (none) to 21 (black and white).
 double ContrastRatio(PackedColor a, PackedColor b);
 
+// The colour with a share (0 to 1) of its light.
+PackedColor WithShareOfLight(PackedColor color, double share);
+
 // The colour, or one of its own hue between it and white or black that can be read on the background.
 PackedColor ReadableOn(PackedColor color, PackedColor background);
 

@@ -144,6 +144,16 @@ void Face::shadeWords(const forms::Label& words) {
   if (settings_.record.shade == "1") face_.stage.shadeText(words, ShadeFor(words.foreColor()));
 }
 
+void Face::takeCare(std::int64_t minute, const base::PixelRect& wordsRoom, bool movesPicture) {
+  careMinute_ = minute;
+  captionCare_.moveOn(minute, wordsRoom, face_.clock.tickMs());
+  if (movesPicture && pictureShown_ && !floats()) PlacePicture();
+}
+
+std::optional<os::LocalTime> Face::pictureDate() const {
+  return loadedPicture_ ? loadedPicture_->facts().date : std::nullopt;
+}
+
 int Face::changeIntervalMs() const {
   return base::ToInt32(base::StrictDouble(settings_.record.timeInterval) * 1000);
 }

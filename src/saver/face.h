@@ -23,6 +23,7 @@
 #include "saver/next_picture.h"
 #include "saver/picture_look.h"
 #include "saver/placement.h"
+#include "saver/screen_care.h"
 #include "saver/stage.h"
 #include "saver/stage_window.h"
 #include "saver/transitions/effects.h"
@@ -136,6 +137,14 @@ class Face : public forms::Form {
   // Where the settings ask for it, words of the present colour are readable on any picture.
   void shadeWords(const forms::Label& words);
 
+  // The screen's words, and its picture where that may move, stand where they are to stand in this minute.
+  // `wordsRoom` is in pixels of the window.
+  void takeCare(std::int64_t minute, const base::PixelRect& wordsRoom, bool movesPicture);
+  WordsCare& captionCare() { return captionCare_; }
+
+  // When the picture that was loaded last was taken, else when its file was changed.
+  std::optional<os::LocalTime> pictureDate() const;
+
   bool floats() const { return settings_.record.picRandom != "cent"; }
   int changeIntervalMs() const;
 
@@ -155,11 +164,14 @@ class Face : public forms::Form {
   void wishBackground(ImageLayout layout);
   void dropBackgroundWish();
   std::optional<pictures::Wish> wishFor(std::int16_t number) const;
+  bool wantsFacts() const { return captionsByTemplate() || settings_.record.keys == "1"; }
   bool captionsByTemplate() const { return !settings_.record.captions.empty(); }
   std::string captionByTemplate() const;
   void clearBoxes();
   void useLoadedPicture();
   void PlacePicture();
+  Placement inTheMiddle() const;
+  float captionRoom() const;
   int glideMs() const;
   Composition compositionFor(base::PixelSize documented) const;
   base::SharedBitmap composePicture(base::PixelSize documented);
@@ -169,6 +181,8 @@ class Face : public forms::Form {
   std::function<bool()> isOver_;
   Caption caption_{Label1, settings_};
   PictureLook look_{face_.stage, face_.clock, face_.loop, face_.screen};
+  WordsCare captionCare_{Label1, face_.stage, {.x = 0, .y = 1}};
+  std::optional<std::int64_t> careMinute_;
   NextPicture next_{face_.ahead, face_.loop, face_.clock};
   base::SharedBitmap desktop_;  // as it was before the window covered it; null where it is not wanted
   base::PixelRect area_;

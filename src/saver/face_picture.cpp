@@ -19,7 +19,7 @@ std::optional<pictures::Wish> Face::wishFor(std::int16_t number) const {
   // Runs beside the show, of which it has only what it was given.
   const auto prepare = [limit, perPixel = twipsPerPixel(), looks = floats() ? Looks() : look_.looks(),
                         on = compositionFor({}),
-                        wantsFacts = captionsByTemplate()](const pictures::Picture& file) mutable {
+                        wantsFacts = wantsFacts()](const pictures::Picture& file) mutable {
     on.documented = ShownPixels(limit, file.size(), perPixel);
     return ComposeAhead(looks, file, on, wantsFacts ? file.facts() : pictures::PictureFacts());
   };
@@ -97,11 +97,24 @@ void Face::ScalePicture() {
 
 void Face::PlacePicture() {
   const bool centred = !floats() || !pictureShown_;
-  const Placement place =
-      centred ? Centered(width(), height(), DisplayingPicture.width(), DisplayingPicture.height())
-              : PulledBack({DisplayingPicture.left(), DisplayingPicture.top()}, width(), height(),
-                           IntialPicture.width(), IntialPicture.height());
+  const Placement place = centred ? inTheMiddle()
+                                  : PulledBack({DisplayingPicture.left(), DisplayingPicture.top()}, width(),
+                                               height(), IntialPicture.width(), IntialPicture.height());
   DisplayingPicture.move(place.left, place.top, DisplayingPicture.width(), DisplayingPicture.height());
+}
+
+// A picture that is cared for stands beside the middle, but none that covers the screen or glides.
+Placement Face::inTheMiddle() const {
+  Placement place = Centered(width(), height(), DisplayingPicture.width(), DisplayingPicture.height());
+  if (!careMinute_ || look_.glides()) return place;
+  const int perPixel = twipsPerPixel();
+  const base::PixelRect box{base::PixelAtTwips(place.left, perPixel), base::PixelAtTwips(place.top, perPixel),
+                            DisplayingPicture.pixelRect().width, DisplayingPicture.pixelRect().height};
+  const base::PixelPoint shift =
+      KeptInside(PictureShift(*careMinute_), box, base::PixelRect::ofSize(screenSize()));
+  place.left += static_cast<float>(shift.x * perPixel);
+  place.top += static_cast<float>(shift.y * perPixel);
+  return place;
 }
 
 void Face::refitPicture() {
@@ -114,15 +127,19 @@ void Face::refitPicture() {
   DisplayingPicture.setPicture(IntialPicture.picture());
 }
 
+// What a floating picture keeps clear of: the caption, and where care may move that.
+float Face::captionRoom() const {
+  const auto height = static_cast<float>(captionHeight());
+  return careMinute_ && height > 0 ? height + static_cast<float>(kCareReach * twipsPerPixel()) : height;
+}
+
 void Face::moveFloating() {
   FloatingBox box{.left = DisplayingPicture.left(),
                   .top = DisplayingPicture.top(),
                   .width = DisplayingPicture.width(),
                   .height = DisplayingPicture.height(),
                   .step = floatStep_};
-  MoveFloatingBox(box, {.screenWidth = width(),
-                        .screenHeight = height(),
-                        .captionHeight = static_cast<float>(captionHeight())});
+  MoveFloatingBox(box, {.screenWidth = width(), .screenHeight = height(), .captionHeight = captionRoom()});
   floatStep_ = box.step;
   DisplayingPicture.move(box.left, box.top, box.width, box.height);
 }

@@ -20,6 +20,7 @@ constexpr int kScrollIntervalMs = 100;
 constexpr int kNewsIntervalMs = 500;
 constexpr int kRememberIntervalMs = 10 * 60 * 1000;
 constexpr int kWishIntervalMs = 10;
+constexpr int kCareIntervalMs = 60 * 1000;
 
 }  // namespace
 
@@ -48,6 +49,7 @@ Form1::Form1(const ShowServices& services, const os::SystemFacts& facts, std::st
       order_(settings_, services.files, programFolder_, services.library),
       newsTimer_(services.loop, kNewsIntervalMs),
       rememberTimer_(services.loop, kRememberIntervalMs),
+      careTimer_(services.loop, kCareIntervalMs),
       wishTimer_(services.loop, kWishIntervalMs),
       notes_(*this, services.loop) {
   time.setVisible(false);
@@ -73,7 +75,14 @@ void Form1::wireTimers() {
   on(ScrollerTimer, [this] {
     for (Face* face : faces()) face->caption().ScrollerTimer_Timer();
   });
-  on(timeTimer, [this] { timeDisplay_.timeTimer_Timer(); });
+  on(timeTimer, [this] {
+    timeDisplay_.timeTimer_Timer();
+    clockCare_.look(services_.clock.tickMs());
+  });
+  on(careTimer_, [this] {
+    ++careMinute_;
+    takeCareOfAll();
+  });
   on(newsTimer_, [this] { takeNews(); });
   on(rememberTimer_, [this] { order_.save(); });
   on(wishTimer_, [this] { carryOutWishes(true); });
@@ -90,7 +99,7 @@ void Form1::unload() {
   if (!unloaded_) order_.save();
   unloaded_ = true;
   for (forms::Timer* timer : {&StartSaver, &ImageChangeTimer, &FloatTimer, &ScrollerTimer, &timeTimer,
-                              &newsTimer_, &rememberTimer_, &wishTimer_}) {
+                              &newsTimer_, &rememberTimer_, &careTimer_, &wishTimer_}) {
     timer->setEnabled(false);
   }
   notes_.end();
@@ -124,6 +133,8 @@ void Form1::PrepareDisplay() {
   timeDisplay_.prepare();
   shadeWords(time);
   moveClock(base::PixelRect::ofSize(screenSize()));
+  careTimer_.setEnabled(takesCare());
+  takeCareOfAll();
   StartSaver.setInterval(kStartDelayMs);
   StartSaver.setEnabled(true);
   if (loadsAhead()) chooseFirst();  // made ready while the background stands alone
@@ -190,10 +201,20 @@ void Form1::ImageChangeTimer_Timer() {
 void Form1::ShowCaption() {
   for (Face* face : faces()) {
     if (face->pictureShown_) face->showCaption();
+    face->captionCare().look(services_.clock.tickMs());
   }
   if (!caption().scrolls()) return;
   ScrollerTimer.setInterval(kScrollIntervalMs);
   ScrollerTimer.setEnabled(true);
+}
+
+void Form1::takeCareOfAll() {
+  if (!takesCare()) return;
+  for (Face* face : faces()) {
+    face->takeCare(careMinute_, face == this ? part_ : base::PixelRect::ofSize(face->screenSize()),
+                   !drawsChange());
+  }
+  clockCare_.moveOn(careMinute_, part_, services_.clock.tickMs());
 }
 
 void Form1::PickFloatDirection() {

@@ -231,6 +231,8 @@ class Form1 : public Face {
   void putAway(std::string path);
   void inform();
   std::optional<std::int16_t> indexOf(const ShownPicture& picture) const;
+  bool takesCare() const { return settings_.record.care == "1"; }
+  void takeCareOfAll();
   void showNotes();
   void layOutNotes();
 
@@ -241,6 +243,9 @@ class Form1 : public Face {
   PictureOrder order_;
   forms::Timer newsTimer_;      // asks for changes of the followed folders
   forms::Timer rememberTimer_;  // in case that the show is not asked when it ends
+  forms::Timer careTimer_;
+  std::int64_t careMinute_ = 0;
+  WordsCare clockCare_{time, services_.stage, {.x = -1, .y = -1}};
   TimeDisplay timeDisplay_{time, timeTimer, settings_, services_.clock, services_.dates};
   base::Random random_;
   base::PixelRect part_;

@@ -47,6 +47,7 @@ void Form1::ScreenChanged() {
   if (screenSize() != areaBefore.size() || part_ != partBefore) {
     moveClock(partBefore);
     layOutFace(*this);
+    takeCareOfAll();
   }
   services_.stage.flush();
 }
@@ -108,6 +109,7 @@ void Form1::addFurther(const FurtherScreen& screen) {
   face.floatStep_ = floatStep_;
   if (!isPrepared_) return;
   face.prepareFace();
+  takeCareOfAll();
   face.stage().flush();
   if (change_ != ChangeState::None) return;
   if (matchesShapes()) {
@@ -121,7 +123,10 @@ void Form1::addFurther(const FurtherScreen& screen) {
 void Form1::moveFurther(Face& face, const base::PixelRect& area) {
   const bool isOther = area.size() != face.screenSize();
   face.cover(area);
-  if (isOther) layOutFace(face);
+  if (isOther) {
+    layOutFace(face);
+    takeCareOfAll();
+  }
   face.stage().flush();
 }
 

@@ -39,6 +39,9 @@ class PictureLook {
   // look is wanted, or the picture cannot be decoded. Each call is a turn of its own, with its own direction.
   base::SharedBitmap compose(const pictures::Picture& picture, Composition on);
 
+  // The picture that was composed last is one that glides.
+  bool glides() const { return composed_ && !composed_->glide.standsStill(); }
+
   // The composed picture, if any, begins to glide in its box, which shows it.
   void startGlide(const forms::PictureBox& box);
 

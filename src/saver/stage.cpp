@@ -90,6 +90,14 @@ void Stage::shadeText(const forms::Label& label, const ShadeInk& ink) {
   if (TextLayer* layer = textLayerOf(label)) invalidate(layer->shade(ink));
 }
 
+void Stage::shiftText(const forms::Label& label, base::PixelPoint by) {
+  if (TextLayer* layer = textLayerOf(label)) invalidate(layer->shift(by));
+}
+
+void Stage::dimText(const forms::Label& label, bool dimmed) {
+  if (TextLayer* layer = textLayerOf(label)) invalidate(layer->dim(dimmed));
+}
+
 void Stage::showLive(const LivePicture* live) {
   live_ = live;
   liveChanged();

@@ -42,6 +42,11 @@ class Stage : public forms::FormHost {
   // One of the labels is readable on any picture from now on.
   void shadeText(const forms::Label& label, const ShadeInk& ink);
 
+  // One of the labels stands by so many pixels beside its place from now on, or is dark to a quarter of its
+  // light.
+  void shiftText(const forms::Label& label, base::PixelPoint by);
+  void dimText(const forms::Label& label, bool dimmed);
+
   // Texts are seen inside this part of the window alone.
   void keepTextsIn(const base::PixelRect& part);
 

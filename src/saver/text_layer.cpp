@@ -1,10 +1,13 @@
 #include "saver/text_layer.h"
 
 #include "base/color.h"
+#include "base/contrast.h"
 
 namespace saver {
 
 namespace {
+
+constexpr double kDimmedLight = 0.25;
 
 base::Pixel Mix(base::Pixel ink, base::Pixel below, const os::TextCoverage& coverage) {
   base::Pixel result = 0xFF000000U;
@@ -33,6 +36,16 @@ base::PixelRect TextLayer::shade(const ShadeInk& ink) {
   return areaChanged();
 }
 
+base::PixelRect TextLayer::shift(base::PixelPoint by) {
+  shift_ = by;
+  return areaChanged();
+}
+
+base::PixelRect TextLayer::dim(bool dimmed) {
+  dimmed_ = dimmed;
+  return areaChanged();
+}
+
 base::PixelRect TextLayer::areaChanged() {
   const base::PixelRect place = inkPlace();
   const base::PixelRect stale = was_.united(place);
@@ -48,7 +61,7 @@ int TextLayer::shadeReach() const {
 // The label and what its letters and their shade reach beyond it.
 base::PixelRect TextLayer::inkPlace() {
   if (!label_.visible()) return {};
-  const base::PixelRect place = label_.pixelRect();
+  const base::PixelRect place = this->place();
   if (label_.caption().empty() || place.isEmpty()) return place;
   if (!overhang_) overhang_ = text_.overhang(label_.font());
   const int above = shadeReach();
@@ -60,7 +73,7 @@ void TextLayer::compose(const base::BitmapView& target, const base::PixelRect& a
   const base::PixelRect ink = inkPlace().intersected(area);
   if (ink.isEmpty()) return;
   if (!mask_) mask_ = text_.draw(label_.font(), label_.caption());
-  const base::PixelRect place = label_.pixelRect();
+  const base::PixelRect place = this->place();
   const base::PixelPoint corner{place.left - mask_->origin, place.top};
   if (!label_.transparent()) {
     base::FillRect(target, place.intersected(area), base::OpaquePixel(base::PlainColor(label_.backColor())));
@@ -69,7 +82,8 @@ void TextLayer::compose(const base::BitmapView& target, const base::PixelRect& a
     if (!shade_ || shade_->reach != reach) shade_ = MakeShade(*mask_, reach);
     BlendShade(target, {corner.x - reach, corner.y - reach}, *shade_, *shadeInk_, ink);
   }
-  BlendText(target, corner, *mask_, base::PlainColor(label_.foreColor()), ink);
+  const base::PackedColor color = base::PlainColor(label_.foreColor());
+  BlendText(target, corner, *mask_, dimmed_ ? base::WithShareOfLight(color, kDimmedLight) : color, ink);
 }
 
 void BlendText(const base::BitmapView& target, base::PixelPoint corner, const os::TextMask& mask,

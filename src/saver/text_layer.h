@@ -24,6 +24,11 @@ class TextLayer {
   // that is to be composed anew.
   base::PixelRect shade(const ShadeInk& ink);
 
+  // Has the text drawn beside its label's place, or with less light than its colour's, from now on. Each
+  // gives the area that is to be composed anew.
+  base::PixelRect shift(base::PixelPoint by);
+  base::PixelRect dim(bool dimmed);
+
   // Lays the label over `area` of the target. Its text is drawn once for any number of areas, and so is its
   // shade.
   void compose(const base::BitmapView& target, const base::PixelRect& area);
@@ -32,11 +37,14 @@ class TextLayer {
   base::PixelRect areaChanged();
   base::PixelRect inkPlace();
   int shadeReach() const;
+  base::PixelRect place() const { return label_.pixelRect().movedBy(shift_.x, shift_.y); }
 
   const forms::Label& label_;
   os::TextRenderer& text_;
   std::optional<int> overhang_;  // of the present font
   std::optional<os::TextMask> mask_;
+  base::PixelPoint shift_;
+  bool dimmed_ = false;
   std::optional<ShadeInk> shadeInk_;
   std::optional<TextShade> shade_;  // of the mask
   base::PixelRect was_;             // where the label's ink was composed last; empty while hidden

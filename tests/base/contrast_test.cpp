@@ -39,5 +39,14 @@ TEST(Contrast, TextKeepsItsColorWhereItCanBeReadAndIsBlackOrWhiteElsewhere) {
   EXPECT_EQ(TextOn(kBlack, Rgb(0, 0, 128)), kWhite);
 }
 
+TEST(Contrast, AColorKeepsTheShareOfItsLightThatItIsTo) {
+  const auto light = [](PackedColor color) { return ContrastRatio(color, kBlack) * 0.05 - 0.05; };
+  for (const PackedColor color : {kWhite, Rgb(255, 255, 0), Rgb(200, 180, 220), Rgb(90, 90, 90)}) {
+    EXPECT_NEAR(light(WithShareOfLight(color, 0.25)) / light(color), 0.25, 0.01);
+    EXPECT_EQ(WithShareOfLight(color, 1), color);
+    EXPECT_EQ(WithShareOfLight(color, 0), kBlack);
+  }
+}
+
 }  // namespace
 }  // namespace base
