@@ -261,6 +261,7 @@ void Form1::inform() {
     return;
   }
   std::vector<std::string> lines{NameOf(present_->path), os::FolderOf(present_->path)};
+  if (const auto date = pictureDate()) lines.push_back(os::GeneralDate(services_.dates, *date));
   const std::optional<std::int16_t> index = indexOf(*present_);
   if (index) {
     lines.push_back(std::to_string(*index + 1) + " of " + std::to_string(settings_.lastImageIndex + 1));

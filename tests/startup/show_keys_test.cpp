@@ -429,14 +429,29 @@ TEST_F(ShowKeys, TellNameFolderAndNumberOfThePicture) {
   EXPECT_EQ(notes("Information"), Strings{});
 }
 
+TEST_F(ShowKeys, TellWhenThePictureWasTaken) {
+  for (const char* ahead : {"0", "1"}) {
+    KeyedShow other;
+    other.stage.set("extras/loadAhead", ahead);
+    other.addPictures(2);
+    other.stage.pictures.facts[pathOf(1)].date = os::LocalTime{2024, 7, 21, 15, 4, 5};
+    other.start();
+    other.stage.runFor(kFirstPictureMs);
+    other.type({'I', kRight});
+    EXPECT_EQ(other.notes("Information"), (Strings{"1.jpg", "C:\\pictures", "7/21/2024 3:04:05 PM", "2 of 2"}));
+  }
+}
+
 TEST_F(ShowKeys, InformationWaitsForNoDisk) {
   stage.set("extras/loadAhead", "1");
   begin(3);
   stage.pictures.opened.clear();
+  stage.pictures.factsAsked.clear();
   stage.files.reads.clear();
   stage.files.lookups.clear();
   press('I');
   EXPECT_TRUE(stage.pictures.opened.empty());
+  EXPECT_TRUE(stage.pictures.factsAsked.empty());
   EXPECT_TRUE(stage.files.reads.empty());
   EXPECT_TRUE(stage.files.lookups.empty());
 }
