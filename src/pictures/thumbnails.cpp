@@ -45,6 +45,11 @@ class ThumbnailPicture final : public Picture {
 
   base::PixelSize size() const override { return size_; }
 
+  PictureFacts facts() const override {
+    const SharedPicture file = loader_->open(path_);
+    return file ? file->facts() : PictureFacts();
+  }
+
   base::SharedBitmap drawnAt(base::PixelSize size) const override {
     const base::SharedBitmap pixels = kept();
     if (!pixels || pixels->size() == size) return pixels;

@@ -21,6 +21,7 @@ TEST(ReadOnlyFiles, OneFileIsReadFromMemoryAndNoneIsWritten) {
   EXPECT_FALSE(files.replace("C:\\a.ini", "new"));
   EXPECT_FALSE(files.replace("C:\\c.txt", "new"));
   EXPECT_TRUE(disk.writes.empty());
+  EXPECT_EQ(files.changedAt("C:\\b.txt"), disk.changedAt("C:\\b.txt"));
   disk.content.clear();
   EXPECT_TRUE(files.exists("C:\\a.ini")) << "wherever it lies";
 }

@@ -58,6 +58,14 @@ TEST_F(ThumbnailTest, WhatCannotBeOpenedOrDrawnIsAskedForAgain) {
   EXPECT_TRUE(loader.open("broken")->drawnAt({10, 10}));
 }
 
+TEST_F(ThumbnailTest, WhatTheFileSaysOfItselfIsKnown) {
+  files.add("a", {640, 480}, base::kWhite);
+  files.facts["a"] = {.title = "a title"};
+  EXPECT_EQ(loader.open("a")->facts().title, "a title");
+  loader.open("a")->drawnAt({10, 10});
+  EXPECT_EQ(loader.open("a")->facts().title, "a title") << "of a picture that is kept, too";
+}
+
 TEST_F(ThumbnailTest, TheOldestGoesWhenThereAreTooMany) {
   for (std::size_t i = 0; i <= Thumbnails::kMost; ++i) {
     const std::string path = std::to_string(i);
