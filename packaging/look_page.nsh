@@ -23,8 +23,10 @@ Function ShowLookPage
     Abort
   ${EndIf}
   InitPluginsDir
+  SetDateSave off  # the dates of a checkout are no part of a package
   File "/oname=$PLUGINSDIR\look_today.bmp" "pictures/look_today.bmp"
   File "/oname=$PLUGINSDIR\look_classic.bmp" "pictures/look_classic.bmp"
+  SetDateSave on
   !insertmacro MUI_HEADER_TEXT "How should your pictures look?" "You can change this at any time in the settings."
   nsDialogs::Create 1018
   Pop $0

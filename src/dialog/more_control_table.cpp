@@ -71,6 +71,8 @@ constexpr ControlRowOf<M> kControls[] = {
     {It<&M::panZoomSlider>, On<&M::motionFrame>, {150, 60, 310, 34}, "", "Pan and zoom", "Pan and zoom",
      "Pan and zoom: By how much images grow while they glide slowly"},
     {It<&M::panZoomText>, On<&M::motionFrame>, {468, 68, 100, 16}, "", "", ""},
+    {It<&M::liveLook>, OnTab<2>, {276, 46, 320, 180}, "", "The show as it is chosen", "Preview of the show",
+     "Preview: The show as these choices make it, in small"},
 
     {It<&M::captionsFrame>, OnTab<3>, {16, 12, 580, 220}, "Captions by Themselves", "", "", kClearsHint},
     {It<&M::templateLabel>, On<&M::captionsFrame>, {16, 32, 110, 16}, "&Template", "", ""},

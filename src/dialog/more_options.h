@@ -13,6 +13,7 @@
 #include "forms/containers.h"
 #include "forms/form.h"
 #include "forms/lists.h"
+#include "forms/live_view.h"
 #include "forms/ranges.h"
 #include "forms/texts.h"
 #include "settings/settings_record.h"
@@ -40,9 +41,7 @@ class MoreOptions : public forms::Form {
   // How far a step of the slider of times goes.
   static constexpr int kTimeStepMs = 100;
 
-  // Where a little screen has its place on the tab "Look".
   static constexpr int kLookTab = 2;
-  static constexpr Place kLittleScreen{276, 46, 320, 180};
 
   MoreOptions(const DialogServices& services, MoreChoices given);
 
@@ -87,6 +86,7 @@ class MoreOptions : public forms::Form {
   forms::Label panZoomLabel{*this, "panZoomLabel"};
   forms::Slider panZoomSlider{*this, "panZoomSlider"};
   forms::Label panZoomText{*this, "panZoomText"};
+  forms::LiveView liveLook{*this, "liveLook"};  // the show as it is chosen, in small
 
   // Words and Keys.
   forms::Frame captionsFrame{*this, "captionsFrame"};

@@ -125,12 +125,29 @@ void SettingsDialog::FolderCommand_Click() {
 void SettingsDialog::MoreCommand_Click() {
   moreOptions.emplace(services_, MoreChoices{form.record, form.followedFolders, form.showsHiddenAgain});
   moreOptions->onHelp = [this] { LumoraHelp_Click(); };
-  services_.windows.showModal(*moreOptions);
+  showMoreOptions();
   if (!moreOptions->accepted()) return;
   const MoreChoices& choices = moreOptions->choices;
   for (const MoreOptionRow& row : MoreOptionTable()) form.record.*row.field = choices.record.*row.field;
   form.followedFolders = choices.folders;
   form.showsHiddenAgain = choices.showsHiddenAgain;
+}
+
+// There is one show in small: it goes over to the other form and comes back.
+void SettingsDialog::showMoreOptions() {
+  live.close();
+  {
+    LiveViews looks(services_.live, loop_, services_.ansi, *moreOptions, [this] {
+      Scene scene = SceneOf(form);
+      for (const MoreOptionRow& row : MoreOptionTable()) {
+        scene.record.*row.field = moreOptions->choices.record.*row.field;
+      }
+      return scene;
+    });
+    looks.add(moreOptions->liveLook, SceneAim::Changes);
+    services_.windows.showModal(*moreOptions);
+  }
+  live.look();
 }
 
 // The system starts a screen saver in a folder of its own, where nobody looks for pictures.

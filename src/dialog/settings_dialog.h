@@ -58,6 +58,7 @@ class SettingsDialog {
   void save();
   void openViewer();
   auxwin::AheadSource aheadOfViewer();
+  void showMoreOptions();
   void enterPicturesFolder();
   std::string listsLastFolder() const;
   void closed();

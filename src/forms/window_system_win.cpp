@@ -134,6 +134,9 @@ void WindowSystemWin::endModal(const Form& form) {
   if (at == modals_.end()) return;
   for (const HWND window : at->disabled) EnableWindow(window, TRUE);
   modals_.erase(at);
+  // Keys that were typed ahead for the others wait until whoever showed the form has taken over what was
+  // chosen: a posted message comes before them, and this one ends the pass over what is pending.
+  PostThreadMessageW(GetCurrentThreadId(), WM_NULL, 0, 0);
 }
 
 void WindowSystemWin::runAlone(const std::function<void()>& other) {

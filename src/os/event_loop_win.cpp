@@ -32,7 +32,10 @@ HANDLE CreateAlarm() {
 // True when a message that came after `start` says that everything that was waiting then has been run. Timers
 // and paint requests come only when nothing else waits; without this a timer whose handler takes longer than
 // its interval would keep a pass going for ever. Anything else may still have older messages behind it.
+//
+// An empty message to the thread itself is a request: whoever waits looks first at what has changed.
 bool EndsPass(const MSG& message, DWORD start) {
+  if (message.message == WM_NULL && !message.hwnd) return true;
   const LONG late = static_cast<LONG>(message.time - start);
   if (message.message == WM_TIMER || message.message == WM_PAINT) return late > 0;
   return late > kLongestPassMs;

@@ -154,22 +154,5 @@ INSTANTIATE_TEST_SUITE_P(AtEachNumberOfDots, EveryForm,
                                                           Kind::About),
                                           testing::Values(96, 120, 144, 192)));
 
-// Where the little screen has its place nothing else stands.
-TEST(MoreOptionsPlace, OfTheLittleScreenIsFree) {
-  support::SettingsDialogMachine machine;
-  machine.setPictures({{"a.gif", "A"}});
-  SettingsDialog& dialog = machine.openDialog();
-  MoreOptions form(dialog.form.services(), {dialog.form.record, {}});
-  const Place& place = MoreOptions::kLittleScreen;
-  const base::PixelRect free{place.left, place.top, place.width, place.height};
-  const forms::TabPage& page = form.tabs.page(MoreOptions::kLookTab);
-  EXPECT_EQ(page.caption(), " Look ");
-  EXPECT_TRUE(free.left + free.width <= page.pixelRect().width);
-  for (const forms::Control* control : form.controls()) {
-    if (control->container() != &page) continue;
-    EXPECT_TRUE(control->pixelRect().intersected(free).isEmpty()) << control->name();
-  }
-}
-
 }  // namespace
 }  // namespace dialog

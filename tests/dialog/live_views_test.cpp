@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "dialog/more_options.h"
 #include "settings/load_settings.h"
 #include "support/recorded_live_show.h"
 #include "support/settings_dialog_machine.h"
@@ -201,6 +202,31 @@ TEST_F(LiveViewsTest, AfterTryingTheShowInSmallIsBack) {
   show(kSizeTab);
   form->TryIt.userClicked();
   EXPECT_EQ(live.here, &form->liveSize);
+}
+
+TEST_F(LiveViewsTest, TheLookTabOfMoreOptionsHasTheShowAndGivesItBack) {
+  show(kSizeTab);
+  ASSERT_EQ(live.here, &form->liveSize);
+  bool looked = false;
+  machine.windows.whileModal = [&](forms::Form& shown) {
+    auto& more = static_cast<MoreOptions&>(shown);
+    EXPECT_EQ(live.here, nullptr) << "its first tab has none";
+    more.tabs.userSelectedTab(MoreOptions::kLookTab);
+    EXPECT_EQ(live.here, &more.liveLook);
+    const std::size_t plays = live.plays.size();
+    more.today.userClicked();
+    machine.loop.runFor(2 * LiveViews::kLookMs);
+    EXPECT_EQ(live.plays.size(), plays + 1) << "once, and not in turns with the other form";
+    EXPECT_EQ(live.here, &more.liveLook);
+    EXPECT_EQ(last().record.fit, "whole");
+    EXPECT_EQ(last().record.change, "crossfade");
+    looked = true;
+    more.Cancel.userClicked();
+  };
+  form->MoreCommand.userClicked();
+  EXPECT_TRUE(looked);
+  EXPECT_EQ(live.here, &form->liveSize);
+  EXPECT_EQ(last().record.fit, "") << "what was not accepted is not shown";
 }
 
 }  // namespace

@@ -168,6 +168,7 @@ TEST_F(LiveViewTest, TriedByTheKeyboardTheShowEndsByAKeyAndTheDialogIsAsBefore) 
   EXPECT_TRUE(comesToShow(kRed)) << "the little show goes on";
   EXPECT_EQ(folder.readSettingsFile(), saved);
   EXPECT_EQ(NamesIn(folder.path()), before);
+  EXPECT_TRUE(e2e::WaitFor([&] { return GetForegroundWindow() == dialog; }));
   e2e::PressKey(VK_ESCAPE);
   EXPECT_TRUE(program->waitForEnd());
   EXPECT_EQ(program->exitCode(), 0U);

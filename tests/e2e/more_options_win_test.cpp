@@ -181,6 +181,7 @@ TEST_F(MoreOptionsTest, AreChosenSavedAndShownByTheKeyboardAlone) {
   ASSERT_TRUE(WaitForKeyboard(dialog));
   PressWith(VK_MENU, 'O');
   ASSERT_TRUE(program.waitForEnd());
+  EXPECT_EQ(program.exitCode(), 0U);
   expectTheFileToHaveIt();
   expectTheShowToRun();
 }

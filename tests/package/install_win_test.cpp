@@ -103,7 +103,7 @@ TEST_F(Install, BeginsWithTheLookOfTodayUnlessItIsToldOtherwise) {
   ASSERT_TRUE(uninstall(L"/SETTINGS=remove"));
   ASSERT_TRUE(install(packages.setup, L"/LOOK=classic"));
   const std::string classic = package::ReadWholeFile(settingsFile());
-  EXPECT_EQ(classic, package::ReadWholeFile(packages.unpacked + L"\\zbfaone.ini"));
+  EXPECT_EQ(classic, packages.settings);
   // In these lines alone the two differ.
   for (const std::string& line : kLinesOfToday) {
     const std::size_t at = today.find("\r\n" + line + "\r\n");

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "os/utf16_win.h"
+#include "package/files.h"
 #include "package/packages.h"
 
 int main(int argc, char** argv) {
@@ -13,6 +14,8 @@ int main(int argc, char** argv) {
                        .laterSetup = os::ToWide(argv[2]),
                        .version = os::ToWide(argv[3]),
                        .laterVersion = os::ToWide(argv[4]),
-                       .unpacked = os::ToWide(argv[5])};
+                       .unpacked = os::ToWide(argv[5]),
+                       .settings = {}};
+  package::packages.settings = package::ReadWholeFile(package::packages.unpacked + L"\\zbfaone.ini");
   return RUN_ALL_TESTS();
 }

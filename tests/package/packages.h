@@ -11,6 +11,7 @@ struct Packages {
   std::wstring version;
   std::wstring laterVersion;
   std::wstring unpacked;
+  std::string settings;  // the settings file of the ZIP as it came, before the program ran there
 };
 extern Packages packages;
 
