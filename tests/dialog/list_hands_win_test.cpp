@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "os/dib_win.h"
 #include "os/utf16_win.h"
 #include "support/real_dialog_win.h"
 #include "support/temporary_folder_win.h"
@@ -233,20 +234,24 @@ TEST_F(ListHands, WhatIsMissingIsGrayInTheList) {
   open(3);
   EXPECT_TRUE(dialog->waitFor([&] { return !dialog->statusText(2).empty(); }));
   UpdateWindow(window());
-  // The darkest pixel of each line that is not chosen.
+  const int line = lineHeight();
+  const base::PixelSize looked{200, line * 3};
+  const os::Dib copy(looked);
   const HDC dc = GetDC(window());
+  BitBlt(copy.dc(), 0, 0, looked.width, looked.height, dc, 0, 0, SRCCOPY);
+  ReleaseDC(window(), dc);
+  // The darkest pixel of a line that is not chosen.
   const auto darkest = [&](int row) {
     int least = 255;
-    for (int x = 2; x < 200; ++x) {
-      for (int y = lineHeight() * row; y < lineHeight() * (row + 1); ++y) {
-        least = std::min(least, static_cast<int>(GetGValue(GetPixel(dc, x, y))));
+    for (int x = 2; x < looked.width; ++x) {
+      for (int y = line * row; y < line * (row + 1); ++y) {
+        least = std::min(least, static_cast<int>(GetGValue(GetPixel(copy.dc(), x, y))));
       }
     }
     return least;
   };
   EXPECT_LT(darkest(2), 60);
   EXPECT_GT(darkest(1), darkest(2) + 40);
-  ReleaseDC(window(), dc);
 }
 
 }  // namespace
