@@ -22,8 +22,8 @@ struct StageWindowInput : testing::Test {
     window.onMouseMove = [this](base::PixelPoint) { ++moves; };
   }
 
-  void send(UINT message, WPARAM wParam = 0) {
-    SendMessageW(reinterpret_cast<HWND>(window.handle()), message, wParam, 0);
+  void send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    SendMessageW(reinterpret_cast<HWND>(window.handle()), message, wParam, lParam);
   }
 };
 
@@ -36,6 +36,21 @@ TEST_F(StageWindowInput, TheWheelIsNeitherAButtonNorAMoveNorAKey) {
   send(WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA));
   send(WM_MOUSEHWHEEL, MAKEWPARAM(0, WHEEL_DELTA));
   EXPECT_EQ(buttons + moves + keys, 0);
+}
+
+TEST_F(StageWindowInput, AKeyThatIsHeldDownRepeatsWhereSomebodyWantsToKnow) {
+  constexpr LPARAM kWasDown = LPARAM{KF_REPEAT} << 16;
+  int repeats = 0;
+  send(WM_KEYDOWN, VK_RIGHT, kWasDown);
+  EXPECT_EQ(keys, 1) << "nobody wants to know";
+  window.onKeyRepeat = [&](int keyCode) {
+    EXPECT_EQ(keyCode, VK_RIGHT);
+    ++repeats;
+  };
+  send(WM_KEYDOWN, VK_RIGHT, kWasDown);
+  send(WM_KEYDOWN, VK_RIGHT);
+  EXPECT_EQ(keys, 2);
+  EXPECT_EQ(repeats, 1);
 }
 
 TEST_F(StageWindowInput, WhatAHandlerThrowsGoesToTheErrorHandlerOfTheLoop) {
