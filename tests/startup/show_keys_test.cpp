@@ -438,7 +438,8 @@ TEST_F(ShowKeys, TellWhenThePictureWasTaken) {
     other.start();
     other.stage.runFor(kFirstPictureMs);
     other.type({'I', kRight});
-    EXPECT_EQ(other.notes("Information"), (Strings{"1.jpg", "C:\\pictures", "7/21/2024 3:04:05 PM", "2 of 2"}));
+    EXPECT_EQ(other.notes("Information"),
+              (Strings{"1.jpg", "C:\\pictures", "7/21/2024 3:04:05 PM", "2 of 2"}));
   }
 }
 
@@ -595,6 +596,14 @@ TEST_F(ShowKeys, APictureThatTheListHasTwiceGoesFromBothPlaces) {
   type({kDelete, kDelete});
   EXPECT_EQ(shown(), 1);
   EXPECT_EQ(shownBy({kRight, kRight}), (std::vector<int>{3, 1}));
+}
+
+TEST_F(ShowKeys, BehindANewestPictureThatWasPutAwayTheOrderGoesOn) {
+  begin(5);
+  type({kRight, kRight, kRight, kLeft, kLeft, kLeft, kDelete, kDelete});
+  EXPECT_EQ(shown(), 1);
+  type({kRight, kRight, kDelete, kDelete});
+  EXPECT_EQ(shown(), 4) << "behind 3, though another one before it has gone too";
 }
 
 TEST_F(ShowKeys, ShowTheKeysAndHideThem) {
