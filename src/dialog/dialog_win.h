@@ -27,7 +27,7 @@ struct DialogMachineWin {
   os::MakeWorker makeWorker = nullptr;  // for what is looked for beside the dialog; null: nothing is
   CaptionExample captionExample = nullptr;
   HiddenPictures hidden = {};
-  LiveShow* live = nullptr;             // the show in small; null: it is not seen
+  LiveShow* live = nullptr;  // the show in small; null: it is not seen
 };
 
 class SettingsDialogWin {

@@ -53,7 +53,7 @@ struct DialogServices {
   os::MakeWorker makeWorker = nullptr;                  // there where `folders` is
   CaptionExample captionExample = nullptr;  // what the show makes of a template; without it none is shown
   HiddenPictures hidden = {};               // without it none can be hidden
-  LiveShow* live = nullptr;                             // the show in small; null: it is not seen
+  LiveShow* live = nullptr;                 // the show in small; null: it is not seen
 };
 
 // What the font dialog starts with.

@@ -19,8 +19,8 @@ class FakeWindowSystem : public forms::WindowSystem, public forms::FormHost {
   std::vector<std::pair<std::string, forms::Change>> changes;
   int listEdits = 0;
   std::string focused;  // the control that was last given the keyboard
-  int alone = 0;       // how often something ran beside the forms,
-  int aloneEnded = 0;  // and came to its end
+  int alone = 0;        // how often something ran beside the forms,
+  int aloneEnded = 0;   // and came to its end
   float screenWidth = 1920 * 15.0F;
   float screenHeight = 1080 * 15.0F;
   std::function<void(forms::Form&)> whileModal;  // what the user does while a form is shown modally

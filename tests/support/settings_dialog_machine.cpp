@@ -19,10 +19,19 @@ dialog::SettingsDialog& SettingsDialogMachine::openDialog() {
 }
 
 dialog::SettingsDialog& SettingsDialogMachine::openDialogOnFile() {
-  dialog_ = std::make_unique<dialog::SettingsDialog>(
-      dialog::DialogServices{files, ansi, pictures, dialogs, windows, nullptr, &ahead, folders,
-                             workers.maker(), nullptr, {}, live},
-      loop, shell, kProgramFolder, nullptr);
+  dialog_ = std::make_unique<dialog::SettingsDialog>(dialog::DialogServices{files,
+                                                                            ansi,
+                                                                            pictures,
+                                                                            dialogs,
+                                                                            windows,
+                                                                            nullptr,
+                                                                            &ahead,
+                                                                            folders,
+                                                                            workers.maker(),
+                                                                            nullptr,
+                                                                            {},
+                                                                            live},
+                                                     loop, shell, kProgramFolder, nullptr);
   dialog_->show();
   return *dialog_;
 }
