@@ -72,6 +72,6 @@ wait_until_drawn() {
 }
 
 echo "program                            | frames / s | its processor | the X server's | private MiB"
-WINEPREFIX=$WINEPREFIX watch "Lumora, crossfade and glide" wine "$work/program/Lumora.scr" /S
+watch "Lumora, crossfade and glide" wine "$work/program/Lumora.scr" /S
 watch "XScreenSaver's glslideshow" /usr/libexec/xscreensaver/glslideshow --root --duration 5 --pan 5 --fade 1 --zoom 92
 watch "feh, plain changes" feh --fullscreen --hide-pointer --slideshow-delay 5 "$work/photos"

@@ -12,10 +12,6 @@ namespace dialog {
 
 namespace {
 
-std::vector<std::string> Texts(std::span<const std::string_view> views) {
-  return {views.begin(), views.end()};
-}
-
 std::vector<std::string> Numbers(int first, int last) {
   std::vector<std::string> numbers;
   for (int number = first; number <= last; ++number) {

@@ -15,6 +15,10 @@ void SetText(forms::Control& control, std::string_view text) {
 
 }  // namespace
 
+std::vector<std::string> Texts(std::span<const std::string_view> texts) {
+  return {texts.begin(), texts.end()};
+}
+
 void Arrange(forms::Control& control, forms::Control* container, const Place& place, std::string_view caption,
              std::string_view toolTip, std::string_view accessibleName) {
   control.setContainer(container);

@@ -4,6 +4,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "forms/control.h"
 #include "forms/form.h"
@@ -75,6 +76,9 @@ template <typename FormType>
 forms::Control* OnForm(FormType&) {
   return nullptr;
 }
+
+// Texts of a table as a control takes them.
+std::vector<std::string> Texts(std::span<const std::string_view> texts);
 
 // Puts a control to its place, with its texts.
 void Arrange(forms::Control& control, forms::Control* container, const Place& place, std::string_view caption,

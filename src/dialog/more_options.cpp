@@ -17,10 +17,6 @@ namespace {
 constexpr int kClientWidth = 644;
 constexpr int kClientHeight = 530;
 
-std::vector<std::string> Texts(std::span<const std::string_view> views) {
-  return {views.begin(), views.end()};
-}
-
 std::string TimeInWords(const std::string& text) {
   const std::optional<int> ms = settings::ParseTransitionTime(text);
   return ms ? base::NumberText(*ms / 1000.0) + " s" : "Automatic";
