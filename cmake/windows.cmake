@@ -16,6 +16,12 @@ target_link_options(lumora_flags INTERFACE -Wl,--no-insert-timestamp)
 target_compile_options(lumora_flags INTERFACE ${hardening})
 target_link_options(lumora_flags INTERFACE ${hardening})
 
+# What a click or a start runs once is built small; what runs for every pixel, picture and key is built fast.
+if(CMAKE_BUILD_TYPE STREQUAL "Release")
+  file(GLOB small_sources CONFIGURE_DEPENDS src/auxwin/*.cpp src/dialog/*.cpp src/forms/*.cpp src/startup/*.cpp)
+  set_property(SOURCE ${small_sources} APPEND PROPERTY COMPILE_OPTIONS -Os)
+endif()
+
 add_library(lumora_win STATIC ${windows_sources})
 target_link_libraries(lumora_win PUBLIC lumora_core ${system_libraries})
 
