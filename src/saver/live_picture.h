@@ -13,6 +13,7 @@ class LivePicture {
   virtual base::PixelRect place() const = 0;
 
   // Draws what it shows at this moment in `area` of the window, which lies inside its place and the target.
+  // Called on several threads at the same time, for areas that have nothing in common.
   virtual void draw(const base::BitmapView& target, const base::PixelRect& area) const = 0;
 };
 

@@ -85,6 +85,10 @@ class LittleWindow final : public StageWindow {
   std::intptr_t handle() const override { return 0; }
   void close() override {}
   base::BitmapView backBuffer() override { return back_.view(); }
+  // So little is drawn by one thread.
+  void runParts(int count, const std::function<void(int part)>& run) override {
+    for (int part = 0; part < count; ++part) run(part);
+  }
   void present(std::span<const base::PixelRect> areas) override {
     base::CopyRects(shown_->view(), {0, 0}, back_, areas);
     if (isSeen()) view_.frameDrawn(areas);

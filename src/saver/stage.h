@@ -77,6 +77,7 @@ class Stage : public forms::FormHost {
   void composeBoxes(const base::BitmapView& target, const base::PixelRect& area) const;
   void composeBackground(const base::BitmapView& target, const base::PixelRect& area) const;
   void composePicture(const base::BitmapView& target, const base::PixelRect& area) const;
+  void composeLive(const base::BitmapView& target, const base::PixelRect& area) const;
   void composeTexts(const base::BitmapView& target, const base::PixelRect& area);
   void present(const std::vector<base::PixelRect>& areas);
   base::PixelRect opaquePicture() const;

@@ -31,6 +31,10 @@ class StageWindow {
   // The pixels that a paint message shows. As large as the area covered; valid until the next cover().
   virtual base::BitmapView backBuffer() = 0;
 
+  // Runs `run` for each of 0 to count - 1, in any order and several at the same time, as far as there are
+  // processors for it. What it throws is thrown here.
+  virtual void runParts(int count, const std::function<void(int part)>& run) = 0;
+
   // Puts those parts of the back buffer on the screen at once. None is empty or reaches beyond it.
   virtual void present(std::span<const base::PixelRect> areas) = 0;
 

@@ -8,6 +8,7 @@
 
 #include "os/dib_win.h"
 #include "os/event_loop.h"
+#include "os/thread_pool_win.h"
 #include "saver/stage_window.h"
 
 namespace saver {
@@ -23,6 +24,9 @@ class StageWindowWin : public StageWindow {
   std::intptr_t handle() const override { return reinterpret_cast<std::intptr_t>(window_.get()); }
   void close() override;
   base::BitmapView backBuffer() override;
+  void runParts(int count, const std::function<void(int part)>& run) override {
+    os::RunOnAllProcessors(count, run);
+  }
   void present(std::span<const base::PixelRect> areas) override;
 
  private:

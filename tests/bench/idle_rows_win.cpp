@@ -6,6 +6,7 @@
 
 #include "bench/bare_window.h"
 #include "bench/bench_table.h"
+#include "bench/processor_time_win.h"
 #include "bench/rows.h"
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
@@ -19,18 +20,8 @@ namespace bench {
 namespace {
 
 constexpr int kIdleMs = 10'000;
-// Systems count processor time in steps; each of the two programs is read at two moments.
-constexpr double kStepMs = 1000.0 / 64;
-constexpr double kReadingErrorMs = 2 * kStepMs;
-
-double ProcessorMs(HANDLE process) {
-  FILETIME made{};
-  FILETIME ended{};
-  FILETIME kernel{};
-  FILETIME user{};
-  GetProcessTimes(process, &made, &ended, &kernel, &user);
-  return (static_cast<double>(kernel.dwLowDateTime) + static_cast<double>(user.dwLowDateTime)) / 10'000;
-}
+// Each of the two programs is read at two moments.
+constexpr double kReadingErrorMs = 2 * kProcessorStepMs;
 
 // Processor time of a program while it idles behind its window.
 double IdleMs(const std::wstring& program, const std::wstring& arguments, base::Pixel sign) {

@@ -7,6 +7,7 @@
 
 #include "bench/bench_stage_win.h"
 #include "bench/bench_table.h"
+#include "bench/processor_time_win.h"
 #include "bench/rows.h"
 #include "os/dib_win.h"
 #include "saver/crossfade.h"
@@ -67,9 +68,12 @@ class Frames {
   int frame_ = 0;
 };
 
-// Of a second, what sixty frames take.
+// Of a second of one core, what so many frames take of all cores; of many more, since readings are coarse.
 double ShareOfACore(const std::function<void()>& frame, int framesPerSecond) {
-  return MedianMs(frame) * framesPerSecond / 1000;
+  constexpr int kFrames = 300;
+  const double before = ProcessorMs(GetCurrentProcess());
+  for (int i = 0; i < kFrames; ++i) frame();
+  return (ProcessorMs(GetCurrentProcess()) - before) / kFrames * framesPerSecond / 1000;
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // The show's window in memory: what was presented is on its screen, what was only composed is not.
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <vector>
@@ -27,6 +28,11 @@ class FakeStageWindow : public saver::StageWindow {
     closed = true;
   }
   base::BitmapView backBuffer() override { return back_.view(); }
+  // The last comes first: nobody may count on an order.
+  void runParts(int count, const std::function<void(int part)>& run) override {
+    mostParts = std::max(mostParts, count);
+    for (int part = count - 1; part >= 0; --part) run(part);
+  }
   void present(std::span<const base::PixelRect> areas) override {
     for (const base::PixelRect& area : areas) {
       presented.push_back(area);
@@ -45,6 +51,7 @@ class FakeStageWindow : public saver::StageWindow {
   std::function<void()> onCover;  // what happens while the window is being placed
   std::function<void()> onClose;  // what is so when it is closed
   bool closed = false;
+  int mostParts = 0;  // of a piece of work
   std::vector<base::PixelRect> presented;
   base::Bitmap screen;  // what the user sees
 
