@@ -8,9 +8,9 @@ namespace {
 
 using F = Form2;
 
-template <int Tab>
+template <int kTab>
 forms::Control* OnTab(Form2& form) {
-  return &form.SSTab1.page(Tab);
+  return &form.SSTab1.page(kTab);
 }
 
 constexpr char kLiveName[] = "Preview of the show";

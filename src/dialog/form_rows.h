@@ -52,24 +52,24 @@ template <typename FormType, typename ControlType>
 FormType OwnerOf(ControlType FormType::*);
 
 // The form of which something is a member.
-template <auto Member>
-using FormOf = decltype(OwnerOf(Member));
+template <auto kMember>
+using FormOf = decltype(OwnerOf(kMember));
 
 // A control of the form, for a row of a table.
-template <auto Member>
-forms::Control& It(FormOf<Member>& form) {
-  return form.*Member;
+template <auto kMember>
+forms::Control& It(FormOf<kMember>& form) {
+  return form.*kMember;
 }
 
-template <auto Member>
-forms::RangeControl& Range(FormOf<Member>& form) {
-  return form.*Member;
+template <auto kMember>
+forms::RangeControl& Range(FormOf<kMember>& form) {
+  return form.*kMember;
 }
 
 // What a control stands on.
-template <auto Member>
-forms::Control* On(FormOf<Member>& form) {
-  return &(form.*Member);
+template <auto kMember>
+forms::Control* On(FormOf<kMember>& form) {
+  return &(form.*kMember);
 }
 
 template <typename FormType>

@@ -1,57 +1,22 @@
 // One show on several screens: the same picture, a picture of its own for each, or one over all of them.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <set>
 #include <vector>
 
-#include "support/started_show.h"
+#include "support/several_screens.h"
 
 namespace {
 
-constexpr base::PackedColor kRed = base::Rgb(255, 0, 0);
-constexpr base::PackedColor kGreen = base::Rgb(0, 255, 0);
-constexpr base::PackedColor kBlue = base::Rgb(0, 0, 255);
-constexpr base::PackedColor kYellow = base::Rgb(255, 255, 0);
-constexpr base::PackedColor kColors[] = {kRed, kGreen, kBlue, kYellow, base::Rgb(255, 0, 255)};
+using support::kBlue;
+using support::kGreen;
+using support::kRed;
+using support::kViolet;
+using support::kYellow;
+
 constexpr base::Pixel kBlack = 0xFF000000U;
 
-// A primary screen of 1024 x 768, a smaller one at its right, and a portrait one left of and above it.
-class SeveralScreens : public testing::Test, protected support::StartedShow {
- protected:
-  SeveralScreens() { stage.screen.others = {{1024, 100, 800, 600}, {-600, -200, 600, 900}}; }
-
-  void startShowing(const char* otherScreens) {
-    stage.set("extras/otherScreens", otherScreens);
-    start();
-  }
-
-  void addPictures(int count, base::PixelSize size = {400, 300}) {
-    for (int i = 0; i < count; ++i) stage.addPicture(size, kColors[i]);
-  }
-
-  // The colour in the middle of the primary screen (0), or of one of the others.
-  base::Pixel middle(std::size_t screen) {
-    const base::Bitmap& shown = screen == 0 ? window().screen : covers.at(screen - 1)->screen;
-    return shown.at(shown.size().width / 2, shown.size().height / 2);
-  }
-  std::vector<base::Pixel> middles() {
-    std::vector<base::Pixel> all;
-    for (std::size_t screen = 0; screen <= covers.size(); ++screen) all.push_back(middle(screen));
-    return all;
-  }
-  static std::vector<base::Pixel> pixels(std::initializer_list<base::PackedColor> colors) {
-    std::vector<base::Pixel> all;
-    for (const base::PackedColor color : colors) all.push_back(base::OpaquePixel(color));
-    return all;
-  }
-
-  // How many columns of the middle row are of a colour.
-  static int columns(const base::Bitmap& shown, base::PackedColor color) {
-    const base::Pixel* row = shown.row(shown.size().height / 2);
-    return static_cast<int>(std::count(row, row + shown.size().width, base::OpaquePixel(color)));
-  }
-};
+class SeveralScreens : public testing::Test, protected support::ScreensShow {};
 
 TEST_F(SeveralScreens, StayAsTheyAreWithoutTheKeyAndWithAnyOtherText) {
   stage.addPicture({400, 300}, kRed);
@@ -79,7 +44,7 @@ TEST_F(SeveralScreens, TakeTheNextPicturesOfTheOrderOneAScreen) {
   stage.runFor(700);
   EXPECT_EQ(middles(), pixels({kRed, kGreen, kBlue}));
   stage.runFor(1400);
-  EXPECT_EQ(middles(), pixels({kYellow, kColors[4], kRed}));
+  EXPECT_EQ(middles(), pixels({kYellow, kViolet, kRed}));
 }
 
 TEST_F(SeveralScreens, ShowNoPictureTwiceWhileThereAreEnough) {
@@ -392,7 +357,7 @@ TEST_F(SeveralScreens, ArePreparedForAheadOfTheChange) {
   stage.runFor(700);
   EXPECT_EQ(middles(), pixels({kRed, kGreen, kBlue}));
   stage.runFor(1400);
-  EXPECT_EQ(middles(), pixels({kYellow, kColors[4], kRed}));
+  EXPECT_EQ(middles(), pixels({kYellow, kViolet, kRed}));
 }
 
 TEST_F(SeveralScreens, KeepTheirBackgroundsWhileThePasswordIsAskedAfterAnError) {
@@ -413,74 +378,6 @@ TEST_F(SeveralScreens, ThatMirrorEachOtherHaveOneShow) {
   stage.runFor(700);
   ASSERT_EQ(covers.size(), 1U);
   EXPECT_EQ(middles(), pixels({kRed, kGreen}));
-}
-
-// Pictures whose colours tell their shapes: red and green ones are wide, blue and yellow ones high.
-class ScreensOfTwoShapes : public SeveralScreens {
- protected:
-  ScreensOfTwoShapes() {
-    stage.set("extras/matchOrientation", "1");
-    stage.screen.others = {{-600, -200, 600, 900}};
-  }
-
-  void addWide(base::PackedColor color) { stage.addPicture({400, 300}, color); }
-  void addHigh(base::PackedColor color) { stage.addPicture({300, 400}, color); }
-};
-
-TEST_F(ScreensOfTwoShapes, TakeTheNextPicturesOfTheirShape) {
-  for (const char* ahead : {"", "1"}) {
-    SCOPED_TRACE(ahead);
-    support::StartedShow run;
-    run.stage.screen.others = stage.screen.others;
-    for (const char* key : {"extras/matchOrientation", "extras/loadAhead"}) run.stage.set(key, "1");
-    run.stage.set("extras/loadAhead", ahead);
-    run.stage.set("extras/otherScreens", "different");
-    run.stage.workers.delayMs = [] { return std::optional(5); };
-    run.stage.addPicture({300, 400}, kBlue);
-    run.stage.addPicture({400, 300}, kRed);
-    run.stage.addPicture({400, 300}, kGreen);
-    run.stage.addPicture({300, 400}, kYellow);
-    run.start();
-    run.stage.runFor(700);
-    EXPECT_EQ(run.stage.screenAt(512, 384), base::OpaquePixel(kRed));
-    EXPECT_EQ(run.covers.at(0)->screen.at(300, 450), base::OpaquePixel(kBlue));
-    run.stage.runFor(1400);
-    EXPECT_EQ(run.stage.screenAt(512, 384), base::OpaquePixel(kGreen));
-    EXPECT_EQ(run.covers.at(0)->screen.at(300, 450), base::OpaquePixel(kYellow));
-  }
-}
-
-TEST_F(ScreensOfTwoShapes, TakeWhatComesWhereTheKeyIsAbsent) {
-  stage.drop("extras/matchOrientation");
-  addHigh(kBlue);
-  addWide(kRed);
-  startShowing("different");
-  stage.runFor(700);
-  EXPECT_EQ(middles(), pixels({kBlue, kRed}));
-}
-
-TEST_F(ScreensOfTwoShapes, TakeTurnsWithWhatThereIsWhenNothingFits) {
-  for (const base::PackedColor color : {kRed, kGreen, kColors[4]}) addWide(color);
-  startShowing("different");
-  stage.runFor(700);
-  EXPECT_EQ(middles(), pixels({kRed, kGreen}));
-}
-
-TEST_F(ScreensOfTwoShapes, SkipNothingForGood) {
-  addHigh(kBlue);
-  addHigh(kYellow);
-  for (int i = 0; i < 3; ++i) addWide(kRed);
-  addWide(kGreen);
-  stage.screen.others = {{1024, 0, 800, 600}};  // no screen is high
-  startShowing("different");
-  stage.runFor(700);
-  std::set<base::Pixel> seen;
-  for (int change = 0; change < 60; ++change) {
-    for (const base::Pixel pixel : middles()) seen.insert(pixel);
-    stage.runFor(1400);
-  }
-  EXPECT_TRUE(seen.contains(base::OpaquePixel(kBlue)));
-  EXPECT_TRUE(seen.contains(base::OpaquePixel(kYellow)));
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/text.h"
+#include "library/hidden_pictures.h"
 #include "support/started_show.h"
 
 namespace support {
@@ -24,6 +25,8 @@ constexpr int kF1 = 0x70;
 
 class KeyedShow : public StartedShow {
  public:
+  static constexpr int kFirstPictureMs = 700;
+
   explicit KeyedShow(base::PixelSize primaryScreen = {640, 480}) : StartedShow(primaryScreen) {
     stage.set("extras/keys", "1");
     stage.set("image/timeInterval", "60");
@@ -35,6 +38,13 @@ class KeyedShow : public StartedShow {
   void addPictures(int count) {
     for (int i = 0; i < count; ++i) stage.addPicture({100, 80}, colorOf(i));
     pictures_ = count;
+  }
+
+  // A show of so many pictures, the first of which stands.
+  void begin(int pictures) {
+    addPictures(pictures);
+    start();
+    stage.runFor(kFirstPictureMs);
   }
 
   void press(int keyCode) { window().onKeyDown(keyCode); }
@@ -58,6 +68,19 @@ class KeyedShow : public StartedShow {
     }
     return -1;
   }
+
+  // What each press shows, one after the other.
+  std::vector<int> shownBy(const std::vector<int>& keyCodes) {
+    std::vector<int> all;
+    for (const int keyCode : keyCodes) {
+      type({keyCode});
+      all.push_back(shown());
+    }
+    return all;
+  }
+
+  // The pictures that the user has put away.
+  library::HiddenPictures hidden() { return {stage.files, {ShowStage::programFolder()}}; }
 
   // The lines of a panel of notes that are seen: "Sign", "Information", "Keys", "Meanings".
   std::vector<std::string> notes(const std::string& panel) {
