@@ -76,7 +76,7 @@ stop_screens() {
 test_several_screens() {
   trap 'stop_show_machine; stop_screens; rm -rf "$WINEPREFIX"' EXIT
   if start_screens "$root/out/screens"; then
-    group several-screens timeout 300 "$@"
+    group several-screens timeout "${screens_limit:-300}" "$@"
   else
     say "NOT TESTED: several screens (the X server for them does not start here: $root/out/screens/xorg.log)"
   fi

@@ -81,6 +81,24 @@ stop_beside() {
   for pid in "${beside_pids[@]}"; do wait "$pid" || true; done
 }
 
+# Prepares what the tests under Wine stand on: a display, the prefix, folders and files that make trouble. Sets e2e, the
+# command of the end-to-end tests.
+prepare_end_to_end() {
+  unset DISPLAY
+  start_display 1920x1080
+  prepare_wine
+  make_hostile_folders "$root/out/hostile"
+  make_silent_file "$root/out/silent"
+  e2e=(wine "$root/build-windows/lumora_e2e.exe" "$(windows_path "$root/out/Lumora")")
+}
+
+# From here on the prefix is there to be copied.
+share_prefix() {
+  wineserver -k || true
+  wineserver -w || true
+  shared_prefix=$WINEPREFIX
+}
+
 # Runs a command with a display and a Wine session of its own, in a copy of the prefix that goes away afterwards: tests
 # under Wine mostly wait, so several run at the same time and never meet. $1: a name, the rest: the command.
 on_own_display() {
