@@ -164,7 +164,7 @@ void Form2::wishBackgroundPreview(const std::string& path) {
     return bitmap ? pictures::MakePicture(std::move(bitmap)) : nullptr;
   };
   awaited_.wish(AwaitedPictures::Place::Background, *ahead(), {.path = path, .box = box, .prepare = drawn},
-                [this](pictures::SharedPicture picture) {
+                [this](const pictures::SharedPicture& picture) {
                   Image1.setPicture(picture);
                   if (!picture) services_.dialogs.messageBox(kCouldNotLoadBackground, forms::kExclamation);
                 });
