@@ -92,8 +92,8 @@ void BeginWith(Scene& scene, const std::string& picture) {
   const auto first = std::ranges::find(scene.pictures, picture);
   if (first == scene.pictures.end()) return;
   const auto by = first - scene.pictures.begin();
-  std::ranges::rotate(scene.pictures, first);
-  std::ranges::rotate(scene.captions, scene.captions.begin() + by);
+  std::rotate(scene.pictures.begin(), first, scene.pictures.end());
+  std::rotate(scene.captions.begin(), scene.captions.begin() + by, scene.captions.end());
 }
 
 settings::Field EffectTurnedOn(const settings::SettingsRecord& before, const settings::SettingsRecord& now) {
