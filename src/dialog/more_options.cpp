@@ -55,6 +55,7 @@ void MoreOptions::layOut() {
   }
   for (forms::Label* label : {&example, &fieldsLabel}) label->wraps = true;
   std::vector<std::string> templates;
+  templates.reserve(std::size(kCaptionTemplates) + 1);
   for (const CaptionTemplate& each : kCaptionTemplates) templates.emplace_back(each.called);
   templates.emplace_back(kOwnTemplate);
   templateCombo.setItems(std::move(templates));

@@ -33,7 +33,7 @@ std::vector<int> RowsAtGap(std::span<const int> rows, int gap);
 class PictureRows {
  public:
   static constexpr std::size_t kMostChanges = 1'000;
-  static constexpr std::size_t kMostBytes = 16 * 1024 * 1024;
+  static constexpr std::size_t kMostBytes = std::size_t{16} * 1024 * 1024;
 
   // Both outlive it.
   PictureRows(forms::ListBox& paths, forms::ListBox& captions) : paths_(paths), captions_(captions) {}
