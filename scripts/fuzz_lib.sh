@@ -11,8 +11,8 @@ fuzz_targets() {
 fuzz_length() {
   case $1 in
     ini_document_fuzz | load_settings_fuzz | gif_fuzz) echo 2048 ;;
-    exif_fuzz | caption_template_fuzz) echo 1024 ;;
-    picture_facts_fuzz) echo 66000 ;;
+    caption_template_fuzz) echo 1024 ;;
+    exif_fuzz | picture_facts_fuzz) echo 66000 ;;
     command_line_fuzz) echo 256 ;;
     number_text_fuzz | date_text_fuzz) echo 64 ;;
     *) echo 4096 ;;

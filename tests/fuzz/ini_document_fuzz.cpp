@@ -2,10 +2,7 @@
 //
 // Input: the letter of a code page (J: characters of two bytes, else western), the file, and then the
 // changes, each behind a byte 1E: "=section 1F key 1F value" sets a key, "-section" empties a section.
-#include <map>
 #include <string>
-#include <utility>
-#include <vector>
 
 #include "base/text.h"
 #include "fuzz/input.h"
@@ -17,8 +14,7 @@
 
 namespace {
 
-using Name = std::pair<std::string, std::string>;  // of a section and a key, in lower case
-using Values = std::map<Name, std::string>;
+using Values = fuzz::NaiveIni::Values;
 
 // UTF-8 that comes through UTF-16 as it is, as every text inside the program does.
 std::string ValidText(std::string_view text) { return base::Utf8FromUtf16(base::Utf16FromUtf8(text)); }
@@ -30,12 +26,6 @@ std::string PlainName(std::string_view text) {
     if ((c >= '0' && c <= '9') || (base::AsciiLower(c) >= 'a' && base::AsciiLower(c) <= 'z')) name += c;
   }
   return name.empty() ? "k" : name;
-}
-
-Values ValuesOf(const fuzz::NaiveIni& file) {
-  Values values;
-  for (const Name& name : file.names()) values[name] = *file.value(name.first, name.second);
-  return values;
 }
 
 void RequireValues(const settings::IniDocument& document, const Values& values, std::string_view property) {
@@ -60,13 +50,16 @@ void SetKey(settings::IniDocument& document, Values& values, std::string_view ch
 void EraseSection(settings::IniDocument& document, Values& values, std::string_view change) {
   const std::string section = PlainName(change);
   document.eraseSection(section);
-  std::erase_if(values, [&](const auto& entry) { return entry.first.first == base::AsciiLower(section); });
+  const std::string name = base::AsciiLower(section);
+  for (auto at = values.lower_bound({name, ""}); at != values.end() && at->first.first == name;) {
+    at = values.erase(at);
+  }
 }
 
 void Check(std::string_view file, std::string_view changes, const os::AnsiCodePage& ansi) {
   settings::IniDocument document(file, ansi);
   const fuzz::NaiveIni naive(file, ansi);
-  Values values = ValuesOf(naive);
+  Values values = naive.values();
   RequireValues(document, values, "every value is read by the rules");
   fuzz::Require(!document.has("absent", "absent") || values.contains({"absent", "absent"}),
                 "what is not there is not found");
@@ -87,7 +80,7 @@ void Check(std::string_view file, std::string_view changes, const os::AnsiCodePa
   const settings::IniDocument reread(written, ansi);
   const fuzz::NaiveIni rereadNaively(written, ansi);
   RequireValues(reread, values, "every value survives the file");
-  fuzz::Require(ValuesOf(rereadNaively) == values, "a written file holds these values and no others");
+  fuzz::Require(rereadNaively.values() == values, "a written file holds these values and no others");
   fuzz::Require(rereadNaively.otherLines() == naive.otherLines(), "lines that are no keys stay as they are");
   fuzz::Require(reread.serialise() == written, "a second writing gives the same bytes");
   fuzz::Require(anyChange || written == unchanged, "writing twice without a change gives the same bytes");

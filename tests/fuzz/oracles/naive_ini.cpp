@@ -1,6 +1,7 @@
 #include "fuzz/oracles/naive_ini.h"
 
 #include <algorithm>
+#include <set>
 
 #include "base/text.h"
 
@@ -8,11 +9,10 @@ namespace fuzz {
 
 namespace {
 
-std::string Trimmed(std::string text) {
-  const auto isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\v'; };
-  while (!text.empty() && isBlank(text.back())) text.pop_back();
-  while (!text.empty() && isBlank(text.front())) text.erase(0, 1);
-  return text;
+std::string Trimmed(const std::string& text) {
+  constexpr const char* kBlanks = " \t\v";
+  const std::size_t begin = text.find_first_not_of(kBlanks);
+  return begin == std::string::npos ? "" : text.substr(begin, text.find_last_not_of(kBlanks) + 1 - begin);
 }
 
 // The name of the section that a line opens.
@@ -54,62 +54,42 @@ std::string Utf16ToUtf8(std::string_view bytes) {
   return base::Utf8FromUtf16(units);
 }
 
+std::vector<std::string> LinesOf(std::string_view file, const os::AnsiCodePage& ansi) {
+  const bool isUtf16 = file.starts_with("\xFF\xFE");
+  const std::string text = isUtf16 ? Utf16ToUtf8(file.substr(2)) : std::string(file);
+  std::vector<std::string> lines(1);
+  for (const char c : text) {
+    if (c == '\r' || c == '\n') {
+      lines.emplace_back();
+    } else {
+      lines.back() += c;
+    }
+  }
+  if (!isUtf16) {
+    for (std::string& line : lines) line = ansi.decode(line);
+  }
+  return lines;
+}
+
 }  // namespace
 
 NaiveIni::NaiveIni(std::string_view file, const os::AnsiCodePage& ansi) {
-  const bool isUtf16 = file.starts_with("\xFF\xFE");
-  const std::string text = isUtf16 ? Utf16ToUtf8(file.substr(2)) : std::string(file);
-  std::string line;
-  const auto close = [&] {
-    lines_.push_back(isUtf16 ? line : ansi.decode(line));
-    line.clear();
-  };
-  for (const char c : text) {
-    if (c == '\r' || c == '\n') {
-      close();
-    } else {
-      line += c;
+  std::set<std::string> opened;
+  std::optional<std::string> section;  // nothing before the first one, and in one whose name was there before
+  for (const std::string& line : LinesOf(file, ansi)) {
+    if (const auto header = Header(line)) {
+      section = opened.insert(*header).second ? header : std::nullopt;
+    } else if (const auto key = Key(line)) {
+      if (section) values_.insert({{*section, key->first}, Unquoted(key->second)});
+    } else if (const std::string other = Trimmed(line); !other.empty()) {
+      otherLines_.push_back(other);
     }
   }
-  close();
 }
 
 std::optional<std::string> NaiveIni::value(std::string_view section, std::string_view key) const {
-  const std::string wanted = base::AsciiLower(section);
-  bool inside = false;
-  for (const std::string& line : lines_) {
-    if (const auto header = Header(line)) {
-      if (inside) return std::nullopt;
-      inside = *header == wanted;
-    } else if (const auto found = Key(line); inside && found && found->first == base::AsciiLower(key)) {
-      return Unquoted(found->second);
-    }
-  }
-  return std::nullopt;
-}
-
-std::vector<std::pair<std::string, std::string>> NaiveIni::names() const {
-  std::vector<std::pair<std::string, std::string>> all;
-  std::string section;
-  bool any = false;
-  for (const std::string& line : lines_) {
-    if (const auto header = Header(line)) {
-      section = *header;
-      any = true;
-    } else if (const auto key = Key(line); any && key && value(section, key->first)) {
-      const std::pair name(section, key->first);
-      if (std::find(all.begin(), all.end(), name) == all.end()) all.push_back(name);
-    }
-  }
-  return all;
-}
-
-std::vector<std::string> NaiveIni::otherLines() const {
-  std::vector<std::string> others;
-  for (const std::string& line : lines_) {
-    if (!Trimmed(line).empty() && !Header(line) && !Key(line)) others.push_back(Trimmed(line));
-  }
-  return others;
+  const auto found = values_.find({base::AsciiLower(section), base::AsciiLower(key)});
+  return found == values_.end() ? std::nullopt : std::optional(found->second);
 }
 
 std::string AsStored(std::string_view value) {

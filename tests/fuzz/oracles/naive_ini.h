@@ -1,6 +1,7 @@
-// Settings files read in the plainest way: every question goes through all lines again.
+// Settings files read in the plainest way: line by line from the top, each understood by itself.
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,20 +14,24 @@ namespace fuzz {
 
 class NaiveIni {
  public:
+  // By section and key, both in lower case.
+  using Values = std::map<std::pair<std::string, std::string>, std::string>;
+
   // Lines in UTF-8, decoded each for itself.
   NaiveIni(std::string_view file, const os::AnsiCodePage& ansi);
 
-  // What a reader gets for the first such key of the first such section; nothing when there is none.
+  // What a reader gets for the first key of each name in the first section of each name.
+  const Values& values() const { return values_; }
+
+  // One of them; nothing when there is none.
   std::optional<std::string> value(std::string_view section, std::string_view key) const;
 
-  // Every section and key that value() finds, in lower case, each once.
-  std::vector<std::pair<std::string, std::string>> names() const;
-
   // Lines that are neither header nor key, without the blanks at their ends.
-  std::vector<std::string> otherLines() const;
+  const std::vector<std::string>& otherLines() const { return otherLines_; }
 
  private:
-  std::vector<std::string> lines_;
+  Values values_;
+  std::vector<std::string> otherLines_;
 };
 
 // The text that comes back for a value that was stored: on one line, up to no NUL.

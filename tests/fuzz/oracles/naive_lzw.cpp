@@ -11,19 +11,13 @@ using Bytes = std::vector<std::uint8_t>;
 
 constexpr std::size_t kMostCodes = 4096;
 
-std::vector<Bytes> FirstTable(int minimumCodeSize) {
-  std::vector<Bytes> table;
-  const std::size_t clear = std::size_t{1} << minimumCodeSize;
-  for (std::size_t i = 0; i < clear; ++i) table.push_back({static_cast<std::uint8_t>(i)});
-  table.resize(clear + 2);  // the clear code and the end code stand for no string
-  return table;
-}
-
 }  // namespace
 
 Bytes NaiveLzw(int minimumCodeSize, std::string_view data, std::size_t limit) {
   const std::size_t clear = std::size_t{1} << minimumCodeSize;
-  std::vector<Bytes> table = FirstTable(minimumCodeSize);
+  // The strings of the codes behind the clear code and the end code; those before them are a byte each.
+  std::vector<Bytes> table;
+  const std::size_t first = clear + 2;
   int codeSize = minimumCodeSize + 1;
   Bytes previous;
   Bytes out;
@@ -35,26 +29,28 @@ Bytes NaiveLzw(int minimumCodeSize, std::string_view data, std::size_t limit) {
       code |= static_cast<std::size_t>(byte >> (bit % 8) & 1) << i;
     }
     if (code == clear) {
-      table = FirstTable(minimumCodeSize);
+      table.clear();
       codeSize = minimumCodeSize + 1;
       previous.clear();
       continue;
     }
     if (code == clear + 1) break;
     Bytes string;
-    if (code < table.size()) {
-      string = table[code];
-    } else if (code == table.size() && !previous.empty()) {
+    if (code < clear) {
+      string = {static_cast<std::uint8_t>(code)};
+    } else if (code < first + table.size()) {
+      string = table[code - first];
+    } else if (code == first + table.size() && !previous.empty()) {
       string = previous;
       string.push_back(previous.front());
     } else {
       break;
     }
-    if (!previous.empty() && table.size() < kMostCodes) {
+    if (!previous.empty() && first + table.size() < kMostCodes) {
       previous.push_back(string.front());
       table.push_back(previous);
     }
-    if (table.size() >= std::size_t{1} << codeSize && codeSize < 12) ++codeSize;
+    if (first + table.size() >= std::size_t{1} << codeSize && codeSize < 12) ++codeSize;
     out.insert(out.end(), string.begin(), string.end());
     previous = string;
   }
