@@ -36,7 +36,7 @@ std::vector<Child> ChildrenOf(HWND form) {
   std::vector<Child> children;
   EnumChildWindows(
       form,
-      [](HWND window, LPARAM list) -> BOOL {
+      [](HWND window, LPARAM list) CALLBACK -> BOOL {
         Child child{window,
                     {},
                     RealDialog::classOf(window),

@@ -42,7 +42,7 @@ DWORD CountGdiTable(HANDLE process) {
 DWORD CountWindows(DWORD processId) {
   std::pair<DWORD, DWORD> search{processId, 0};
   EnumWindows(
-      [](HWND window, LPARAM data) -> BOOL {
+      [](HWND window, LPARAM data) CALLBACK -> BOOL {
         auto& [wanted, count] = *reinterpret_cast<std::pair<DWORD, DWORD>*>(data);
         DWORD owner = 0;
         GetWindowThreadProcessId(window, &owner);

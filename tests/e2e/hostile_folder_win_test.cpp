@@ -22,7 +22,7 @@ HWND OkButtonOf(HWND dialog) {
   HWND found = nullptr;
   EnumChildWindows(
       dialog,
-      [](HWND window, LPARAM result) -> BOOL {
+      [](HWND window, LPARAM result) CALLBACK -> BOOL {
         wchar_t text[16] = {};
         GetWindowTextW(window, text, 16);
         if (std::wstring(text) != L"&OK") return TRUE;

@@ -54,7 +54,7 @@ HWND VisibleChild(HWND parent, const wchar_t* className) {
   } search{className, nullptr};
   EnumChildWindows(
       parent,
-      [](HWND window, LPARAM data) -> BOOL {
+      [](HWND window, LPARAM data) CALLBACK -> BOOL {
         auto& wanted = *reinterpret_cast<Search*>(data);
         wchar_t name[64] = {};
         GetClassNameW(window, name, 64);

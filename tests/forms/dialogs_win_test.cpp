@@ -23,7 +23,7 @@ HWND AnswerableDialog() {
   HWND found = nullptr;
   EnumThreadWindows(
       GetCurrentThreadId(),
-      [](HWND window, LPARAM result) -> BOOL {
+      [](HWND window, LPARAM result) CALLBACK -> BOOL {
         wchar_t name[16] = {};
         GetClassNameW(window, name, 16);
         if (std::wstring(name) != L"#32770" || !IsWindowVisible(window) || !IsWindowEnabled(window))
@@ -47,7 +47,7 @@ class RealDialogs : public testing::Test {
 
   RealDialogs() {
     hands_ = this;
-    timer_ = SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR, DWORD) { hands_->act(); });
+    timer_ = SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR, DWORD) CALLBACK { hands_->act(); });
   }
   ~RealDialogs() override {
     KillTimer(nullptr, timer_);
@@ -111,7 +111,7 @@ class RealFontDialog : public RealDialogs {
     base::Font font;
     EnumFontFamiliesW(
         os::WindowDc(nullptr).get(), nullptr,
-        [](const LOGFONTW* face, const TEXTMETRICW*, DWORD, LPARAM result) -> int {
+        [](const LOGFONTW* face, const TEXTMETRICW*, DWORD, LPARAM result) CALLBACK -> int {
           const std::wstring name = face->lfFaceName;
           const bool isPlain = name == L"Arial" || name == L"Liberation Sans";
           if (isPlain) *reinterpret_cast<std::string*>(result) = os::FromWide(name);

@@ -79,7 +79,7 @@ HWND RealDialog::windowOf(const forms::Control& control) const {
   search.page = control.kind() == forms::ControlKind::TabPage;
   EnumChildWindows(
       window(),
-      [](HWND child, LPARAM data) -> BOOL {
+      [](HWND child, LPARAM data) CALLBACK -> BOOL {
         auto& wanted = *reinterpret_cast<Search*>(data);
         RECT place{};
         GetWindowRect(child, &place);
