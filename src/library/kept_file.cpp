@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "os/paths.h"
+
 namespace library {
 
 KeptFile::KeptFile(os::Files& files, const std::vector<std::string>& folders, const std::string& name,
@@ -10,7 +12,7 @@ KeptFile::KeptFile(os::Files& files, const std::vector<std::string>& folders, co
     : files_(files), kind_(kind), makeFolder_(std::move(makeFolder)) {
   for (const std::string& folder : folders) {
     if (folder.empty()) continue;
-    paths_.push_back(folder.ends_with('\\') ? folder + name : folder + '\\' + name);
+    paths_.push_back(os::JoinPath(folder, name));
   }
 }
 

@@ -147,7 +147,7 @@ void AheadLoader::jobDone(std::int64_t job) {
   answerFirst(made->picture, made->failure);
 }
 
-void AheadLoader::arrivedLate(std::deque<Hanging>::iterator hanging) {
+void AheadLoader::arrivedLate(const std::deque<Hanging>::iterator& hanging) {
   Hanging back = std::move(*hanging);
   hanging_.erase(hanging);
   if (!worker_) worker_ = std::move(back.worker);

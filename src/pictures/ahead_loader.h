@@ -113,7 +113,7 @@ class AheadLoader {
   Waiting waitingForFirst() const;
   void startJob(const Wish& wish);
   void jobDone(std::int64_t job);
-  void arrivedLate(std::deque<Hanging>::iterator hanging);
+  void arrivedLate(const std::deque<Hanging>::iterator& hanging);
   void patienceEnded();
   void startPatience();
   void answerFirst(SharedPicture picture, PictureFailure failure);

@@ -51,7 +51,7 @@ class ThumbnailPicture final : public Picture {
   }
 
   base::SharedBitmap drawnAt(base::PixelSize size) const override {
-    const base::SharedBitmap pixels = kept();
+    base::SharedBitmap pixels = kept();
     if (!pixels || pixels->size() == size) return pixels;
     return std::make_shared<base::Bitmap>(base::Resample(*pixels, size));
   }

@@ -204,8 +204,8 @@ class Form1 : public Face {
   bool drawsChange() const { return change_ != ChangeState::None && change_ != ChangeState::Awaiting; }
   void pauseAfterRetiring();
   void runEffectOn(const std::vector<Face*>& faces);
-  void ReplaceByWayOfBackground();
-  void ReplacePictures();
+  void replaceByWayOfBackground();
+  void replacePictures();
   void bringPictures(void (Face::*bring)());
   void fade();
   void runDirectEffect();
@@ -228,7 +228,7 @@ class Form1 : public Face {
   void noteShown();
   void holdOrGoOn();
   void neverAgain();
-  void putAway(std::string path);
+  void putAway();
   void inform();
   std::optional<std::int16_t> indexOf(const ShownPicture& picture) const;
   bool takesCare() const { return settings_.record.care == "1"; }

@@ -78,9 +78,9 @@ bool Form1::ShowNextPicture() {
   change_ = ChangeState::UnderWay;
   for (Face* face : changing_) face->clearForChange();
   if (look().changesWithoutPause()) {
-    ReplacePictures();
+    replacePictures();
   } else {
-    ReplaceByWayOfBackground();
+    replaceByWayOfBackground();
   }
   if (isOver()) return false;
   for (Face* face : changing_) {
@@ -95,7 +95,7 @@ bool Form1::ShowNextPicture() {
   return true;
 }
 
-void Form1::ReplaceByWayOfBackground() {
+void Form1::replaceByWayOfBackground() {
   if (pictureShown()) {
     RetireOldPicture();
     if (isOver()) return;
@@ -164,7 +164,7 @@ void Form1::runEffectOn(const std::vector<Face*>& faces) {
   }
 }
 
-void Form1::ReplacePictures() {
+void Form1::replacePictures() {
   FloatTimer.setEnabled(false);
   change_ = ChangeState::UnderWay;
   bringPictures(&Face::freezeAndBringPicture);

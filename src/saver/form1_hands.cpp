@@ -225,7 +225,7 @@ void Form1::neverAgain() {
   const std::int64_t now = services_.clock.tickMs();
   if (asked_ && asked_->path == present_->path && now < asked_->untilMs) {
     asked_.reset();
-    putAway(present_->path);
+    putAway();
     return;
   }
   asked_ = Asked{present_->path, now + kQuestionMs};
@@ -236,7 +236,8 @@ void Form1::neverAgain() {
     ImageChangeTimer.setInterval(std::max(changeIntervalMs(), kQuestionMs));
 }
 
-void Form1::putAway(std::string path) {
+void Form1::putAway() {
+  const std::string path = present_->path;  // which changes on the way
   const bool isKept = order_.hide(path);
   chooseFromNewList();
   if (settings_.lastImageIndex < 0) setNext(0);

@@ -137,6 +137,7 @@ void Form1::dealAgainWhereItMisfits() {
   const std::vector<Face*> all = faces();
   if (std::ranges::all_of(all, [this](Face* face) { return fits(face->currentImageIndex(), *face); })) return;
   std::vector<std::int16_t> dealt;
+  dealt.reserve(all.size());
   for (const Face* face : all) dealt.push_back(face->currentImageIndex());
   upcoming_.putBack(dealt);
   dealByShape();
@@ -177,7 +178,8 @@ void Form1::reseed() { random_.reseed(os::SecondsSinceMidnight(services_.clock.n
 std::uint64_t Form1::drawSeed() {
   const auto draw = [this] { return static_cast<std::uint64_t>(random_.next() * 16777216.0F); };
   const os::LocalTime now = services_.clock.now();
-  const auto day = static_cast<std::uint64_t>((now.year * 12 + now.month) * 31 + now.day);
+  const std::int64_t month = std::int64_t{now.year} * 12 + now.month;
+  const auto day = static_cast<std::uint64_t>(month * 31 + now.day);
   const auto tick = static_cast<std::uint64_t>(services_.clock.tickMs());
   return library::Scramble((draw() << 24 | draw()) ^ library::Scramble(day << 32 ^ tick));
 }

@@ -40,7 +40,7 @@ bool IsBright(base::PackedColor color);
 // Takes care of one text of a stage; both outlive it. It does nothing before it is asked to.
 class WordsCare {
  public:
-  static constexpr std::int64_t kDimAfterMs = 10 * 60 * 1000;  // without another text
+  static constexpr std::int64_t kDimAfterMs = std::int64_t{10} * 60 * 1000;  // without another text
 
   WordsCare(const forms::Label& words, Stage& stage, Leeway leeway)
       : words_(words), stage_(stage), leeway_(leeway) {}
