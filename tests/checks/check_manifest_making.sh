@@ -38,15 +38,23 @@ refuses() {
 }
 
 installer=manifests/winget/Lumora.ScreenSaver.installer.yaml
+locale=manifests/winget/Lumora.ScreenSaver.locale.en-US.yaml
 if make_all; then made=yes; else made=no; fi
 verdict "$made" yes AreMadeOfThePackages
 refuses AnotherSum "$installer" "s/^\(  InstallerSha256: \).*/\1$(printf '%064d' 0)/"
 refuses AnotherVersion manifests/winget/Lumora.ScreenSaver.yaml 's/1\.2\.3/1.2.4/'
 refuses AnUnknownField "$installer" 's/^Scope:/Scoop:/'
 refuses AnUnknownArchitecture "$installer" 's/x86$/i386/'
-refuses AMissingField manifests/winget/Lumora.ScreenSaver.locale.en-US.yaml '/^License:/d'
+refuses AReturnCodeAsText "$installer" 's/^\(- InstallerReturnCode: \)1$/\1"1"/'
+refuses AReturnCodeOfSuccess "$installer" 's/^\(- InstallerReturnCode: \)1$/\10/'
+refuses ADayThatIsNone "$installer" 's/^ReleaseDate:.*/ReleaseDate: 2026-02-30/'
+refuses AMissingField "$locale" '/^License:/d'
+refuses ANumberInThePlaceOfAText "$locale" 's/^License:.*/License: 2026/'
+refuses ATextThatIsTooLong "$locale" "s/^\(ShortDescription:\).*/\1 $(printf 'a%.0s' {1..257})/"
+refuses TheSameTagTwice "$locale" 's/^- photos$/- countdown/'
 refuses AnotherAddress manifests/scoop/lumora.json 's/packages\.lumora/other.lumora/'
 refuses ASumOfAnotherPackage manifests/scoop/lumora.json '/"hash"/s/"[0-9a-f]\{64\}"/"'"$(printf 'other' | sha256sum | cut -c 1-64)"'"/'
+refuses AShortcutWithoutAName manifests/scoop/lumora.json 's/^\( *"Lumora.scr"\),$/\1/; /^ *"Lumora Screen Saver"$/d'
 refuses WhatIsNoJson manifests/scoop/lumora.json '1d'
 refuses WrongSums SHA256SUMS '1d'
 echo "[  PASSED  ] $passed tests."

@@ -6,6 +6,7 @@ schemas: winget's manifests 1.6.0 (version, installer, default locale) and scoop
 manifests use is known here, so that a field that is new to them has to be looked up and added. Reports in GoogleTest's
 form.
 """
+import datetime
 import hashlib
 import json
 import os
@@ -14,11 +15,11 @@ import sys
 
 import yaml
 
-VERSION = r"[^\\/:*?\"<>|\x01-\x1f]+"
-IDENTIFIER = r"[^.\s\\/:*?\"<>|\x01-\x1f]{1,32}(\.[^.\s\\/:*?\"<>|\x01-\x1f]{1,32}){1,7}"
-LOCALE = r"([a-zA-Z]{2,3}|[iI]-[a-zA-Z]+|[xX]-[a-zA-Z]{1,8})(-[a-zA-Z]{1,8})*"
+URL = r"(?=.{1,2048}$)https?://[^\s$]+"
+VERSION = r"[^\\/:*?\"<>|\x01-\x1f]{1,128}"
+IDENTIFIER = r"(?=.{1,128}$)[^.\s\\/:*?\"<>|\x01-\x1f]{1,32}(\.[^.\s\\/:*?\"<>|\x01-\x1f]{1,32}){1,7}"
+LOCALE = r"(?=.{1,20}$)([a-zA-Z]{2,3}|[iI]-[a-zA-Z]+|[xX]-[a-zA-Z]{1,8})(-[a-zA-Z]{1,8})*"
 SHA256 = r"[A-Fa-f0-9]{64}"
-URL = r"https?://[^\s$]+"
 
 
 def text(shortest, longest):
@@ -29,51 +30,84 @@ def one_of(*words):
     return "|".join(re.escape(word) for word in words)
 
 
-# A format is a pattern for the whole of a text, a list with the format of its items, or an object: each field with its
-# format, the required ones marked by "!".
+class Items:
+    """A list of so many items of one format, no two of them alike where they are a set."""
+
+    def __init__(self, form, most, fewest=0, is_set=True):
+        self.form, self.most, self.fewest, self.is_set = form, most, fewest, is_set
+
+
+def is_date(value):
+    try:
+        return isinstance(value, str) and len(value) == 10 and bool(datetime.date.fromisoformat(value))
+    except ValueError:
+        return False
+
+
+def is_return_code(value):
+    return type(value) is int and value != 0 and -2147483648 <= value <= 4294967295
+
+
+# A format is a pattern for the whole of a text, a rule that a value keeps, a list with the format of its items, or an
+# object: each field with its format, the required ones marked by "!".
 WINGET_HEAD = {"PackageIdentifier!": IDENTIFIER, "PackageVersion!": VERSION, "ManifestVersion!": r"1\.6\.0"}
 WINGET_VERSION = {**WINGET_HEAD, "DefaultLocale!": LOCALE, "ManifestType!": "version"}
 WINGET_INSTALLER = {
     **WINGET_HEAD,
     "ManifestType!": "installer",
-    "Platform": [one_of("Windows.Desktop", "Windows.Universal")],
+    "Platform": Items(one_of("Windows.Desktop", "Windows.Universal"), 2),
     "InstallerType": one_of("msix", "msi", "appx", "exe", "zip", "inno", "nullsoft", "wix", "burn", "pwa", "portable"),
     "Scope": one_of("user", "machine"),
-    "InstallModes": [one_of("interactive", "silent", "silentWithProgress")],
+    "InstallModes": Items(one_of("interactive", "silent", "silentWithProgress"), 3),
     "UpgradeBehavior": one_of("install", "uninstallPrevious"),
-    "ExpectedReturnCodes": [{
-        "InstallerReturnCode": r"-?[1-9]\d{0,9}",
+    "ExpectedReturnCodes": Items({
+        "InstallerReturnCode": is_return_code,
         "ReturnResponse": one_of("packageInUse", "packageInUseByApplication", "installInProgress", "fileInUse",
                                  "missingDependency", "diskFull", "insufficientMemory", "invalidParameter",
                                  "noNetwork", "contactSupport", "rebootRequiredToFinish",
                                  "rebootRequiredForInstall", "rebootInitiated", "cancelledByUser",
                                  "alreadyInstalled", "downgrade", "blockedByPolicy", "systemNotSupported", "custom"),
-    }],
-    "ReleaseDate": r"\d{4}-\d{2}-\d{2}",
-    "AppsAndFeaturesEntries": [{
+    }, 128, is_set=False),
+    "ReleaseDate": is_date,
+    "AppsAndFeaturesEntries": Items({
         "DisplayName": text(1, 256), "Publisher": text(1, 256), "DisplayVersion": text(1, 128),
         "ProductCode": text(1, 255),
-    }],
-    "Installers!": [{
+    }, 128),
+    "Installers!": Items({
         "Architecture!": one_of("x86", "x64", "arm", "arm64", "neutral"),
         "InstallerUrl!": URL,
         "InstallerSha256!": SHA256,
-    }],
+    }, 1024, fewest=1, is_set=False),
 }
 WINGET_LOCALE = {
     **WINGET_HEAD,
     "ManifestType!": "defaultLocale", "PackageLocale!": LOCALE, "Publisher!": text(2, 256), "PublisherUrl": URL,
     "PackageName!": text(2, 256), "PackageUrl": URL, "License!": text(3, 512), "Copyright": text(3, 512),
-    "ShortDescription!": text(3, 256), "Tags": [text(1, 40)],
+    "ShortDescription!": text(3, 256), "Tags": Items(text(1, 40), 16),
 }
 SCOOP_ARCHITECTURE = {"url!": URL, "hash!": SHA256}
+SCOOP_LINES = Items(text(1, 1000), 1000, fewest=1, is_set=False)
 SCOOP = {
     "version!": r"[\w\-.+_]+", "description": text(1, 1000), "homepage": URL, "license": text(1, 100),
-    "notes": [text(1, 1000)], "extract_dir": text(1, 100), "pre_install": text(1, 1000),
+    "notes": SCOOP_LINES, "extract_dir": text(1, 100), "pre_install": text(1, 1000),
     "architecture": {"64bit": SCOOP_ARCHITECTURE, "32bit": SCOOP_ARCHITECTURE},
-    "shortcuts": [[text(1, 260)]],
-    "uninstaller": {"script!": [text(1, 1000)]},
+    # The target in the folder, the name, and where they are wanted the arguments and the icon.
+    "shortcuts": Items(Items(text(1, 260), 4, fewest=2, is_set=False), 100, fewest=1),
+    "uninstaller": {"script!": SCOOP_LINES},
 }
+
+
+class WingetLoader(yaml.BaseLoader):
+    """Reads whole numbers, truth values and nothing as what they are, and everything else as text, as winget does."""
+
+
+WingetLoader.add_constructor("tag:yaml.org,2002:int", yaml.constructor.SafeConstructor.construct_yaml_int)
+for first in "-+0123456789":
+    WingetLoader.add_implicit_resolver("tag:yaml.org,2002:int", re.compile(r"[-+]?[0-9]+$"), [first])
+WingetLoader.add_constructor("tag:yaml.org,2002:bool", lambda loader, node: node.value.lower() == "true")
+WingetLoader.add_implicit_resolver("tag:yaml.org,2002:bool", re.compile(r"(?i)(true|false)$"), list("tTfF"))
+WingetLoader.add_constructor("tag:yaml.org,2002:null", lambda loader, node: None)
+WingetLoader.add_implicit_resolver("tag:yaml.org,2002:null", re.compile(r"(~|(?i:null)|)$"), ["~", "n", "N", ""])
 
 
 def faults(value, form, where):
@@ -81,12 +115,17 @@ def faults(value, form, where):
     if isinstance(form, str):
         if not isinstance(value, str) or not re.fullmatch(form, value):
             yield f"{where}: {value!r}"
-    elif isinstance(form, list):
-        if not isinstance(value, list) or not value:
-            yield f"{where}: no list"
+    elif callable(form):
+        if not form(value):
+            yield f"{where}: {value!r}"
+    elif isinstance(form, Items):
+        if not isinstance(value, list) or not form.fewest <= len(value) <= form.most:
+            yield f"{where}: no list of {form.fewest} to {form.most}"
             return
+        if form.is_set and any(item in value[:i] for i, item in enumerate(value)):
+            yield f"{where}: the same twice"
         for i, item in enumerate(value):
-            yield from faults(item, form[0], f"{where}[{i}]")
+            yield from faults(item, form.form, f"{where}[{i}]")
     else:
         if not isinstance(value, dict):
             yield f"{where}: no object"
@@ -123,7 +162,7 @@ def check_winget(packages):
     for part, form in names.items():
         name = f"Lumora.ScreenSaver{part}.yaml"
         with open(os.path.join(folder, name), encoding="utf-8") as file:
-            found[part] = yaml.load(file, yaml.BaseLoader)
+            found[part] = yaml.load(file, WingetLoader)
         yield from faults(found[part], form, name)
         if found[part].get("PackageVersion") != packages.version:
             yield f"{name}: the version is {found[part].get('PackageVersion')}"
