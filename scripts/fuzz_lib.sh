@@ -19,15 +19,18 @@ fuzz_length() {
   esac
 }
 
-# Replays the corpus of a target, then fuzzes from it. $1: target, $2: seconds, $3: folder for new inputs.
+# Replays the corpus of a target and its seeds, which are made by hand and stay whatever the corpus becomes, then fuzzes
+# from them. $1: target, $2: seconds, $3: folder for new inputs.
 # The log and an input that breaks a property go to out/fuzz/.
 fuzz_target() {
-  local target=$1 seconds=$2 found=$3
-  mkdir -p "$root/out/fuzz" "$found" "$root/tests/fuzz/corpus/$target"
+  local target=$1 seconds=$2 found=$3 known
+  known=("$root/tests/fuzz/corpus/$target")
+  mkdir -p "$root/out/fuzz" "$found" "${known[0]}"
+  [ ! -d "$root/tests/fuzz/seeds/$target" ] || known+=("$root/tests/fuzz/seeds/$target")
   "$root/build-fuzz/$target" -max_total_time="$seconds" -max_len="$(fuzz_length "$target")" -timeout=20 \
     -rss_limit_mb=1024 -malloc_limit_mb=256 -print_final_stats=1 \
     -dict="$root/tests/fuzz/dictionaries/$target.dict" -artifact_prefix="$root/out/fuzz/$target-" \
-    "$found" "$root/tests/fuzz/corpus/$target" >"$root/out/fuzz/$target.log" 2>&1
+    "$found" "${known[@]}" >"$root/out/fuzz/$target.log" 2>&1
 }
 
 # Says what a failed run of a target found and where the input lies.
