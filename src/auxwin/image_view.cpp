@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-#include "forms/file_name.h"
+#include "os/paths.h"
 
 namespace auxwin {
 
@@ -48,7 +48,7 @@ ImageView::ImageView(const forms::ListBox& pictures, pictures::PictureLoader& lo
 
 void ImageView::Form_Load() {
   const std::string path = pictures_.text();
-  setCaption(path.empty() ? "Image" : forms::LastName(path));
+  setCaption(path.empty() ? "Image" : os::NameOf(path));
   Picture1.setPicture(nullptr);
   Picture1.move(0, 0, kEmptySize, kEmptySize);
   pressed_ = dragged_ = false;

@@ -82,10 +82,4 @@ std::vector<std::string> FilesOfSelection(std::string_view selection) {
   return files;
 }
 
-std::string LastName(const std::string& path) {
-  if (IsRoot(path)) return path;
-  const std::size_t slash = path.rfind('\\');
-  return slash == std::string::npos ? path : path.substr(slash + 1);
-}
-
 }  // namespace forms

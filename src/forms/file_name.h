@@ -21,7 +21,4 @@ std::vector<std::string> FoldersOnTheWay(const std::string& path);
 // of files in it, or one whole path.
 std::vector<std::string> FilesOfSelection(std::string_view selection);
 
-// The last part of a path; a drive's root is its own name.
-std::string LastName(const std::string& path);
-
 }  // namespace forms

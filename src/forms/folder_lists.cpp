@@ -44,7 +44,7 @@ void FolderList::list() {
   entries_.clear();
   int depth = 0;
   for (const std::string& folder : FoldersOnTheWay(path_)) {
-    entries_.push_back({folder, LastName(folder), depth++, true});
+    entries_.push_back({folder, os::NameOf(folder), depth++, true});
   }
   listIndex_ = static_cast<int>(entries_.size()) - 1;
   std::vector<std::string> names = disk_.foldersIn(path_);

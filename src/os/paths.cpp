@@ -2,11 +2,25 @@
 
 namespace os {
 
+namespace {
+
+constexpr std::string_view kSlashes = "\\/";
+
+}  // namespace
+
 std::string FolderOf(const std::string& path) {
-  const std::size_t last = path.find_last_of("\\/");
+  const std::size_t last = path.find_last_of(kSlashes);
   if (last == std::string::npos) return {};
   const bool isRoot = last == 0 || path[last - 1] == ':';
   return path.substr(0, isRoot ? last + 1 : last);
+}
+
+std::string NameOf(const std::string& path) {
+  const bool namesDrive = path.size() > 1 && path[1] == ':';
+  if (namesDrive && path.find_last_not_of(kSlashes) == 1) return path;
+  const std::size_t last = path.find_last_of(kSlashes);
+  if (last != std::string::npos) return path.substr(last + 1);
+  return namesDrive ? path.substr(2) : path;
 }
 
 std::string JoinPath(const std::string& folder, std::string_view name) {

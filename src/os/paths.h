@@ -1,4 +1,4 @@
-// Paths as text. Folders are separated by backslashes.
+// Paths as text. Folders are separated by backslashes, in what people wrote by hand by slashes too.
 #pragma once
 
 #include <cstddef>
@@ -10,6 +10,9 @@ namespace os {
 // The folder part of a path, without a backslash at its end unless it is a drive's root ("C:\"); empty for a
 // bare name.
 std::string FolderOf(const std::string& path);
+
+// The last part of a path: a file's or a folder's own name. A drive and its root ("C:\") are their own names.
+std::string NameOf(const std::string& path);
 
 // The path of a name in a folder, which may end in a backslash or not.
 std::string JoinPath(const std::string& folder, std::string_view name);

@@ -15,8 +15,6 @@ constexpr int kQuestionMs = 3000;      // within which a picture can be put away
 constexpr int kNothingLeftMs = 10000;  // for what explains an empty screen
 constexpr const char* kNothingLeft = "No pictures are left to show. The settings can bring them back.";
 
-std::string NameOf(const std::string& path) { return path.substr(path.find_last_of("\\/:") + 1); }
-
 }  // namespace
 
 // A step that the user took: it comes without effect and pause, and the one who waits can be told of another.
@@ -229,7 +227,7 @@ void Form1::neverAgain() {
     return;
   }
   asked_ = Asked{present_->path, now + kQuestionMs};
-  notes_.say("Press Delete again to never show this picture any more: " + NameOf(present_->path),
+  notes_.say("Press Delete again to never show this picture any more: " + os::NameOf(present_->path),
              kQuestionMs);
   // It stands for as long as it is asked about.
   if (ImageChangeTimer.enabled() && changeIntervalMs() > 0)
@@ -246,9 +244,10 @@ void Form1::putAway() {
   if (settings_.lastImageIndex < 0) {
     notes_.say(kNothingLeft, kNothingLeftMs);
   } else if (isKept) {
-    notes_.say(NameOf(path) + " will not be shown again.");
+    notes_.say(os::NameOf(path) + " will not be shown again.");
   } else {
-    notes_.say(NameOf(path) + " is left out of this show; that could not be kept for others.", kQuestionMs);
+    notes_.say(os::NameOf(path) + " is left out of this show; that could not be kept for others.",
+               kQuestionMs);
   }
 }
 
@@ -261,7 +260,7 @@ void Form1::inform() {
     notes_.inform({"No picture"});
     return;
   }
-  std::vector<std::string> lines{NameOf(present_->path), os::FolderOf(present_->path)};
+  std::vector<std::string> lines{os::NameOf(present_->path), os::FolderOf(present_->path)};
   if (const auto date = pictureDate()) lines.push_back(os::GeneralDate(services_.dates, *date));
   const std::optional<std::int16_t> index = indexOf(*present_);
   if (index) {

@@ -11,11 +11,6 @@ namespace {
 
 constexpr std::string_view kSlashes = "\\/";
 
-std::string LastPart(const std::string& path) {
-  const std::size_t slash = path.find_last_of(kSlashes);
-  return slash == std::string::npos ? path : path.substr(slash + 1);
-}
-
 // A name that begins with its only dot has no ending.
 std::string WithoutEnding(const std::string& file) {
   const std::size_t dot = file.rfind('.');
@@ -25,7 +20,7 @@ std::string WithoutEnding(const std::string& file) {
 std::string FolderName(const std::string& path) {
   std::string folder = os::FolderOf(path);
   while (!folder.empty() && kSlashes.find(folder.back()) != std::string_view::npos) folder.pop_back();
-  return LastPart(folder);
+  return os::NameOf(folder);
 }
 
 bool IsUtf8(std::string_view text) {
@@ -45,7 +40,7 @@ std::string Readable(const std::string& noted, const os::AnsiCodePage& ansi) {
 
 CaptionWords WordsOf(const ListedPicture& picture, const pictures::PictureFacts& facts,
                      const os::DateText& dates, const os::AnsiCodePage& ansi) {
-  const std::string file = LastPart(picture.path);
+  const std::string file = os::NameOf(picture.path);
   return {.name = WithoutEnding(file),
           .file = file,
           .folder = FolderName(picture.path),

@@ -37,8 +37,6 @@ TEST(FileName, ARootKeepsItsBackslash) {
   EXPECT_EQ(WithoutTrailingSlash("C:\\x\\"), "C:\\x");
   EXPECT_EQ(FoldersOnTheWay("C:\\x\\y"), (std::vector<std::string>{"C:\\", "C:\\x", "C:\\x\\y"}));
   EXPECT_EQ(FoldersOnTheWay("C:\\"), (std::vector<std::string>{"C:\\"}));
-  EXPECT_EQ(LastName("C:\\x\\y"), "y");
-  EXPECT_EQ(LastName("C:\\"), "C:\\");
 }
 
 struct FolderListsTest : testing::Test {

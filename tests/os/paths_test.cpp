@@ -11,6 +11,22 @@ TEST(FolderOf, TheFolderHasNoBackslashAtItsEndUnlessItIsARoot) {
   EXPECT_EQ(os::FolderOf(""), "");
 }
 
+TEST(NameOf, IsTheLastPart) {
+  EXPECT_EQ(os::NameOf("C:\\x\\y"), "y");
+  EXPECT_EQ(os::NameOf("C:\\Lumora\\image1.gif"), "image1.gif");
+  EXPECT_EQ(os::NameOf("C:/Lumora/image1.gif"), "image1.gif");
+  EXPECT_EQ(os::NameOf("\\\\server\\share\\a.jpg"), "a.jpg");
+  EXPECT_EQ(os::NameOf("a.jpg"), "a.jpg");
+  EXPECT_EQ(os::NameOf("C:a.jpg"), "a.jpg") << "in the drive's present folder";
+  EXPECT_EQ(os::NameOf("C:\\x\\"), "");
+  EXPECT_EQ(os::NameOf(""), "");
+}
+
+TEST(NameOf, ADriveAndItsRootAreTheirOwnNames) {
+  EXPECT_EQ(os::NameOf("C:\\"), "C:\\");
+  EXPECT_EQ(os::NameOf("C:"), "C:");
+}
+
 TEST(JoinPath, TheFolderGetsABackslashWhenItHasNone) {
   EXPECT_EQ(os::JoinPath("C:\\", "a"), "C:\\a");
   EXPECT_EQ(os::JoinPath("C:\\x", "a"), "C:\\x\\a");
