@@ -18,7 +18,7 @@ using Text = const std::string&;
 // Puts another value into the record.
 void Choose(M& form, settings::Field field, std::string text) {
   form.choices.record.*field = std::move(text);
-  form.chosen();
+  form.showState();
 }
 
 // A check box: "1", or nothing.

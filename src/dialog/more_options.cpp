@@ -69,6 +69,8 @@ void MoreOptions::layOut() {
 
 void MoreOptions::connect() {
   for (const MoreOptionRow& row : MoreOptionTable()) row.connect(*this);
+  // A hint speaks of what is seen.
+  tabs.onClick = [this] { hints.setPanelText(1, kClearsHint); };
   classic.onClick = [this] { classic_Click(); };
   today.onClick = [this] { today_Click(); };
   folderList.onClick = [this] { showNeeds(); };
@@ -96,11 +98,6 @@ void MoreOptions::showChoices() {
 void MoreOptions::showTemplate() {
   const auto found = std::ranges::find(kCaptionTemplates, choices.record.captions, &CaptionTemplate::text);
   templateCombo.setText(std::string(found == kCaptionTemplates.end() ? kOwnTemplate : found->called));
-}
-
-void MoreOptions::chosen() {
-  showState();
-  if (onChoice) onChoice();
 }
 
 void MoreOptions::showState() {
@@ -139,7 +136,7 @@ const char* MoreOptions::hintAt(const forms::Control& container, const forms::Mo
 void MoreOptions::applyLook(const char* LookRow::*look) {
   for (const LookRow& row : kLooks) choices.record.*row.field = row.*look;
   for (const MoreOptionRow& row : MoreOptionTable()) row.show(*this, choices.record.*row.field);
-  chosen();
+  showState();
 }
 
 void MoreOptions::classic_Click() { applyLook(&LookRow::classic); }
@@ -155,7 +152,7 @@ void MoreOptions::templateCombo_Click() {
 void MoreOptions::words_Change() {
   choices.record.captions = words.text();
   showTemplate();
-  chosen();
+  showState();
 }
 
 void MoreOptions::Ok_Click() {

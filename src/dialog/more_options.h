@@ -48,9 +48,6 @@ class MoreOptions : public forms::Form {
   MoreChoices choices;
   bool accepted() const { return accepted_; }
 
-  // A choice is another one now.
-  std::function<void()> onChoice;
-
   forms::TabControl tabs;
 
   // Screens.
@@ -131,10 +128,8 @@ class MoreOptions : public forms::Form {
   void Ok_Click();
   void Cancel_Click();
 
-  // For the handlers of the option table: a control has another value, which is in the record.
-  void chosen();
-
-  // Shows what follows from the choices: what has an effect, and what the sliders and templates stand for.
+  // Shows what follows from the choices: what has an effect, and what the sliders and templates stand for. To
+  // be called when a choice has come into the record.
   void showState();
 
   // Pictures that are hidden now, and stay so if everything is saved as it is chosen.

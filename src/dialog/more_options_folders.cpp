@@ -66,7 +66,7 @@ void MoreOptions::addFolder_Click() {
   const auto index = static_cast<int>(at - choices.folders.begin());
   countFolders();
   folderList.setListIndex(index);
-  chosen();
+  showState();
 }
 
 // The one that moves up into the place of the one that was removed is selected, so that several can be
@@ -77,19 +77,19 @@ void MoreOptions::removeFolder_Click() {
   choices.folders.erase(choices.folders.begin() + index);
   countFolders();
   folderList.setListIndex(std::min(index, folderList.listCount() - 1));
-  chosen();
+  showState();
 }
 
 void MoreOptions::subfolders_Click() {
   choices.record.subfolders = subfolders.value() == 1 ? "1" : "";
   countFolders();
-  chosen();
+  showState();
 }
 
 void MoreOptions::showAgain_Click() {
   choices.showsHiddenAgain = true;
   showFolders();
-  chosen();
+  showState();
 }
 
 }  // namespace dialog

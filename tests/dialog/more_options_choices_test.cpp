@@ -10,6 +10,7 @@
 #include "saver/form1.h"
 #include "saver/looks.h"
 #include "support/more_options_desk.h"
+#include "support/recorded_live_show.h"
 
 namespace dialog {
 namespace {
@@ -254,16 +255,24 @@ TEST(MoreOptionsLooks, TodayIsWholeOnASoftSurroundWithCrossfadesAndASlowGlideAnd
       Untouched() + "[extras]\r\nfit=whole\r\nsurround=blur\r\nchange=crossfade\r\npanZoom=8\r\nshade=1\r\n");
 }
 
-TEST(MoreOptionsLooks, EachCanBeChangedAfterwardsOneByOneAndIsHeardOf) {
+TEST(MoreOptionsLooks, EachCanBeChangedAfterwardsOneByOneAndIsSeenAtOnce) {
+  support::RecordedLiveShow live;
   Desk desk;
-  desk.inMore([](MoreOptions& form) {
-    int changes = 0;
-    form.onChoice = [&] { ++changes; };
+  desk.machine.live = &live;
+  const auto played = [&](const char* key) {
+    desk.machine.loop.runFor(2 * LiveViews::kLookMs);
+    return settings::IniDocument(live.plays.back().what.settings, desk.machine.ansi).value("extras", key);
+  };
+  desk.inMore([&](MoreOptions& form) {
+    form.tabs.userSelectedTab(MoreOptions::kLookTab);
     form.today.userClicked();
-    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(played("fit"), "whole");
+    EXPECT_EQ(played("surround"), "blur");
     form.surround.userClicked();
+    EXPECT_EQ(played("surround"), "");
     form.panZoomSlider.userSetValue(12);
-    EXPECT_EQ(changes, 3);
+    EXPECT_EQ(played("panZoom"), "12");
+    EXPECT_EQ(live.plays.size(), 4U) << "one for the tab, and one a change";
   });
   const R& record = desk.dialog().form.record;
   EXPECT_EQ(record.fit + record.surround + record.panZoom, "whole12");
