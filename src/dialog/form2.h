@@ -269,6 +269,9 @@ class Form2 : public forms::Form {
   // The loader of previews where the settings ask for one, else null: then they are loaded on the spot.
   pictures::AheadLoader* ahead() const { return loadsAhead_ ? services_.ahead : nullptr; }
 
+  // Draws the background's picture anew, where one is shown, for the size that its place has now.
+  void redrawBackgroundPreview();
+
   // Shows the background's picture when ahead() has it, and tells when it cannot be had. Needs ahead().
   void wishBackgroundPreview(const std::string& path);
   void dropBackgroundPreview() { awaited_.drop(AwaitedPictures::Place::Background); }

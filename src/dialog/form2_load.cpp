@@ -127,6 +127,15 @@ base::SharedBitmap Form2::drawBackgroundPreview(const std::string& path) const {
   }
 }
 
+void Form2::redrawBackgroundPreview() {
+  if (!Image1.picture()) return;
+  if (ahead()) {
+    wishBackgroundPreview(record.backgroundImage);
+  } else if (base::SharedBitmap drawn = drawBackgroundPreview(record.backgroundImage)) {
+    Image1.setPicture(pictures::MakePicture(std::move(drawn)));
+  }
+}
+
 void Form2::setSavingNote(std::string note) {
   savingNote_ = std::move(note);
   showNotes();

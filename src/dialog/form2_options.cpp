@@ -55,6 +55,7 @@ void Form2::backColorClick_Click() {
 
 void Form2::UpdateGradientPreview() {
   const base::PixelSize size = GradientPicture.scaleSize();
+  GradientPicture.cls();  // a drawing keeps the size that the box had
   // Read leniently: after a loading that failed early, a component may have no text yet.
   GradientPicture.paintPart(
       std::make_shared<base::Bitmap>(base::DrawGradient(

@@ -128,6 +128,13 @@ bool PictureList::ShowPreview(const std::string& path) {
   }
 }
 
+void PictureList::redrawPreview() {
+  const std::string awaited = form_.awaited().isFor(kPreview, form_.List1.text()) ? form_.List1.text() : "";
+  const std::string path = std::exchange(previewed_, {});
+  form_.awaited().drop(kPreview);
+  if (!awaited.empty() || !path.empty()) ShowPreview(awaited.empty() ? path : awaited);
+}
+
 bool PictureList::preview(const std::string& path) {
   if (form_.photo1.picture() && previewed_ == path) {
     form_.awaited().drop(kPreview);

@@ -88,6 +88,9 @@ class PictureList {
   // true: photo1 follows when the picture is there, and what cannot be loaded is told then.
   bool ShowPreview(const std::string& path);
 
+  // Draws the thumbnail anew, where one is shown or awaited, for the size that photo1 has now.
+  void redrawPreview();
+
   // The list for whoever else adds to it; refers to this object.
   auxwin::PictureTarget target();
 

@@ -43,6 +43,11 @@ void SettingsDialog::connect() {
     form.Form_Load();
   };
   form.onUnload = [this] { closed(); };
+  form.onRescaled = [this] {
+    form.UpdateGradientPreview();
+    form.redrawBackgroundPreview();
+    pictures.redrawPreview();
+  };
   form.Ok.onClick = [this] { Ok_Click(); };
   form.Save.onClick = [this] { Save_Click(); };
   form.TryIt.onClick = [this] { TryIt_Click(); };

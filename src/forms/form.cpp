@@ -40,6 +40,7 @@ void Form::setLayoutScale(const LayoutScale& scale) {
     control->move(control->left() * wider, control->top() * higher, control->width() * wider,
                   control->height() * higher);
   }
+  if (onRescaled) onRescaled();
 }
 
 void Form::setCaption(std::string caption) {

@@ -92,6 +92,7 @@ class Form {
   std::function<void(int keyCode)> onKeyDown;
   std::function<void()> onHelp;  // the system's key for help was pressed
   std::function<void()> onMinimizedChanged;
+  std::function<void()> onRescaled;  // what stands on the form has other sizes in pixels
 
  private:
   friend class Control;
