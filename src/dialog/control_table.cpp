@@ -176,7 +176,7 @@ constexpr ControlRow kControls[] = {
     {It<&F::Cancel>, OnForm, {544, 460, 88, 26}, "&Cancel", "Cancel changes", "",
      "Cancel Settings: Cancel and do not save screen saver settings"},
     {It<&F::TryIt>, OnForm, {108, 460, 88, 26}, "&Try It", "Show the screen saver with these settings", "",
-     "Try It: Show the screen saver as it is set now, without saving. A key or the mouse ends it"},
+     "Try It: Show the screen saver as it is set now. A key or the mouse ends it"},
     {It<&F::liveProperties>, On<&F::Frame1>, {372, 20, 196, 112}, "", "", kLiveName, kLiveHint},
     {It<&F::liveSensitivity>, OnTab<3>, {113, 146, 386, 218}, "", "", kLiveName,
      "Preview: Move the pointer over it. It ends as the screen saver would"},

@@ -151,19 +151,15 @@ void Form2::setRefusalNote(std::function<std::string()> note) {
   showNotes();
 }
 
+// One at a time, what prevents a save first: the hint beside it is not to be pushed out of the bar.
 void Form2::showNotes() {
-  std::string notes;
-  const auto say = [&notes](const std::string& note) {
-    if (!notes.empty() && !note.empty()) notes += ' ';
-    notes += note;
-  };
-  say(savingNote_);
   const std::string refusal = refusalNote_ ? refusalNote_() : "";
   if (refusal.empty()) refusalNote_ = nullptr;
-  say(refusal);
-  say(listNote_);
-  if (List1.listCount() > std::numeric_limits<std::int16_t>::max()) say(kMoreThanTheShowCanUse);
-  SS_StatusBar.setPanelText(2, notes);
+  const bool isTooLong = List1.listCount() > std::numeric_limits<std::int16_t>::max();
+  const std::string notes[] = {savingNote_, refusal, listNote_, isTooLong ? kMoreThanTheShowCanUse : ""};
+  const auto* const first =
+      std::ranges::find_if(notes, [](const std::string& note) { return !note.empty(); });
+  SS_StatusBar.setPanelText(2, first == std::end(notes) ? "" : *first);
 }
 
 void Form2::wishBackgroundPreview(const std::string& path) {
