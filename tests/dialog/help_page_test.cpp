@@ -8,6 +8,7 @@
 #include "base/text.h"
 #include "dialog/caption_templates.h"
 #include "dialog/control_table.h"
+#include "dialog/messages.h"
 #include "dialog/more_table.h"
 #include "settings/settings_record.h"
 #include "support/settings_dialog_machine.h"
@@ -71,6 +72,31 @@ TEST(HelpPage, NamesEveryOptionBeyondTheTabs) {
     EXPECT_NE(page.find(Shown(row.caption)), std::string::npos) << row.caption;
   }
   EXPECT_NE(page.find("<b>" + Shown(kOwnTemplate) + "</b>"), std::string::npos);
+}
+
+// A drawing has a text for those who do not see it.
+TEST(HelpPage, DrawsTheOptionsOfEachTabBeyondTheTabs) {
+  const std::string page = Page();
+  for (const std::string_view tab : MoreTabCaptions()) {
+    const std::size_t start = page.find(">" + Shown(tab) + "</h3>");
+    ASSERT_NE(start, std::string::npos) << tab;
+    const std::string section = page.substr(start, page.find("<h", start) - start);
+    int drawings = 0;
+    for (std::size_t at = section.find("<svg "); at != std::string::npos;
+         at = section.find("<svg ", at + 1)) {
+      const std::string head = section.substr(at, section.find('>', at) - at);
+      EXPECT_NE(head.find(" role=\"img\" aria-label=\""), std::string::npos) << head;
+      ++drawings;
+    }
+    EXPECT_GE(drawings, 2) << tab;
+  }
+}
+
+TEST(HelpPage, SaysWhatTheStatusBarTells) {
+  const std::string page = WithSingleBlanks(Page());
+  for (const char* note : {kFolderReadOnly, kFileReadOnly, kMissingImages, kMoreThanTheShowCanUse}) {
+    EXPECT_NE(page.find(std::string("<dt>") + note + "</dt>"), std::string::npos) << note;
+  }
 }
 
 TEST(HelpPage, NamesEveryKeyOfTheSettingsFile) {
