@@ -94,8 +94,8 @@ void ListBox::editedRuns(ListEdit::Kind kind, std::span<const int> indices) {
 }
 
 const std::string& ListBox::item(int index) const {
-  static const std::string none;
-  if (index < 0 || index >= listCount()) return none;
+  static const std::string kNone;
+  if (index < 0 || index >= listCount()) return kNone;
   return items_[static_cast<std::size_t>(index)];
 }
 

@@ -7,7 +7,7 @@ namespace saver {
 
 namespace {
 
-constexpr std::int64_t kAnHourMs = 60 * 60 * 1000;  // the end of a wait that only an event ends
+constexpr std::int64_t kAnHourMs = std::int64_t{60} * 60 * 1000;  // the end of a wait that only an event ends
 
 }  // namespace
 

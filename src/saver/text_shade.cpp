@@ -81,7 +81,7 @@ std::array<std::uint8_t, 256> DepthsWithin(int reach) {
   std::array<std::uint8_t, 256> depths{};
   for (std::size_t distance = 0; distance < depths.size(); ++distance) {
     const double left = std::clamp((end - static_cast<double>(distance)) / (end - whole), 0.0, 1.0);
-    depths[distance] = static_cast<std::uint8_t>(left * left * (3 - 2 * left) * 255 + 0.5);
+    depths[distance] = static_cast<std::uint8_t>(std::lround(left * left * (3 - 2 * left) * 255));
   }
   return depths;
 }
