@@ -1,5 +1,6 @@
 #include "fuzz/makers/made_photo_head.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
@@ -146,7 +147,8 @@ std::string MadeTiffBlock(Recipe& recipe) {
   block += number(announced, 4) + std::string(place - kHeader, '\0');
   int count = 0;
   const std::string entries = Entries(recipe, bigEndian, count);
-  if (recipe.isOneOf(8)) count = recipe.word();
+  constexpr int kTooMany[] = {0, 0, 0, 0, 0, 0, 1, -1};
+  count = recipe.isOneOf(16) ? recipe.word() : std::max(count + recipe.oneOf(kTooMany), 0);
   block += number(static_cast<std::uint32_t>(count), 2) + entries;
   if (recipe.isOneOf(2)) block += number(0, 4) + std::string(recipe.bytes(recipe.below(20)));
   if (recipe.isOneOf(8)) block.resize(static_cast<std::size_t>(recipe.word()) % (block.size() + 1));
