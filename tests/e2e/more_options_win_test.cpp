@@ -1,6 +1,7 @@
 // More options from the first press of a button to the file, by the mouse alone and by the keyboard alone.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 
 #include "e2e/dialog_hands.h"
@@ -100,6 +101,9 @@ bool IsChecked(HWND option) { return SendMessageW(option, BM_GETCHECK, 0, 0) == 
 
 constexpr wchar_t kMore[] = L"More Options";
 constexpr wchar_t kChooser[] = L"Select a folder to follow";
+constexpr const wchar_t* kShow = L"WindowsScreenSaverClass";
+constexpr base::PackedColor kRed = base::Rgb(240, 0, 0);
+constexpr base::PackedColor kBlue = base::Rgb(0, 0, 240);
 
 // The classic file with the sample pictures, and a folder of photos beside it.
 class MoreOptionsTest : public testing::Test {
@@ -110,8 +114,18 @@ class MoreOptionsTest : public testing::Test {
                             FALSE));
     }
     ASSERT_TRUE(CreateDirectoryW(album().c_str(), nullptr));
-    pictureFolder.writeBitmap("album\\a.bmp", {30, 20}, base::Rgb(1, 2, 3));
-    pictureFolder.writeBitmap("album\\b.bmp", {30, 20}, base::Rgb(1, 2, 3));
+    pictureFolder.writeBitmap("album\\a.bmp", {30, 20}, kRed);
+    pictureFolder.writeBitmap("album\\b.bmp", {30, 20}, kBlue);
+    changeQuickly();
+  }
+
+  // Two seconds a picture.
+  void changeQuickly() const {
+    std::string file = folder.readSettingsFile();
+    const std::string asShipped = "timeInterval=8";
+    const std::size_t at = file.find(asShipped);
+    ASSERT_NE(at, std::string::npos);
+    folder.writeFile("zbfaone.ini", file.replace(at, asShipped.size(), "timeInterval=2"));
   }
 
   std::wstring album() const { return pictureFolder.path() + L"\\album"; }
@@ -126,10 +140,60 @@ class MoreOptionsTest : public testing::Test {
     EXPECT_EQ(file.value("images", "1"), os::FromWide(folder.path()) + "\\image2.gif") << "the list stays";
   }
 
-  // The show that comes of it runs, and a key ends it.
-  void expectTheShowToRun() {
+  // Tries the show before anything is saved; `end` is what the user ends it with.
+  void tryIt(const e2e::RunningProgram& program, HWND dialog, const std::function<void()>& begin,
+             const std::function<void()>& end) const {
+    const std::string before = folder.readSettingsFile();
+    begin();
+    HWND show = nullptr;
+    ASSERT_TRUE(e2e::WaitFor([&] {
+      show = program.findWindow(kShow);
+      return show != nullptr && GetForegroundWindow() == show;
+    }));
+    EXPECT_TRUE(e2e::WaitFor([&] {
+      end();
+      return e2e::WaitFor([&] { return !IsWindow(show); }, 3000);
+    }));
+    ASSERT_TRUE(WaitForKeyboard(dialog));
+    EXPECT_EQ(folder.readSettingsFile(), before);
+  }
+
+  static base::Pixel middle() {
+    const base::PixelSize screen = e2e::ScreenSize();
+    return e2e::ScreenPixel(screen.width / 2, screen.height / 2);
+  }
+
+  // White words stand at the top of the screen.
+  static bool seesCaption() {
+    const base::Bitmap screen = e2e::ReadScreen();
+    for (int y = 0; y < 40; ++y) {
+      for (int x = 0; x < screen.size().width; ++x) {
+        if (screen.at(x, y) == base::OpaquePixel(base::kWhite)) return true;
+      }
+    }
+    return false;
+  }
+
+  // Red and blue in one place at the same time.
+  static bool isMixed(base::Pixel pixel) {
+    const auto isBetween = [](base::Pixel part) { return part > 40 && part < 200; };
+    return isBetween(pixel >> 16 & 0xFF) && isBetween(pixel & 0xFF) && (pixel >> 8 & 0xFF) < 40;
+  }
+
+  // The show that comes of it has the folder's pictures with their names, fades from one to the other, and
+  // ends by a key.
+  void expectTheShowToShowIt() {
     e2e::RunningProgram show(folder.program(), L"/S");
     ASSERT_NE(show.waitForShow(), nullptr);
+    ASSERT_TRUE(e2e::WaitFor([] { return middle() == base::OpaquePixel(kRed); }, 30000));
+    EXPECT_TRUE(e2e::WaitFor([] { return seesCaption(); }, 1500));
+    bool mixed = false;
+    EXPECT_TRUE(e2e::WaitFor([&] {
+      const base::Pixel now = middle();
+      mixed = mixed || isMixed(now);
+      return now == base::OpaquePixel(kBlue);
+    }));
+    EXPECT_TRUE(mixed);
     EXPECT_TRUE(show.endsByKey());
     EXPECT_EQ(show.exitCode(), 0U);
   }
@@ -138,7 +202,7 @@ class MoreOptionsTest : public testing::Test {
   e2e::ProgramFolder pictureFolder{L"pictures"};
 };
 
-TEST_F(MoreOptionsTest, AreChosenSavedAndShownByTheKeyboardAlone) {
+TEST_F(MoreOptionsTest, AreChosenTriedSavedAndSeenByTheKeyboardAlone) {
   e2e::RunningProgram program(folder.program(), L"/C");
   const HWND dialog = e2e::DialogOf(program);
   ASSERT_NE(dialog, nullptr);
@@ -179,11 +243,13 @@ TEST_F(MoreOptionsTest, AreChosenSavedAndShownByTheKeyboardAlone) {
   PressWith(VK_MENU, 'O');
   ASSERT_TRUE(WaitForNoWindow(kMore));
   ASSERT_TRUE(WaitForKeyboard(dialog));
+  tryIt(
+      program, dialog, [] { PressWith(VK_MENU, 'T'); }, [] { e2e::PressKey(VK_SPACE); });
   PressWith(VK_MENU, 'O');
   ASSERT_TRUE(program.waitForEnd());
   EXPECT_EQ(program.exitCode(), 0U);
   expectTheFileToHaveIt();
-  expectTheShowToRun();
+  expectTheShowToShowIt();
 }
 
 // Clicks along the tabs until a control of the wanted page is there.
@@ -200,7 +266,7 @@ HWND FindByTabs(HWND form, const wchar_t* className, const wchar_t* text) {
   return nullptr;
 }
 
-TEST_F(MoreOptionsTest, AreChosenSavedAndShownByTheMouseAlone) {
+TEST_F(MoreOptionsTest, AreChosenTriedSavedAndSeenByTheMouseAlone) {
   // The folder of photos lies alone where the user keeps pictures.
   const e2e::PicturesFolder pictures(pictureFolder.path());
   e2e::RunningProgram program(folder.program(), L"/C");
@@ -250,10 +316,12 @@ TEST_F(MoreOptionsTest, AreChosenSavedAndShownByTheMouseAlone) {
   ClickOn(ok);
   ASSERT_TRUE(WaitForNoWindow(kMore));
   ASSERT_TRUE(WaitForKeyboard(dialog));
+  tryIt(
+      program, dialog, [&] { ClickOn(ChildOf(dialog, L"Button", L"&Try It")); }, [] { e2e::ClickMouse(); });
   ClickOn(ChildOf(dialog, L"Button", L"&OK"));
   ASSERT_TRUE(program.waitForEnd());
   expectTheFileToHaveIt();
-  expectTheShowToRun();
+  expectTheShowToShowIt();
 }
 
 }  // namespace
