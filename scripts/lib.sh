@@ -61,6 +61,8 @@ lay_program_folder() {
 }
 
 export WINEDEBUG=-all
+# Wine takes from it the language of the programs, and which names files can have.
+export LC_ALL=C.UTF-8
 # No web engines, and no entries in the menus of whoever runs the tests.
 export WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=d"
 export WINEPREFIX="${LUMORA_WINEPREFIX:-$root/.wine}"

@@ -19,19 +19,19 @@ prepare_x86_system() {
   touch "$x86_system/.lumora-ready"
 }
 
-# Runs scripts/x86_inside.sh in the system, where the repository is /lumora. What is mounted for it is seen by it alone
+# Runs scripts/x86_inside.sh in the system, where the repository lies where it lies outside, as the tests know it. What is mounted for it is seen by it alone
 # and goes away with it, however it ends. $1...: its arguments.
 in_x86_system() {
   # shellcheck disable=SC2016  # expanded by the inner shell
   unshare --mount --propagation private bash -euc '
     system=$1 root=$2
     shift 2
-    mkdir -p "$system/lumora"
+    mkdir -p "$system$root"
     mount --rbind /proc "$system/proc"
     mount --rbind /dev "$system/dev"
-    mount --bind "$root" "$system/lumora"
+    mount --bind "$root" "$system$root"
     chroot "$system" /usr/bin/env -i HOME=/root PATH=/usr/sbin:/usr/bin:/sbin:/bin WINEARCH=win32 \
-      LUMORA_WINEPREFIX=/root/lumora-prefix bash /lumora/scripts/x86_inside.sh "$@"' - "$x86_system" "$root" "$@"
+      LUMORA_WINEPREFIX=/root/lumora-prefix bash "$root/scripts/x86_inside.sh" "$@"' - "$x86_system" "$root" "$@"
 }
 
 test_x86() {
