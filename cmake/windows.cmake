@@ -74,9 +74,9 @@ if(LUMORA_TESTS)
   endforeach()
 
   file(GLOB bench_sources CONFIGURE_DEPENDS tests/bench/*.cpp)
-  add_executable(lumora_bench EXCLUDE_FROM_ALL ${bench_sources} tests/e2e/program_folder.cpp
-                 tests/e2e/running_program.cpp tests/support/win_tests.rc)
-  target_link_libraries(lumora_bench PRIVATE lumora_win_support)
+  add_executable(lumora_bench EXCLUDE_FROM_ALL ${bench_sources} tests/e2e/dialog_hands.cpp
+                 tests/e2e/program_folder.cpp tests/e2e/running_program.cpp tests/support/win_tests.rc)
+  target_link_libraries(lumora_bench PRIVATE lumora_win_support ntdll)
   target_link_options(lumora_bench PRIVATE -static)
 
   file(GLOB e2e_sources CONFIGURE_DEPENDS tests/e2e/*.cpp)

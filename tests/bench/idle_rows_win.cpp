@@ -20,8 +20,7 @@ namespace bench {
 namespace {
 
 constexpr int kIdleMs = 10'000;
-// Each of the two programs is read at two moments.
-constexpr double kReadingErrorMs = 2 * kProcessorStepMs;
+constexpr double kReadingErrorMs = 2 * kProcessorStepMs;  // of two programs
 
 // Processor time of a program while it idles behind its window.
 double IdleMs(const std::wstring& program, const std::wstring& arguments, base::Pixel sign) {
@@ -31,10 +30,7 @@ double IdleMs(const std::wstring& program, const std::wstring& arguments, base::
   // Out of the way of what the program has begun.
   const ULONGLONG settled = GetTickCount64() + 1000;
   e2e::WaitFor([&] { return GetTickCount64() >= settled; });
-  const double before = ProcessorMs(process.process());
-  const ULONGLONG end = GetTickCount64() + kIdleMs;
-  e2e::WaitFor([&] { return GetTickCount64() >= end; });
-  const double spent = ProcessorMs(process.process()) - before;
+  const double spent = ProcessorMsWithin(process.process(), kIdleMs);
   process.endsByKey();
   return spent;
 }

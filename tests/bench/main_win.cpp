@@ -26,6 +26,7 @@ constexpr Group kGroups[] = {
     {"loading", bench::BenchLoading},     {"first", bench::BenchFirstPicture},
     {"changes", bench::BenchManyChanges}, {"day", bench::BenchDayOfShow},
     {"size", bench::BenchProgramSize},    {"folders", bench::BenchFollowedFolders},
+    {"live", bench::BenchLiveView},
 };
 
 bool IsWanted(std::string_view name, int argc, char** argv) {

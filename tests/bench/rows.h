@@ -7,6 +7,7 @@ namespace bench {
 void BenchStartAndEnd();
 void BenchIdle();
 void BenchFirstPicture();
+void BenchLiveView();
 
 void BenchSettings();
 void BenchDialog();
