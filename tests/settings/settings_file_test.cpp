@@ -196,6 +196,15 @@ TEST(WriteExtras, ATextThatWouldBeCutInTheCodePageMakesTheFileUtf16) {
 
 using Folders = std::vector<std::string>;
 
+TEST(WriteFolders, AFolderThatWouldBeCutInTheCodePageMakesTheFileUtf16) {
+  static const TwoBytes kTwoBytes;
+  std::string folder = "C:\\";
+  for (int i = 0; i < 200; ++i) folder += kLetter;
+  IniDocument document("", kTwoBytes);
+  settings::WriteFolders(document, {folder}, {});
+  EXPECT_EQ(settings::FollowedFolders(IniDocument(document.serialise(), kTwoBytes)), Folders{folder});
+}
+
 TEST(WriteFolders, WritesNothingOverTheOnesThatWereLoaded) {
   const std::string text = "[folders]\r\n0 = C:\\a\r\n1=" + std::string(300, 'x') + "\r\n";
   IniDocument document(text, kWestern);
