@@ -7,7 +7,7 @@ Without files it takes the portable sources that differ from REF: by default fro
 or else from the last tag. Nothing here is touched: what is in the working tree, committed or not, is copied to
 out/mutants and built there once, by clang++ without optimising. A mutant is one source compiled from a folder of its own,
 linked in place of the unbroken one with the tests of its room, and run, those that take long aside. A mutant that does
-not compile does not count; one that takes ten times as long as the unbroken code is seen. Headers are left out, since
+not compile does not count; one that takes three times as long as the unbroken code is seen. Headers are left out, since
 many sources would have to be compiled for each.
 
 --mutants N takes a random N of each room, the same for the same --seed. Each one that lived is printed as it comes, and
@@ -15,6 +15,7 @@ at the end how many were seen; Ctrl-C ends it with what it knows by then.
 """
 import argparse
 import collections
+import fcntl
 import json
 import os
 import pathlib
@@ -160,7 +161,7 @@ class Bench:
             self.commands[entry["file"]] = [word for word in shlex.split(entry["command"]) if not word.endswith("ccache")]
         listed = subprocess.check_output(["ninja", "-t", "commands", "lumora_tests"], cwd=BUILD, text=True)
         self.link = [word for word in shlex.split(listed.splitlines()[-1]) if word not in (":", "&&")]
-        # By room: how many seconds its quick tests may take, and the names of the slow ones.
+        # By room: how many seconds of the processor its quick tests may take, and the names of the slow ones.
         self.times = json.loads(TIMES.read_text()) if TIMES.exists() else {}
 
     def compile(self, name, lines, to):
@@ -185,15 +186,18 @@ class Bench:
         # Before the library: what it defines is not taken from there.
         subprocess.run([*words[:at], str(compiled), *chosen, *words[at:]], cwd=BUILD, check=True)
 
-    def run_tests(self, left_out, limit):
-        """Runs the tests in so many seconds, with no more memory than a test needs: whether they passed, and what they
-        printed."""
+    def run_tests(self, left_out, seconds):
+        """Runs the tests in so many seconds of the processor, with no more memory than a test needs: whether they
+        passed, and what they printed."""
+        def limit():
+            resource.setrlimit(resource.RLIMIT_AS, (MOST_MEMORY, MOST_MEMORY))
+            resource.setrlimit(resource.RLIMIT_CPU, (seconds, seconds))
+
         command = [str(MUTANT / "tests"), "--gtest_fail_fast", "--gtest_filter=-" + ":".join([LONG, *left_out])]
         with open(MUTANT / "tests.log", "w+") as log:
             try:
-                code = subprocess.run(command, cwd=MUTANT, timeout=limit, stdout=log, stderr=log,
-                                      preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_AS, (MOST_MEMORY, MOST_MEMORY))
-                                      ).returncode
+                code = subprocess.run(command, cwd=MUTANT, timeout=20 * seconds, stdout=log, stderr=log,
+                                      preexec_fn=limit).returncode
             except subprocess.TimeoutExpired:
                 code = None
             log.seek(0)
@@ -205,14 +209,16 @@ class Bench:
         if not self.compile(name, (COPY / name).read_text().splitlines(), unbroken):
             sys.exit(f"The unbroken {name} does not compile.")
         self.link_tests(name, unbroken)
+        before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
         passed, printed = self.run_tests([], 3600)
+        processor = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime - before
         if not passed:
             sys.exit(f"The unbroken code fails its tests: {MUTANT / 'tests.log'}")
         took = {test: int(ms) for test, ms in re.findall(r"^\[ +OK \] (\S+)(?:, where .*)? \((\d+) ms\)$", printed, re.M)}
         whole = sum(took.values())
         slow = [test for test, ms in took.items() if ms > max(whole * QUICK, 20)]
-        quick = whole - sum(took[test] for test in slow)
-        self.times[room_of(name)] = [20 + quick / 100, slow]
+        quick = processor * (1 - sum(took[test] for test in slow) / whole)
+        self.times[room_of(name)] = [5 + int(3 * quick), slow]
         TIMES.write_text(json.dumps(self.times))
 
     def judge(self, mutant):
@@ -225,8 +231,8 @@ class Bench:
         if not self.compile(mutant.name, lines, MUTANT / "mutant.o"):
             return "no mutant"
         self.link_tests(mutant.name, MUTANT / "mutant.o")
-        limit, slow = self.times[room]
-        return "lived" if self.run_tests(slow, limit)[0] else "seen"
+        seconds, slow = self.times[room]
+        return "lived" if self.run_tests(slow, seconds)[0] else "seen"
 
 
 def main():
@@ -247,12 +253,22 @@ def main():
             for mutant in mutants[:options.mutants or None]:
                 print(f"{mutant.name}:{mutant.number}: {mutant.after.strip()}")
         return
+    (ROOT / "out").mkdir(exist_ok=True)
+    with open(ROOT / "out" / "mutants.lock", "w") as lock:
+        try:
+            fcntl.flock(lock, fcntl.LOCK_EX | fcntl.LOCK_NB)
+        except BlockingIOError:
+            sys.exit("It already runs: it has one copy.")
+        judge_all(rooms, options.mutants)
+
+
+def judge_all(rooms, most):
     copy_tree()
     build_copy()
     bench = Bench()
     counts = {room: collections.Counter() for room in rooms}
     try:
-        judge_rooms(bench, rooms, options.mutants, counts)
+        judge_rooms(bench, rooms, most, counts)
     except KeyboardInterrupt:
         print("ended early")
     for room, count in counts.items():
