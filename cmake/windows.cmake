@@ -71,6 +71,10 @@ if(LUMORA_TESTS)
     set_target_properties(${stand_in} PROPERTIES PREFIX "")
     target_link_libraries(${stand_in} PRIVATE lumora_flags)
     target_link_options(${stand_in} PRIVATE -static)
+    if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+      # The system's libraries export plain names.
+      target_link_options(${stand_in} PRIVATE -Wl,--kill-at)
+    endif()
   endforeach()
 
   file(GLOB bench_sources CONFIGURE_DEPENDS tests/bench/*.cpp)
