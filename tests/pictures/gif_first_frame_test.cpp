@@ -81,6 +81,17 @@ TEST(GifFirstFrame, TheTransparentIndexIsTransparent) {
   EXPECT_TRUE(frame->mayBeTransparent());
 }
 
+TEST(GifFirstFrame, EveryIndexMayBeTheTransparentOne) {
+  for (int index = 0; index <= 255; ++index) {
+    const auto one = static_cast<std::uint8_t>(index);
+    GifBuilder gif = Gif(2, 1, {one, static_cast<std::uint8_t>(255 - index)});
+    gif.globalColors.clear();
+    gif.transparentIndex = one;
+    const base::Pixel other = 0xFF000000U | static_cast<base::Pixel>(255 - index) * 0x10101U;
+    ASSERT_EQ(Rows(*GifFirstFrame::decode(gif.file())), (Picture{{0, other}})) << index;
+  }
+}
+
 // The order in which the standard lists the rows of an interlaced frame.
 std::vector<int> InterlacedOrder(int height) {
   std::vector<int> order;
@@ -167,6 +178,62 @@ TEST(GifFirstFrame, CodesForMorePixelsThanTheFrameHasAreIgnored) {
 TEST(GifFirstFrame, ACodeSizeThatCannotBeIsNoPicture) {
   for (const char size : {'\0', '\x0C', '\xFF'}) {
     EXPECT_FALSE(GifFirstFrame::decode(Gif(2, 1, {}).beforeData() + size + std::string("\2\x44\1\0;", 5)));
+  }
+}
+
+TEST(GifFirstFrame, CodesOfEverySizeThatCanBeAreDecoded) {
+  for (int size = 1; size <= 11; ++size) {
+    // The clear code and then index 1, in one bit more than the size, low bits first.
+    const unsigned codes = 1U << size | 1U << (size + 1);
+    std::string data = {static_cast<char>(size), 4};
+    for (int i = 0; i < 4; ++i)
+      data += static_cast<char>(static_cast<unsigned char>(codes >> (8 * i) & 0xFF));
+    const auto frame = GifFirstFrame::decode(Gif(1, 1, {}).beforeData() + data + std::string("\0;", 2));
+    ASSERT_TRUE(frame) << size;
+    EXPECT_EQ(Rows(*frame), (Picture{{kGreen}})) << size;
+  }
+}
+
+// A code for each index and none to clear the table, which grows by a string with each code but the first,
+// and the codes by a bit whenever it has as many strings as they can tell apart; up to 12 bits.
+std::string GrowingCodes(int size, const std::vector<std::uint8_t>& indices) {
+  std::string packed;
+  unsigned bits = 0;
+  int count = 0;
+  int width = size + 1;
+  const auto add = [&](unsigned code) {
+    bits |= code << count;
+    for (count += width; count >= 8; count -= 8, bits >>= 8) {
+      packed += static_cast<char>(static_cast<unsigned char>(bits & 0xFF));
+    }
+  };
+  add(1U << size);
+  int strings = (1 << size) + 2;
+  for (std::size_t i = 0; i < indices.size(); ++i) {
+    add(indices[i]);
+    if (i > 0) ++strings;
+    if (strings == 1 << width && width < 12) ++width;
+  }
+  add((1U << size) + 1);
+  packed += static_cast<char>(static_cast<unsigned char>(bits & 0xFF));
+  std::string data(1, static_cast<char>(size));
+  for (std::size_t at = 0; at < packed.size(); at += 255) {
+    const std::string block = packed.substr(at, 255);
+    data += static_cast<char>(static_cast<unsigned char>(block.size())) + block;
+  }
+  return data + '\0' + ';';
+}
+
+TEST(GifFirstFrame, CodesGrowWithTheTableUntilItIsFull) {
+  for (const int size : {2, 3, 8}) {
+    std::vector<std::uint8_t> indices(5000);
+    for (std::size_t i = 0; i < indices.size(); ++i) indices[i] = static_cast<std::uint8_t>(i * i % 7 % 4);
+    GifBuilder gif = Gif(5000, 1, {});
+    const auto rows = Rows(*GifFirstFrame::decode(gif.beforeData() + GrowingCodes(size, indices)));
+    for (std::size_t i = 0; i < indices.size(); ++i) {
+      const base::Pixel colors[] = {kRed, kGreen, kBlue, 0xFFFFFFFFU};
+      ASSERT_EQ(rows[0][i], colors[indices[i]]) << i << " of size " << size;
+    }
   }
 }
 

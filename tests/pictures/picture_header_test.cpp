@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <optional>
 #include <string>
 
 #include "support/gif_builder.h"
@@ -29,6 +31,18 @@ TEST(PictureHeader, TheOldestBitmapsHaveSixteenBitSizes) {
   EXPECT_EQ(header->size, (base::PixelSize{320, 200}));
 }
 
+TEST(PictureHeader, ABitmapsSizeStandsInEveryInfoThatCanHoldIt) {
+  const auto sizeOf = [](int infoSize) {
+    return ReadPictureHeader(
+               BitmapHead(static_cast<char>(infoSize) + std::string("\0\0\0\x80\2\0\0\xE0\1\0\0", 11)))
+        ->size;
+  };
+  for (const int infoSize : {0, 1, 11, 13, 14, 15}) EXPECT_EQ(sizeOf(infoSize), std::nullopt) << infoSize;
+  for (const int infoSize : {16, 17, 40, 64, 108, 124}) {
+    EXPECT_EQ(sizeOf(infoSize), (base::PixelSize{640, 480})) << infoSize;
+  }
+}
+
 TEST(PictureHeader, ABitmapWithoutASizeHasNone) {
   for (const std::string& info :
        {std::string("\x28\0\0\0\0\0\0\0\xE0\1\0\0", 12), std::string("\x28\0\0\0\x80\2\0\0\0\0\0\x80", 12),
@@ -45,6 +59,17 @@ TEST(PictureHeader, AJpegTellsItsSizeBehindOtherSegments) {
   ASSERT_TRUE(header);
   EXPECT_EQ(header->kind, PictureKind::Jpeg);
   EXPECT_EQ(header->size, (base::PixelSize{4000, 3000}));
+}
+
+TEST(PictureHeader, AFrameOfEveryProcessTellsAJpegsSizeAndItsTablesDoNot) {
+  const std::string other("\x08\0\x11\0\x12\1\1\x11\0", 9);  // 18 x 17
+  for (int marker = 0xC0; marker <= 0xCF; ++marker) {
+    const bool isFrame = marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
+    const auto header = ReadPictureHeader(
+        support::JpegHead(support::JpegSegmentBytes(static_cast<std::uint8_t>(marker), other), {64, 48}));
+    ASSERT_TRUE(header);
+    EXPECT_EQ(header->size, isFrame ? (base::PixelSize{18, 17}) : (base::PixelSize{64, 48})) << marker;
+  }
 }
 
 TEST(PictureHeader, AJpegCutShortBeforeItsFrameHasNoSizeYet) {
@@ -64,6 +89,9 @@ TEST(PictureHeader, APngTellsItsSize) {
   EXPECT_EQ(header->kind, PictureKind::Png);
   EXPECT_EQ(header->size, (base::PixelSize{1024, 768}));
   EXPECT_FALSE(ReadPictureHeader(png.substr(0, 23))->size);
+  std::string another = png;
+  another.replace(12, 4, "IDAT");
+  EXPECT_FALSE(ReadPictureHeader(another)->size) << "its first chunk is no header";
 }
 
 TEST(PictureHeader, AGifTellsItsSize) {
