@@ -250,8 +250,8 @@ class Form2 : public forms::Form {
   // The background picture as small as its preview; null when it cannot be loaded.
   base::SharedBitmap drawBackgroundPreview(const std::string& path) const;
 
-  // The second panel of the status bar: why a save cannot succeed, when it cannot; what is wrong with the
-  // list's pictures; and that the list is longer than the show can use.
+  // The second panel of the status bar: why a save cannot succeed, when it cannot; else what is wrong with
+  // the list's pictures; else that the list is longer than the show can use.
   void setSavingNote(std::string note);
   void setListNote(std::string note);
   void showNotes();
