@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 #include "support/little_machine.h"
 #include "support/settings_dialog_machine.h"
 
@@ -124,6 +126,44 @@ TEST_F(DialogShowTest, ATabThatIsLeftWhileTheViewIsDarkStaysQuiet) {
   EXPECT_EQ(machine.loop.timersRunning(), 0);
   machine.loop.runFor(5000);
   EXPECT_EQ(columnsOf(form.liveSensitivity, kRed), 0);
+}
+
+TEST_F(DialogShowTest, AfterTheDarkTheMovesAreCountedAnew) {
+  dialog::Form2& form = open();  // sensitivity 12: 18 moves
+  form.SSTab1.userSelectedTab(kMouseTab);
+  machine.loop.runFor(100);
+  const auto moveTo = [&](int x) {
+    form.liveSensitivity.onMouseMove({static_cast<float>(x) * 15, 150, false});
+  };
+  for (int i = 0; i <= 18; ++i) moveTo(100 + 10 * i);
+  ASSERT_EQ(columnsOf(form.liveSensitivity, kRed), 0);
+  machine.loop.runFor(DialogShow::kDarkMs + 200);
+  for (int i = 0; i <= 17; ++i) moveTo(100 + 10 * i);
+  EXPECT_GT(columnsOf(form.liveSensitivity, kRed), 50);
+  moveTo(290);
+  EXPECT_EQ(columnsOf(form.liveSensitivity, kRed), 0);
+}
+
+TEST_F(DialogShowTest, OnATabThatWasLeftNoShowRunsUnseen) {
+  dialog::Form2& form = open();
+  form.SSTab1.userSelectedTab(kMouseTab);
+  machine.loop.runFor(500);
+  EXPECT_GT(machine.loop.timersRunning(), 0);
+  form.SSTab1.userSelectedTab(0);
+  machine.loop.runFor(1);
+  EXPECT_EQ(machine.loop.timersRunning(), 0);
+}
+
+TEST_F(DialogShowTest, AfterAnErrorOfTheTriedShowTheOneInSmallPlaysAgain) {
+  dialog::Form2& form = open();
+  form.SSTab1.userSelectedTab(kSizeTab);
+  machine.loop.runFor(100);
+  whileTried = [] { throw std::runtime_error("no window"); };
+  EXPECT_THROW(show.tryOut("settings"), std::runtime_error);
+  form.PercentSlider.userSetValue(90);
+  machine.loop.runFor(100);
+  EXPECT_TRUE(show.isIn(form.liveSize));
+  EXPECT_EQ(columnsOf(form.liveSize, kRed), 346);
 }
 
 TEST_F(DialogShowTest, WhileItIsTriedNothingPlaysInSmall) {
