@@ -162,10 +162,12 @@ TEST_F(LiveViewTest, TriedByTheKeyboardTheShowEndsByAKeyAndTheDialogIsAsBefore) 
   EXPECT_FALSE(IsWindowEnabled(dialog));
   e2e::PressKey(VK_SPACE);
   EXPECT_TRUE(isAsBefore());
-  GUITHREADINFO thread{};
-  thread.cbSize = sizeof(thread);
-  GetGUIThreadInfo(GetWindowThreadProcessId(dialog, nullptr), &thread);
-  EXPECT_EQ(thread.hwndFocus, button);
+  EXPECT_TRUE(e2e::WaitFor([&] {
+    GUITHREADINFO thread{};
+    thread.cbSize = sizeof(thread);
+    GetGUIThreadInfo(GetWindowThreadProcessId(dialog, nullptr), &thread);
+    return thread.hwndFocus == button;
+  })) << "the button has the keyboard again";
   EXPECT_TRUE(comesToShow(kRed)) << "the little show goes on";
   EXPECT_EQ(folder.readSettingsFile(), saved);
   EXPECT_EQ(NamesIn(folder.path()), before);
