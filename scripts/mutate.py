@@ -290,7 +290,7 @@ def judge_rooms(bench, rooms, most, counts):
             count[verdict] += 1
             if verdict == "lived":
                 print(f"{mutant.name}:{mutant.number}: {mutant.before.strip()}\n    -> {mutant.after.strip()}", flush=True)
-            print(f"{room}: {sum(count.values())} of {most or len(rooms[room])}", file=sys.stderr, flush=True)
+            print(f"{room}: {count['seen'] + count['lived']} of {most or len(rooms[room])}", file=sys.stderr, flush=True)
 
 
 if __name__ == "__main__":
