@@ -22,12 +22,12 @@ void Choose(M& form, settings::Field field, std::string text) {
 }
 
 // A check box: "1", or nothing.
-template <settings::Field Field, auto Box>
+template <settings::Field kField, auto kBox>
 constexpr MoreOptionRow kFlag{
-    Field,
-    [](M& form, Text text) { (form.*Box).setDesignValue(text == "1" ? 1 : 0); },
+    kField,
+    [](M& form, Text text) { (form.*kBox).setDesignValue(text == "1" ? 1 : 0); },
     [](M& form) {
-      (form.*Box).onClick = [&form] { Choose(form, Field, (form.*Box).value() == 1 ? "1" : ""); };
+      (form.*kBox).onClick = [&form] { Choose(form, kField, (form.*kBox).value() == 1 ? "1" : ""); };
     },
 };
 
@@ -39,29 +39,29 @@ std::size_t PlaceOf(std::span<const std::string_view> values, std::string_view t
   return found == values.end() ? 0 : static_cast<std::size_t>(found - values.begin());
 }
 
-template <const auto& Values, auto... Options>
+template <const auto& kValues, auto... kOptions>
 void ShowChoice(M& form, Text text) {
-  const std::size_t chosen = PlaceOf(Values, text);
+  const std::size_t chosen = PlaceOf(kValues, text);
   std::size_t number = 0;
-  ((number++ == chosen ? (form.*Options).setDesignValue(true) : void()), ...);
+  ((number++ == chosen ? (form.*kOptions).setDesignValue(true) : void()), ...);
 }
 
 // A click on what is chosen already keeps the text as the file has it.
-template <settings::Field Field, const auto& Values, auto... Options>
+template <settings::Field kField, const auto& kValues, auto... kOptions>
 void ConnectChoice(M& form) {
   std::size_t number = 0;
-  (((form.*Options).onClick =
+  (((form.*kOptions).onClick =
         [&form, chosen = number++] {
-          if (PlaceOf(Values, form.choices.record.*Field) == chosen) return;
-          Choose(form, Field, std::string(Values[chosen]));
+          if (PlaceOf(kValues, form.choices.record.*kField) == chosen) return;
+          Choose(form, kField, std::string(kValues[chosen]));
         }),
    ...);
 }
 
 // Options, one for each value of a key.
-template <settings::Field Field, const auto& Values, auto... Options>
-constexpr MoreOptionRow kChoice{Field, ShowChoice<Values, Options...>,
-                                ConnectChoice<Field, Values, Options...>};
+template <settings::Field kField, const auto& kValues, auto... kOptions>
+constexpr MoreOptionRow kChoice{kField, ShowChoice<kValues, kOptions...>,
+                                ConnectChoice<kField, kValues, kOptions...>};
 
 constexpr std::array<std::string_view, 5> kScreens = {"", "black", "same", "different", "span"};
 constexpr std::array<std::string_view, 3> kFits = {"", "whole", "fill"};
@@ -74,9 +74,9 @@ int TimePosition(Text text) {
   return (ms + M::kTimeStepMs / 2) / M::kTimeStepMs;
 }
 
-template <auto Slider>
+template <auto kSlider>
 std::string NumberOrNothing(const M& form, int step) {
-  const int value = (form.*Slider).value() * step;
+  const int value = (form.*kSlider).value() * step;
   return value == 0 ? std::string() : base::NumberText(std::int32_t{value});
 }
 

@@ -24,84 +24,84 @@ base::PackedColor Color(Text text) {
 }
 
 // A check box: "1" or "0".
-template <settings::Field Field, auto Box>
+template <settings::Field kField, auto kBox>
 constexpr OptionRow kCheckBox{
-    Field,
-    [](Form2& form, Text text) { (form.*Box).setValue(Number(text)); },
+    kField,
+    [](Form2& form, Text text) { (form.*kBox).setValue(Number(text)); },
     [](Form2& form) {
-      (form.*Box).onClick = [&form] { form.record.*Field = (form.*Box).value() == 1 ? "1" : "0"; };
+      (form.*kBox).onClick = [&form] { form.record.*kField = (form.*kBox).value() == 1 ? "1" : "0"; };
     },
 };
 
 // A slider: its value.
-template <settings::Field Field, auto Slider>
+template <settings::Field kField, auto kRange>
 constexpr OptionRow kSlider{
-    Field,
-    [](Form2& form, Text text) { (form.*Slider).setValue(Number(text)); },
+    kField,
+    [](Form2& form, Text text) { (form.*kRange).setValue(Number(text)); },
     [](Form2& form) {
-      (form.*Slider).onChange = [&form] {
-        form.record.*Field = base::NumberText(std::int32_t{(form.*Slider).value()});
+      (form.*kRange).onChange = [&form] {
+        form.record.*kField = base::NumberText(std::int32_t{(form.*kRange).value()});
       };
     },
 };
 
 // A combo box: its text.
-template <settings::Field Field, auto Combo>
+template <settings::Field kField, auto kList>
 constexpr OptionRow kCombo{
-    Field,
-    [](Form2& form, Text text) { (form.*Combo).setText(text); },
+    kField,
+    [](Form2& form, Text text) { (form.*kList).setText(text); },
     [](Form2& form) {
-      (form.*Combo).onClick = [&form] {
-        form.record.*Field = (form.*Combo).text();
+      (form.*kList).onClick = [&form] {
+        form.record.*kField = (form.*kList).text();
         form.showNotes();
       };
     },
 };
 
 // Option buttons that stand for the numbers from 0; any other number chooses none of them.
-template <auto... Options>
+template <auto... kOptions>
 void Choose(Form2& form, Text text) {
   const int chosen = Number(text);
   int number = 0;
-  ((number++ == chosen ? (form.*Options).setValue(true) : void()), ...);
+  ((number++ == chosen ? (form.*kOptions).setValue(true) : void()), ...);
 }
 
-template <settings::Field Field, auto... Options>
+template <settings::Field kField, auto... kOptions>
 void ConnectChoice(Form2& form) {
   int number = 0;
-  (((form.*Options).onClick =
-        [&form, text = base::NumberText(std::int32_t{number++})] { form.record.*Field = text; }),
+  (((form.*kOptions).onClick =
+        [&form, text = base::NumberText(std::int32_t{number++})] { form.record.*kField = text; }),
    ...);
 }
 
-template <settings::Field Field, auto... Options>
-constexpr OptionRow kChoice{Field, Choose<Options...>, ConnectChoice<Field, Options...>};
+template <settings::Field kField, auto... kOptions>
+constexpr OptionRow kChoice{kField, Choose<kOptions...>, ConnectChoice<kField, kOptions...>};
 
 // The slider of one colour component, and the swatch that shows it by itself. The component is worth
 // `Worth` in a packed colour.
-template <settings::Field Field, auto Slider, auto Swatch, int Worth>
+template <settings::Field kField, auto kSlider, auto kSwatch, int kWorth>
 constexpr OptionRow kComponent{
-    Field,
+    kField,
     [](Form2& form, Text text) {
-      (form.*Slider).setValue(Number(text));
-      (form.*Swatch).setBackColor(std::clamp(Number(text), 0, 255) * Worth);
+      (form.*kSlider).setValue(Number(text));
+      (form.*kSwatch).setBackColor(std::clamp(Number(text), 0, 255) * kWorth);
       form.UpdateGradientPreview();
     },
     [](Form2& form) {
-      (form.*Slider).onChange = [&form] {
-        const int value = (form.*Slider).value();
-        (form.*Swatch).setBackColor(value * Worth);
-        form.record.*Field = base::NumberText(std::int32_t{value});
+      (form.*kSlider).onChange = [&form] {
+        const int value = (form.*kSlider).value();
+        (form.*kSwatch).setBackColor(value * kWorth);
+        form.record.*kField = base::NumberText(std::int32_t{value});
         form.UpdateGradientPreview();
       };
     },
 };
 
 // One of the font's flags: "True" or "False". The font dialog sets them all.
-template <settings::Field Field, auto Flag>
+template <settings::Field kField, auto kFlag>
 constexpr OptionRow kFontFlag{
-    Field,
-    [](Form2& form, Text text) { form.dlgDialog.font.*Flag = base::StrictBoolean(text); },
+    kField,
+    [](Form2& form, Text text) { form.dlgDialog.font.*kFlag = base::StrictBoolean(text); },
     [](Form2&) {},
 };
 
