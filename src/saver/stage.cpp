@@ -13,9 +13,8 @@ namespace {
 // More separate areas than this are composed as one.
 constexpr std::size_t kMostDirtyAreas = 8;
 
-// Enough for one processor at a time: a tenth of a millisecond's work, beside which handing it out is
-// nothing.
-constexpr int kPixelsOfBand = 1 << 17;
+// Little enough that nobody waits long for the last band, enough that handing it out is nothing beside it.
+constexpr int kPixelsOfBand = 1 << 14;
 
 }  // namespace
 
