@@ -32,7 +32,9 @@ class CountingWindow : public saver::StageWindow {
   std::intptr_t handle() const override { return window_.handle(); }
   void close() override { window_.close(); }
   base::BitmapView backBuffer() override { return window_.backBuffer(); }
-  void runParts(int count, const std::function<void(int part)>& run) override { window_.runParts(count, run); }
+  void runParts(int count, const std::function<void(int part)>& run) override {
+    window_.runParts(count, run);
+  }
   void present(std::span<const base::PixelRect> areas) override {
     for (const base::PixelRect& area : areas) pixels += area.area();
     window_.present(areas);
