@@ -78,7 +78,7 @@ template <settings::Field kField, auto... kOptions>
 constexpr OptionRow kChoice{kField, Choose<kOptions...>, ConnectChoice<kField, kOptions...>};
 
 // The slider of one colour component, and the swatch that shows it by itself. The component is worth
-// `Worth` in a packed colour.
+// `kWorth` in a packed colour.
 template <settings::Field kField, auto kSlider, auto kSwatch, int kWorth>
 constexpr OptionRow kComponent{
     kField,

@@ -129,10 +129,10 @@ bool PictureList::ShowPreview(const std::string& path) {
 }
 
 void PictureList::redrawPreview() {
-  const std::string awaited = form_.awaited().isFor(kPreview, form_.List1.text()) ? form_.List1.text() : "";
-  const std::string path = std::exchange(previewed_, {});
+  std::string path = std::exchange(previewed_, {});
+  if (form_.awaited().isFor(kPreview, form_.List1.text())) path = form_.List1.text();
   form_.awaited().drop(kPreview);
-  if (!awaited.empty() || !path.empty()) ShowPreview(awaited.empty() ? path : awaited);
+  if (!path.empty()) ShowPreview(path);
 }
 
 bool PictureList::preview(const std::string& path) {

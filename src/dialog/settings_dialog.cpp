@@ -10,6 +10,15 @@
 
 namespace dialog {
 
+namespace {
+
+// What the more options are about goes from one record into the other.
+void TakeOver(const settings::SettingsRecord& choices, settings::SettingsRecord& record) {
+  for (const MoreOptionRow& row : MoreOptionTable()) record.*row.field = choices.*row.field;
+}
+
+}  // namespace
+
 SettingsDialog::SettingsDialog(const DialogServices& services, os::EventLoop& loop, os::Shell& shell,
                                const std::string& programFolder, pictures::SharedPicture icon)
     : form(services, programFolder),
@@ -133,7 +142,7 @@ void SettingsDialog::MoreCommand_Click() {
   showMoreOptions();
   if (!moreOptions->accepted()) return;
   const MoreChoices& choices = moreOptions->choices;
-  for (const MoreOptionRow& row : MoreOptionTable()) form.record.*row.field = choices.record.*row.field;
+  TakeOver(choices.record, form.record);
   form.followedFolders = choices.folders;
   form.showsHiddenAgain = choices.showsHiddenAgain;
 }
@@ -144,9 +153,7 @@ void SettingsDialog::showMoreOptions() {
   {
     LiveViews looks(services_.live, loop_, services_.ansi, *moreOptions, [this] {
       Scene scene = SceneOf(form);
-      for (const MoreOptionRow& row : MoreOptionTable()) {
-        scene.record.*row.field = moreOptions->choices.record.*row.field;
-      }
+      TakeOver(moreOptions->choices.record, scene.record);
       return scene;
     });
     looks.add(moreOptions->liveLook, SceneAim::Changes);

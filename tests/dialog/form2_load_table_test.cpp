@@ -1,9 +1,6 @@
 // How each key of the settings file reaches its control.
 #include <gtest/gtest.h>
 
-#include <functional>
-
-#include "base/color.h"
 #include "dialog/messages.h"
 #include "dialog/option_table.h"
 #include "support/dialog_machine.h"
@@ -12,7 +9,6 @@
 namespace dialog {
 namespace {
 
-using settings::SettingsRecord;
 using support::FakeDialogs;
 using support::ShownFor;
 
@@ -20,13 +16,6 @@ const FakeDialogs::Message kLoadFailed{kCouldNotLoad, 48};
 
 struct Form2LoadTable : testing::Test {
   support::DialogMachine machine;
-
-  // The dialog as it is before anything is read.
-  std::unique_ptr<Form2> untouched() {
-    return std::make_unique<Form2>(
-        DialogServices{machine.files, machine.ansi, machine.pictures, machine.dialogs, machine.windows},
-        "C:");
-  }
 };
 
 struct Case {
@@ -34,6 +23,18 @@ struct Case {
   std::string text;
   std::string shown;
 };
+
+void ExpectShown(const Case& each) {
+  SCOPED_TRACE(each.key + "=" + each.text);
+  support::DialogMachine other;
+  const settings::Key& key = support::KeyNamed(each.key);
+  other.set(key.section, each.key, each.text);
+  Form2& form = other.open();
+  EXPECT_TRUE(other.dialogs.messages.empty());
+  EXPECT_TRUE(form.loadedWell());
+  EXPECT_EQ(ShownFor(form, each.key), each.shown);
+  EXPECT_EQ(form.record.*key.field, each.text);
+}
 
 TEST_F(Form2LoadTable, EveryKeyFillsItsControlAndItsField) {
   const std::vector<Case> cases = {
@@ -96,17 +97,7 @@ TEST_F(Form2LoadTable, EveryKeyFillsItsControlAndItsField) {
       {"newFontFontStrikethru", "True", "True"},
       {"newFontForeColor", "16777215", "16777215 16777215"},
   };
-  for (const Case& each : cases) {
-    SCOPED_TRACE(each.key + "=" + each.text);
-    support::DialogMachine other;
-    const settings::Key& key = support::KeyNamed(each.key);
-    other.set(key.section, each.key, each.text);
-    Form2& form = other.open();
-    EXPECT_TRUE(other.dialogs.messages.empty());
-    EXPECT_TRUE(form.loadedWell());
-    EXPECT_EQ(ShownFor(form, each.key), each.shown);
-    EXPECT_EQ(form.record.*key.field, each.text);
-  }
+  for (const Case& each : cases) ExpectShown(each);
 }
 
 TEST_F(Form2LoadTable, ANumberOutOfRangeIsClampedInTheControlAlone) {
@@ -126,31 +117,14 @@ TEST_F(Form2LoadTable, ANumberOutOfRangeIsClampedInTheControlAlone) {
       {"scrollSpeed", "50", "100"},
       {"bFade", "3", "1"},
   };
-  for (const Case& each : cases) {
-    SCOPED_TRACE(each.key + "=" + each.text);
-    support::DialogMachine other;
-    const settings::Key& key = support::KeyNamed(each.key);
-    other.set(key.section, each.key, each.text);
-    Form2& form = other.open();
-    EXPECT_TRUE(other.dialogs.messages.empty());
-    EXPECT_EQ(ShownFor(form, each.key), each.shown);
-    EXPECT_EQ(form.record.*key.field, each.text);
-  }
+  for (const Case& each : cases) ExpectShown(each);
 }
 
 TEST_F(Form2LoadTable, AChoiceThatDoesNotExistChoosesNothing) {
   for (const Case& each :
        {Case{"backEffect", "5", "backgroundColorGradient"},
-        Case{"backgroundDisplay", "3", "FullScreenOption"}, Case{"scroll", "2", "middleOption"}}) {
-    SCOPED_TRACE(each.key);
-    support::DialogMachine other;
-    const settings::Key& key = support::KeyNamed(each.key);
-    other.set(key.section, each.key, each.text);
-    Form2& form = other.open();
-    EXPECT_TRUE(other.dialogs.messages.empty());
-    EXPECT_EQ(ShownFor(form, each.key), each.shown);
-    EXPECT_EQ(form.record.*key.field, each.text);
-  }
+        Case{"backgroundDisplay", "3", "FullScreenOption"}, Case{"scroll", "2", "middleOption"}})
+    ExpectShown(each);
 }
 
 // Keys whose control takes any text.
@@ -163,7 +137,7 @@ bool IsFlag(const std::string& key) {
 }
 
 TEST_F(Form2LoadTable, TheFirstTextThatDoesNotConvertEndsLoading) {
-  const std::unique_ptr<Form2> design = untouched();
+  const std::unique_ptr<Form2> design = machine.untouched();
   for (const std::string bad :
        {"<missing>", "", "abc", "1.5.5", "99999999999999999999999999999999999999999"}) {
     for (std::size_t failing = 0; failing < OptionTable().size(); ++failing) {
@@ -231,7 +205,7 @@ TEST_F(Form2LoadTable, TheRowsAreLoadedInTheirOrder) {
 TEST_F(Form2LoadTable, WithoutATotalNothingIsLoaded) {
   machine.dropSection("total");
   machine.set("images", "0", "C:\\a.gif");
-  const std::unique_ptr<Form2> design = untouched();
+  const std::unique_ptr<Form2> design = machine.untouched();
   Form2& form = machine.open();
   EXPECT_EQ(machine.dialogs.messages, std::vector{kLoadFailed});
   EXPECT_EQ(form.List1.listCount(), 0);

@@ -1,33 +1,22 @@
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "base/color.h"
 #include "dialog/messages.h"
-#include "dialog/option_table.h"
 #include "support/dialog_machine.h"
 
 namespace dialog {
 namespace {
 
-using settings::SettingsRecord;
 using support::FakeDialogs;
 
 const FakeDialogs::Message kLoadFailed{kCouldNotLoad, 48};
 
 struct Form2Load : testing::Test {
   support::DialogMachine machine;
-
-  // The dialog as it is before anything is read.
-  std::unique_ptr<Form2> untouched() {
-    return std::make_unique<Form2>(
-        DialogServices{machine.files, machine.ansi, machine.pictures, machine.dialogs, machine.windows},
-        "C:");
-  }
 };
 
 TEST_F(Form2Load, BeforeAnythingIsReadTheCombosShowWhatTheyAreFor) {
-  const std::unique_ptr<Form2> design = untouched();
+  const std::unique_ptr<Form2> design = machine.untouched();
   EXPECT_EQ(design->monthCombo.text(), "Month");
   EXPECT_EQ(design->dayCombo.text(), "Day");
   EXPECT_EQ(design->yearCombo.text(), "Year");

@@ -12,6 +12,7 @@
 #include "support/allocation_watch.h"
 #include "support/fake_files.h"
 #include "support/fake_picture_decoder.h"
+#include "support/sized_source.h"
 
 namespace pictures {
 namespace {
@@ -30,25 +31,12 @@ class TrustingDecoder final : public os::PictureDecoder {
     if (!header) return nullptr;  // of no kind that this decoder knows either
     EXPECT_TRUE(header->size.has_value()) << path << " has no size and came to the decoder";
     opened.insert(path);
-    return std::make_unique<Source>(*header->size);
+    return std::make_unique<support::SizedSource>(*header->size);
   }
 
   std::set<std::string> opened;
 
  private:
-  class Source final : public os::PictureSource {
-   public:
-    explicit Source(base::PixelSize size) : size_(size) {}
-    base::PixelSize size() const override { return size_; }
-    bool hasAlpha() const override { return false; }
-    std::vector<int> reductions() const override { return {1}; }
-    base::PixelSize reducedSize(int) const override { return size_; }
-    bool readRows(int, int, int, base::Pixel*) override { return false; }
-
-   private:
-    base::PixelSize size_;
-  };
-
   support::FakeFiles& heads_;
 };
 

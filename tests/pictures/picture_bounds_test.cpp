@@ -7,6 +7,7 @@
 #include "pictures/picture_loader.h"
 #include "support/fake_files.h"
 #include "support/jpeg_builder.h"
+#include "support/sized_source.h"
 
 namespace pictures {
 namespace {
@@ -16,25 +17,11 @@ class DecoderWithSize final : public os::PictureDecoder {
  public:
   std::unique_ptr<os::PictureSource> open(const std::string&) override {
     ++opened;
-    return std::make_unique<Source>(size);
+    return std::make_unique<support::SizedSource>(size);
   }
 
   base::PixelSize size;
   int opened = 0;
-
- private:
-  class Source final : public os::PictureSource {
-   public:
-    explicit Source(base::PixelSize size) : size_(size) {}
-    base::PixelSize size() const override { return size_; }
-    bool hasAlpha() const override { return false; }
-    std::vector<int> reductions() const override { return {1}; }
-    base::PixelSize reducedSize(int) const override { return size_; }
-    bool readRows(int, int, int, base::Pixel*) override { return false; }
-
-   private:
-    base::PixelSize size_;
-  };
 };
 
 class PictureBounds : public testing::Test {

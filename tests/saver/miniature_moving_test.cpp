@@ -5,28 +5,22 @@
 #include <optional>
 
 #include "saver/miniature.h"
-#include "support/fake_window_system.h"
-#include "support/little_machine.h"
-#include "support/plain_show.h"
+#include "support/miniature_desk.h"
 
 namespace saver {
 namespace {
 
 constexpr base::PackedColor kWords = base::Rgb(10, 250, 30);
 
-class MiniatureMoving : public testing::Test {
+class MiniatureMoving : public testing::Test, protected support::MiniatureDesk {
  protected:
   MiniatureMoving() {
-    settings = support::PlainShow();
-    settings["extras/loadAhead"] = "1";
     settings["images/0"] = "C:\\0.jpg";
     settings["total/total"] = "1";
     settings["image/picturePercent"] = "30";
     settings["font/newFontForeColor"] = std::to_string(kWords);
     settings["font/newFontSize"] = "20";
     pictures.add("C:\\0.jpg", {1920, 1080}, base::Rgb(200, 0, 0));
-    form.setHost(&windows);
-    view.move(0, 0, 386 * 15, 218 * 15);
   }
 
   void play() {
@@ -66,16 +60,6 @@ class MiniatureMoving : public testing::Test {
     return around;
   }
 
-  support::FakeClock clock;
-  support::FakeEventLoop loop{clock};
-  support::FakeWorkers workers{loop};
-  support::FakeFiles files;
-  support::FakePictures pictures;
-  support::LittleMachine machine{clock, loop, files, pictures, workers};
-  support::Settings settings;
-  support::FakeWindowSystem windows;
-  forms::Form form{"form"};
-  forms::LiveView view{form, "view"};
   Miniature miniature{machine.services()};
 };
 

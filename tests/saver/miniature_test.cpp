@@ -4,9 +4,7 @@
 
 #include <optional>
 
-#include "support/fake_window_system.h"
-#include "support/little_machine.h"
-#include "support/plain_show.h"
+#include "support/miniature_desk.h"
 
 namespace saver {
 namespace {
@@ -14,15 +12,11 @@ namespace {
 constexpr base::PackedColor kRed = base::Rgb(200, 0, 0);
 constexpr base::PackedColor kBlue = base::Rgb(0, 0, 200);
 
-class MiniatureTest : public testing::Test {
+class MiniatureTest : public testing::Test, protected support::MiniatureDesk {
  protected:
   MiniatureTest() {
-    settings = support::PlainShow();
-    settings["extras/loadAhead"] = "1";
     addPicture({1920, 1080}, kRed);
     addPicture({1920, 1080}, kBlue);
-    form.setHost(&windows);
-    view.move(0, 0, 386 * 15, 218 * 15);
     other.move(0, 0, 194 * 15, 110 * 15);
   }
 
@@ -54,17 +48,7 @@ class MiniatureTest : public testing::Test {
     return columns;
   }
 
-  support::FakeClock clock;
-  support::FakeEventLoop loop{clock};
-  support::FakeWorkers workers{loop};
-  support::FakeFiles files;
-  support::FakePictures pictures;
-  support::LittleMachine machine{clock, loop, files, pictures, workers};
-  support::Settings settings;
   int count = 0;
-  support::FakeWindowSystem windows;
-  forms::Form form{"form"};
-  forms::LiveView view{form, "view"};
   forms::LiveView other{form, "other"};
   std::optional<Miniature> miniature{std::in_place, machine.services()};
 };

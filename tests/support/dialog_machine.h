@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -34,6 +35,12 @@ class DialogMachine {
 
   // Writes the file and shows a new dialog.
   dialog::Form2& open();
+
+  // A dialog as it is before anything is read.
+  std::unique_ptr<dialog::Form2> untouched() {
+    return std::make_unique<dialog::Form2>(dialog::DialogServices{files, ansi, pictures, dialogs, windows},
+                                           "C:");
+  }
 
   FakeFiles files;
   Windows1252 ansi;
