@@ -54,7 +54,7 @@ DialogMs MeasureDialog(const e2e::ProgramFolder& folder) {
   e2e::MoveMouseTo(1, 1);  // a tool-tip comes and goes
   AwaitRest(program.process());
   DialogMs spent{.hidden = ProcessorMsWithin(program.process(), kSpanMs)};
-  e2e::NextTab();
+  e2e::NextTab(dialog);
   e2e::WaitForChild(dialog, L"LumoraPicture", L"Preview of the show");
   spent.seen = SpentAfterBeginning(program);
   e2e::PressKey(VK_ESCAPE);

@@ -1,5 +1,7 @@
 #include "e2e/dialog_hands.h"
 
+#include <commctrl.h>
+
 namespace e2e {
 
 namespace {
@@ -43,6 +45,32 @@ HWND WaitForDialog(DWORD processId) {
   return window;
 }
 
+HWND TabsOf(HWND form) { return FindWindowExW(form, nullptr, L"SysTabControl32", nullptr); }
+
+// In pixels of the screen. The tabs tell a place in memory of their own process.
+POINT MiddleOfTab(HWND tabs, int tab) {
+  DWORD processId = 0;
+  GetWindowThreadProcessId(tabs, &processId);
+  const HANDLE process =
+      OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, processId);
+  void* const there = VirtualAllocEx(process, nullptr, sizeof(RECT), MEM_COMMIT, PAGE_READWRITE);
+  SendMessageW(tabs, TCM_GETITEMRECT, static_cast<WPARAM>(tab), reinterpret_cast<LPARAM>(there));
+  RECT place{};
+  ReadProcessMemory(process, there, &place, sizeof(place), nullptr);
+  VirtualFreeEx(process, there, 0, MEM_RELEASE);
+  CloseHandle(process);
+  POINT middle{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+  ClientToScreen(tabs, &middle);
+  return middle;
+}
+
+// Waits for a wanted tab and until its page is laid out.
+bool PageComes(HWND form, const std::function<bool(int tab)>& isWanted) {
+  if (!WaitFor([&] { return isWanted(ShownTab(form)); })) return false;
+  SendMessageW(form, WM_NULL, 0, 0);  // answered when the program is through with the tab
+  return true;
+}
+
 }  // namespace
 
 HWND ChildOf(HWND parent, const wchar_t* className, const wchar_t* text) {
@@ -61,22 +89,53 @@ HWND WaitForChild(HWND parent, const wchar_t* className, const wchar_t* text) {
   return child;
 }
 
-void NextTab() {
-  INPUT input[4]{};
-  const WORD keys[] = {VK_CONTROL, VK_TAB, VK_TAB, VK_CONTROL};
-  for (int i = 0; i < 4; ++i) {
-    input[i].type = INPUT_KEYBOARD;
-    input[i].ki.wVk = keys[i];
-    if (i >= 2) input[i].ki.dwFlags = KEYEVENTF_KEYUP;
+HWND FocusIn(HWND window) {
+  GUITHREADINFO info{};
+  info.cbSize = sizeof(info);
+  const DWORD thread = GetWindowThreadProcessId(window, nullptr);
+  return GetGUIThreadInfo(thread, &info) != FALSE ? info.hwndFocus : nullptr;
+}
+
+bool WaitForKeyboard(HWND window) {
+  return WaitFor([&] {
+    const HWND focus = FocusIn(window);
+    return IsWindowEnabled(window) != FALSE && GetForegroundWindow() == window && focus != nullptr &&
+           (focus == window || IsChild(window, focus));
+  });
+}
+
+int ShownTab(HWND form) {
+  const HWND tabs = TabsOf(form);
+  return tabs != nullptr ? static_cast<int>(SendMessageW(tabs, TCM_GETCURSEL, 0, 0)) : -1;
+}
+
+bool NextTab(HWND form) {
+  if (!WaitForKeyboard(form)) return false;
+  const int before = ShownTab(form);
+  PressWith(VK_CONTROL, VK_TAB);
+  return PageComes(form, [&](int tab) { return tab != before; });
+}
+
+bool ClickTab(HWND form, int tab) {
+  const POINT middle = MiddleOfTab(TabsOf(form), tab);
+  ClickAt(middle.x, middle.y);
+  return PageComes(form, [&](int shown) { return shown == tab; });
+}
+
+HWND FindOnTabs(HWND form, const wchar_t* className, const wchar_t* text,
+                const std::function<bool(HWND)>& turn) {
+  const auto count = static_cast<int>(SendMessageW(TabsOf(form), TCM_GETITEMCOUNT, 0, 0));
+  for (int i = 0; i <= count; ++i) {
+    if (HWND found = ChildOf(form, className, text)) return found;
+    if (i == count || !turn(form)) break;
   }
-  SendInput(4, input, sizeof(INPUT));
+  return nullptr;
 }
 
 void ClickOn(HWND window) {
   RECT place;
   GetWindowRect(window, &place);
-  MoveMouseTo((place.left + place.right) / 2, (place.top + place.bottom) / 2);
-  ClickMouse();
+  ClickAt((place.left + place.right) / 2, (place.top + place.bottom) / 2);
 }
 
 void TypeText(const std::wstring& text) {

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
 
 #include "e2e/running_program.h"
@@ -19,8 +20,22 @@ HWND AnyDialog();
 // Waits for such a window inside another one; null when it does not come.
 HWND WaitForChild(HWND parent, const wchar_t* className, const wchar_t* text);
 
-// Goes to the next tab with the keyboard.
-void NextTab();
+// What has the keyboard in the program of a window; null when nothing has.
+HWND FocusIn(HWND window);
+
+// Waits until the window takes keys: what was open over it has gone.
+bool WaitForKeyboard(HWND window);
+
+// The tab whose page a form shows; -1 when it has no tabs.
+int ShownTab(HWND form);
+
+// Goes to the next tab with the keyboard, or to a tab with the mouse. False when its page does not come.
+bool NextTab(HWND form);
+bool ClickTab(HWND form, int tab);
+
+// Goes on by `turn` from tab to tab until a control is there; null when it is on no tab.
+HWND FindOnTabs(HWND form, const wchar_t* className, const wchar_t* text,
+                const std::function<bool(HWND)>& turn);
 
 // Clicks the middle of a window.
 void ClickOn(HWND window);

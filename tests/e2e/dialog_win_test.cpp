@@ -15,16 +15,11 @@ using e2e::DialogOf;
 
 // Goes on through the tabs until a control is there, and clicks it.
 testing::AssertionResult FindAndClick(HWND dialog, const wchar_t* className, const wchar_t* text) {
-  for (int tab = 0; tab < 9; ++tab) {
-    HWND control = nullptr;
-    e2e::WaitFor([&] { return (control = ChildOf(dialog, className, text)) != nullptr; }, 400);
-    if (control) {
-      ClickOn(control);
-      return testing::AssertionSuccess();
-    }
-    e2e::NextTab();
-  }
-  return testing::AssertionFailure() << os::FromWide(text) << " is on no tab";
+  if (!e2e::WaitForKeyboard(dialog)) return testing::AssertionFailure() << "something is over the dialog";
+  const HWND control = e2e::FindOnTabs(dialog, className, text, e2e::NextTab);
+  if (!control) return testing::AssertionFailure() << os::FromWide(text) << " is on no tab";
+  ClickOn(control);
+  return testing::AssertionSuccess();
 }
 
 HWND WindowTitled(const wchar_t* title) {

@@ -63,11 +63,7 @@ class LiveViewTest : public testing::Test {
   }
 
   void goTo(int tab) {
-    for (int i = 0; i < tab; ++i) {
-      const HWND before = view();
-      e2e::NextTab();
-      e2e::WaitFor([&] { return view() != before; }, 1000);
-    }
+    for (int i = 0; i < tab; ++i) ASSERT_TRUE(e2e::NextTab(dialog));
   }
 
   // On the tab that is shown; null where it has none.
@@ -105,7 +101,7 @@ TEST_F(LiveViewTest, EachTabThatHasRoomShowsTheShow) {
   EXPECT_EQ(view(), nullptr) << "there is a preview of the selected picture";
   int views = 0;
   for (int tab = 1; tab < 8; ++tab) {
-    e2e::NextTab();
+    ASSERT_TRUE(e2e::NextTab(dialog));
     if (tab == 2) continue;
     EXPECT_TRUE(comesToShow(kRed)) << "tab " << tab;
     ++views;
@@ -149,14 +145,7 @@ TEST_F(LiveViewTest, TriedByTheKeyboardTheShowEndsByAKeyAndTheDialogIsAsBefore) 
   const std::vector<std::wstring> before = NamesIn(folder.path());
   const HWND button = e2e::WaitForChild(dialog, L"Button", L"&Try It");
   ASSERT_NE(button, nullptr);
-  INPUT keys[4]{};
-  const WORD codes[] = {VK_MENU, 'T', 'T', VK_MENU};
-  for (int i = 0; i < 4; ++i) {
-    keys[i].type = INPUT_KEYBOARD;
-    keys[i].ki.wVk = codes[i];
-    if (i >= 2) keys[i].ki.dwFlags = KEYEVENTF_KEYUP;
-  }
-  SendInput(4, keys, sizeof(INPUT));
+  e2e::PressWith(VK_MENU, 'T');
   const HWND show = awaitShow();
   ASSERT_NE(show, nullptr);
   EXPECT_FALSE(IsWindowEnabled(dialog));

@@ -16,18 +16,8 @@ namespace {
 
 using e2e::ChildOf;
 using e2e::ClickOn;
-
-// A key with another one held down.
-void PressWith(WORD held, WORD key) {
-  INPUT input[4]{};
-  const WORD keys[] = {held, key, key, held};
-  for (int i = 0; i < 4; ++i) {
-    input[i].type = INPUT_KEYBOARD;
-    input[i].ki.wVk = keys[i];
-    if (i >= 2) input[i].ki.dwFlags = KEYEVENTF_KEYUP;
-  }
-  SendInput(4, input, sizeof(INPUT));
-}
+using e2e::FocusIn;
+using e2e::WaitForKeyboard;
 
 HWND WaitForWindow(const wchar_t* title) {
   HWND window = nullptr;
@@ -67,25 +57,8 @@ HWND VisibleChild(HWND parent, const wchar_t* className) {
   return search.found;
 }
 
-// What has the keyboard in the program of a window.
-HWND FocusIn(HWND window) {
-  GUITHREADINFO info{};
-  info.cbSize = sizeof(info);
-  const DWORD thread = GetWindowThreadProcessId(window, nullptr);
-  return GetGUIThreadInfo(thread, &info) != FALSE ? info.hwndFocus : nullptr;
-}
-
 bool WaitForFocus(HWND window) {
   return e2e::WaitFor([&] { return FocusIn(window) == window; });
-}
-
-// The window takes keys: what was open over it has gone.
-bool WaitForKeyboard(HWND window) {
-  return e2e::WaitFor([&] {
-    const HWND focus = FocusIn(window);
-    return IsWindowEnabled(window) != FALSE && GetForegroundWindow() == window && focus != nullptr &&
-           (focus == window || IsChild(window, focus));
-  });
 }
 
 bool WaitForEditInside(HWND window) {
@@ -184,7 +157,7 @@ class MoreOptionsTest : public testing::Test {
     e2e::RunningProgram show(folder.program(), L"/S");
     ASSERT_NE(show.waitForShow(), nullptr);
     ASSERT_TRUE(e2e::WaitFor([] { return middle() == base::OpaquePixel(kRed); }, 30000));
-    EXPECT_TRUE(e2e::WaitFor([] { return seesCaption(); }, 1500));
+    EXPECT_TRUE(e2e::WaitFor([] { return seesCaption(); }));
     bool mixed = false;
     EXPECT_TRUE(e2e::WaitFor([&] {
       const base::Pixel now = middle();
@@ -209,28 +182,27 @@ TEST_F(MoreOptionsTest, AreChosenTriedSavedAndSeenByTheKeyboardAlone) {
   HWND more = nullptr;
   // A key that comes before the dialog has the keyboard is somebody else's.
   ASSERT_TRUE(e2e::WaitFor([&] {
-    PressWith(VK_MENU, 'M');
+    e2e::PressWith(VK_MENU, 'M');
     return e2e::WaitFor([&] { return (more = FindWindowW(nullptr, kMore)) != nullptr; }, 500);
   }));
+  ASSERT_TRUE(WaitForKeyboard(more));
 
-  PressWith(VK_CONTROL, VK_TAB);
-  PressWith(VK_CONTROL, VK_TAB);
-  const HWND fade = e2e::WaitForChild(more, L"Button", L"Crossf&ade");
+  const HWND fade = e2e::FindOnTabs(more, L"Button", L"Crossf&ade", e2e::NextTab);
   ASSERT_NE(fade, nullptr);
-  PressWith(VK_MENU, 'A');
+  e2e::PressWith(VK_MENU, 'A');
   EXPECT_TRUE(e2e::WaitFor([&] { return IsChecked(fade); }));
 
-  PressWith(VK_CONTROL, VK_TAB);
+  ASSERT_TRUE(e2e::NextTab(more));
   const HWND combo = e2e::WaitForChild(more, L"ComboBox", L"No captions by themselves");
   ASSERT_NE(combo, nullptr);
-  PressWith(VK_MENU, 'T');
+  e2e::PressWith(VK_MENU, 'T');
   ASSERT_TRUE(WaitForFocus(combo)) << "a label's letter leads to what it names";
   e2e::PressKey(VK_DOWN);
   EXPECT_NE(e2e::WaitForChild(more, L"Edit", L"{name}"), nullptr);
 
-  PressWith(VK_CONTROL, VK_TAB);
+  ASSERT_TRUE(e2e::NextTab(more));
   ASSERT_NE(e2e::WaitForChild(more, L"Button", L"&Add..."), nullptr);
-  PressWith(VK_MENU, 'A');
+  e2e::PressWith(VK_MENU, 'A');
   const HWND chooser = WaitForWindow(kChooser);
   ASSERT_NE(chooser, nullptr);
   ASSERT_TRUE(WaitForEditInside(chooser));
@@ -238,31 +210,20 @@ TEST_F(MoreOptionsTest, AreChosenTriedSavedAndSeenByTheKeyboardAlone) {
   e2e::PressKey(VK_RETURN);
   ASSERT_TRUE(WaitForNoWindow(kChooser));
   ASSERT_TRUE(WaitForKeyboard(more));
-  PressWith(VK_MENU, 'O');
+  e2e::PressWith(VK_MENU, 'O');
   ASSERT_TRUE(WaitForNoWindow(kMore));
   ASSERT_TRUE(WaitForKeyboard(dialog));
   tryIt(
-      program, dialog, [] { PressWith(VK_MENU, 'T'); }, [] { e2e::PressKey(VK_SPACE); });
-  PressWith(VK_MENU, 'O');
+      program, dialog, [] { e2e::PressWith(VK_MENU, 'T'); }, [] { e2e::PressKey(VK_SPACE); });
+  e2e::PressWith(VK_MENU, 'O');
   ASSERT_TRUE(program.waitForEnd());
   EXPECT_EQ(program.exitCode(), 0U);
   expectTheFileToHaveIt();
   expectTheShowToShowIt();
 }
 
-// Clicks along the tabs until a control of the wanted page is there.
-HWND FindByTabs(HWND form, const wchar_t* className, const wchar_t* text) {
-  const HWND tabs = FindWindowExW(form, nullptr, L"SysTabControl32", nullptr);
-  RECT place{};
-  GetWindowRect(tabs, &place);
-  for (int x = place.left + 15; x < place.right; x += 30) {
-    e2e::MoveMouseTo(x, place.top + 10);
-    e2e::ClickMouse();
-    HWND found = nullptr;
-    if (e2e::WaitFor([&] { return (found = ChildOf(form, className, text)) != nullptr; }, 300)) return found;
-  }
-  return nullptr;
-}
+// Clicks on one tab after the other.
+bool ClickNextTab(HWND form) { return e2e::ClickTab(form, e2e::ShownTab(form) + 1); }
 
 TEST_F(MoreOptionsTest, AreChosenTriedSavedAndSeenByTheMouseAlone) {
   // The folder of photos lies alone where the user keeps pictures.
@@ -276,23 +237,23 @@ TEST_F(MoreOptionsTest, AreChosenTriedSavedAndSeenByTheMouseAlone) {
   const HWND more = WaitForWindow(kMore);
   ASSERT_NE(more, nullptr);
 
-  const HWND fade = FindByTabs(more, L"Button", L"Crossf&ade");
+  const HWND fade = e2e::FindOnTabs(more, L"Button", L"Crossf&ade", ClickNextTab);
   ASSERT_NE(fade, nullptr);
   ClickOn(fade);
   EXPECT_TRUE(e2e::WaitFor([&] { return IsChecked(fade); }));
 
-  const HWND combo = FindByTabs(more, L"ComboBox", L"No captions by themselves");
+  const HWND combo = e2e::FindOnTabs(more, L"ComboBox", L"No captions by themselves", ClickNextTab);
   ASSERT_NE(combo, nullptr);
   ClickOn(combo);
-  ASSERT_TRUE(e2e::WaitFor([&] { return SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0) != 0; }));
-  RECT field{};
-  GetWindowRect(combo, &field);
+  HWND choices = nullptr;
+  ASSERT_TRUE(e2e::WaitFor([&] { return (choices = program.findWindow(L"ComboLBox")) != nullptr; }));
+  RECT place{};
+  GetWindowRect(choices, &place);
   const auto line = static_cast<int>(SendMessageW(combo, CB_GETITEMHEIGHT, 0, 0));
-  e2e::MoveMouseTo(field.left + 20, field.bottom + line * 3 / 2);
-  e2e::ClickMouse();
+  e2e::ClickAt(place.left + 20, place.top + line * 3 / 2);
   EXPECT_NE(e2e::WaitForChild(more, L"Edit", L"{name}"), nullptr);
 
-  const HWND add = FindByTabs(more, L"Button", L"&Add...");
+  const HWND add = e2e::FindOnTabs(more, L"Button", L"&Add...", ClickNextTab);
   ASSERT_NE(add, nullptr);
   ClickOn(add);
   const HWND chooser = WaitForWindow(kChooser);
@@ -303,8 +264,7 @@ TEST_F(MoreOptionsTest, AreChosenTriedSavedAndSeenByTheMouseAlone) {
   GetWindowRect(list, &first);
   const HWND take = GetDlgItem(chooser, IDOK);
   ASSERT_TRUE(e2e::WaitFor([&] {
-    e2e::MoveMouseTo(first.left + 30, first.top + 8);
-    e2e::ClickMouse();
+    e2e::ClickAt(first.left + 30, first.top + 8);
     ClickOn(take);
     return WaitForNoWindow(kChooser, 1000);
   }));

@@ -7,6 +7,22 @@
 
 namespace e2e {
 
+namespace {
+
+// The pointer moves to a place of the primary screen.
+INPUT PointerAt(int x, int y) {
+  const base::PixelSize screen = ScreenSize();
+  INPUT input{};
+  input.type = INPUT_MOUSE;
+  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+  // Absolute positions run from 0 to 65535; half a pixel more lands inside the pixel.
+  input.mi.dx = static_cast<LONG>((static_cast<long long>(x) * 65536 + 32768) / screen.width);
+  input.mi.dy = static_cast<LONG>((static_cast<long long>(y) * 65536 + 32768) / screen.height);
+  return input;
+}
+
+}  // namespace
+
 bool WaitFor(const std::function<bool()>& condition, int limitMs) {
   const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(limitMs);
   for (;;) {
@@ -113,6 +129,17 @@ void PressKey(WORD virtualKey) {
   SendInput(2, input, sizeof(INPUT));
 }
 
+void PressWith(WORD held, WORD virtualKey) {
+  INPUT input[4]{};
+  const WORD keys[] = {held, virtualKey, virtualKey, held};
+  for (int i = 0; i < 4; ++i) {
+    input[i].type = INPUT_KEYBOARD;
+    input[i].ki.wVk = keys[i];
+    if (i >= 2) input[i].ki.dwFlags = KEYEVENTF_KEYUP;
+  }
+  SendInput(4, input, sizeof(INPUT));
+}
+
 void ClickMouse() {
   INPUT input[2]{};
   input[0].type = INPUT_MOUSE;
@@ -122,14 +149,17 @@ void ClickMouse() {
   SendInput(2, input, sizeof(INPUT));
 }
 
+void ClickAt(int x, int y) {
+  MoveMouseTo(x, y);
+  // The place goes with each event: a move that the display reports late cannot lead the click elsewhere.
+  INPUT input[] = {PointerAt(x, y), PointerAt(x, y)};
+  input[0].mi.dwFlags |= MOUSEEVENTF_LEFTDOWN;
+  input[1].mi.dwFlags |= MOUSEEVENTF_LEFTUP;
+  SendInput(2, input, sizeof(INPUT));
+}
+
 void MoveMouseTo(int x, int y) {
-  const base::PixelSize screen = ScreenSize();
-  INPUT input{};
-  input.type = INPUT_MOUSE;
-  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
-  // Absolute positions run from 0 to 65535; half a pixel more lands inside the pixel.
-  input.mi.dx = static_cast<LONG>((static_cast<long long>(x) * 65536 + 32768) / screen.width);
-  input.mi.dy = static_cast<LONG>((static_cast<long long>(y) * 65536 + 32768) / screen.height);
+  INPUT input = PointerAt(x, y);
   SendInput(1, &input, sizeof(INPUT));
 }
 

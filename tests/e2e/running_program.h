@@ -59,7 +59,9 @@ base::PixelSize ScreenSize();
 
 // Real input.
 void PressKey(WORD virtualKey);
-void ClickMouse();
+void PressWith(WORD held, WORD virtualKey);  // one key while another is down
+void ClickMouse();                           // where the pointer is
+void ClickAt(int x, int y);
 void MoveMouseTo(int x, int y);
 
 // The smallest rectangle around all pixels of one colour; empty when there is none.
