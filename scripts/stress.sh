@@ -1,6 +1,7 @@
 # The end-to-end tests many times in turn, while other processes want the processors. Sourced behind lib.sh and
 # test_groups.sh.
 busy_pids=()
+stress_parts=4  # they mostly wait, so there are more of them than processors
 
 # Four processes that never rest.
 keep_busy() {
@@ -27,8 +28,8 @@ test_stress() {
   prepare_end_to_end
   share_prefix
   keep_busy
-  for part in 0 1; do
-    beside "stress-$part" on_own_display "stress-$part" group "stress-$part" env GTEST_TOTAL_SHARDS=2 \
+  for ((part = 0; part < stress_parts; part++)); do
+    beside "stress-$part" on_own_display "stress-$part" group "stress-$part" env GTEST_TOTAL_SHARDS=$stress_parts \
       GTEST_SHARD_INDEX=$part "${e2e[@]}" --gtest_repeat="$times" --gtest_filter="$filter:-*SeveralScreens.*"
   done
   # These have a display of their own; a filter leaves them out unless it names them.

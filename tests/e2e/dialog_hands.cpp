@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include "os/utf16_win.h"
+
 namespace e2e {
 
 namespace {
@@ -64,6 +66,16 @@ POINT MiddleOfTab(HWND tabs, int tab) {
   return middle;
 }
 
+// Class and text, for a failure's message.
+std::string NameOf(HWND window) {
+  if (!window) return "nothing";
+  wchar_t className[64] = {};
+  wchar_t text[64] = {};
+  GetClassNameW(window, className, 64);
+  GetWindowTextW(window, text, 64);
+  return os::FromWide(className) + " \"" + os::FromWide(text) + "\"";
+}
+
 // Waits for a wanted tab and until its page is laid out.
 bool PageComes(HWND form, const std::function<bool(int tab)>& isWanted) {
   if (!WaitFor([&] { return isWanted(ShownTab(form)); })) return false;
@@ -96,12 +108,19 @@ HWND FocusIn(HWND window) {
   return GetGUIThreadInfo(thread, &info) != FALSE ? info.hwndFocus : nullptr;
 }
 
-bool WaitForKeyboard(HWND window) {
-  return WaitFor([&] {
+testing::AssertionResult WaitForKeyboard(HWND window) {
+  const bool comes = WaitFor([&] {
+    // A display without a window manager at times gives the keyboard of a window that goes to nobody, and a
+    // manager would give it to the window behind.
+    if (GetForegroundWindow() == GetDesktopWindow()) SetForegroundWindow(window);
     const HWND focus = FocusIn(window);
     return IsWindowEnabled(window) != FALSE && GetForegroundWindow() == window && focus != nullptr &&
            (focus == window || IsChild(window, focus));
   });
+  if (comes) return testing::AssertionSuccess();
+  return testing::AssertionFailure() << (IsWindowEnabled(window) ? "enabled" : "disabled")
+                                     << ", in front: " << NameOf(GetForegroundWindow())
+                                     << ", with the keyboard: " << NameOf(FocusIn(window));
 }
 
 int ShownTab(HWND form) {

@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <string>
 
@@ -23,8 +25,8 @@ HWND WaitForChild(HWND parent, const wchar_t* className, const wchar_t* text);
 // What has the keyboard in the program of a window; null when nothing has.
 HWND FocusIn(HWND window);
 
-// Waits until the window takes keys: what was open over it has gone.
-bool WaitForKeyboard(HWND window);
+// Waits until the window takes keys: what was open over it has gone. Says what has the keyboard instead.
+testing::AssertionResult WaitForKeyboard(HWND window);
 
 // The tab whose page a form shows; -1 when it has no tabs.
 int ShownTab(HWND form);

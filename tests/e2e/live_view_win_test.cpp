@@ -59,7 +59,7 @@ class LiveViewTest : public testing::Test {
     program.emplace(folder.program(), L"/C");
     dialog = e2e::DialogOf(*program);
     ASSERT_NE(dialog, nullptr);
-    ASSERT_TRUE(e2e::WaitFor([&] { return GetForegroundWindow() == dialog; }));
+    ASSERT_TRUE(e2e::WaitForKeyboard(dialog));
   }
 
   void goTo(int tab) {
@@ -85,9 +85,7 @@ class LiveViewTest : public testing::Test {
   }
 
   bool isAsBefore() const {
-    return e2e::WaitFor([&] {
-      return !program->findWindow(kShow) && IsWindowEnabled(dialog) && GetForegroundWindow() == dialog;
-    });
+    return e2e::WaitFor([&] { return !program->findWindow(kShow); }) && e2e::WaitForKeyboard(dialog);
   }
 
   e2e::ProgramFolder folder{L"live"};
@@ -160,7 +158,7 @@ TEST_F(LiveViewTest, TriedByTheKeyboardTheShowEndsByAKeyAndTheDialogIsAsBefore) 
   EXPECT_TRUE(comesToShow(kRed)) << "the little show goes on";
   EXPECT_EQ(folder.readSettingsFile(), saved);
   EXPECT_EQ(NamesIn(folder.path()), before);
-  EXPECT_TRUE(e2e::WaitFor([&] { return GetForegroundWindow() == dialog; }));
+  EXPECT_TRUE(e2e::WaitForKeyboard(dialog));
   e2e::PressKey(VK_ESCAPE);
   EXPECT_TRUE(program->waitForEnd());
   EXPECT_EQ(program->exitCode(), 0U);

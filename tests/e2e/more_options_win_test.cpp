@@ -216,7 +216,7 @@ TEST_F(MoreOptionsTest, AreChosenTriedSavedAndSeenByTheKeyboardAlone) {
   tryIt(
       program, dialog, [] { e2e::PressWith(VK_MENU, 'T'); }, [] { e2e::PressKey(VK_SPACE); });
   e2e::PressWith(VK_MENU, 'O');
-  ASSERT_TRUE(program.waitForEnd());
+  ASSERT_TRUE(program.waitForEnd()) << WaitForKeyboard(dialog).message();
   EXPECT_EQ(program.exitCode(), 0U);
   expectTheFileToHaveIt();
   expectTheShowToShowIt();
@@ -277,7 +277,7 @@ TEST_F(MoreOptionsTest, AreChosenTriedSavedAndSeenByTheMouseAlone) {
   tryIt(
       program, dialog, [&] { ClickOn(ChildOf(dialog, L"Button", L"&Try It")); }, [] { e2e::ClickMouse(); });
   ClickOn(ChildOf(dialog, L"Button", L"&OK"));
-  ASSERT_TRUE(program.waitForEnd());
+  ASSERT_TRUE(program.waitForEnd()) << WaitForKeyboard(dialog).message();
   expectTheFileToHaveIt();
   expectTheShowToShowIt();
 }
