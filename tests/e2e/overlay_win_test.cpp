@@ -56,8 +56,8 @@ TEST(Caption, StandsInTheMiddleOfTheTopOverThePicture) {
   EXPECT_LT(text.bottom(), 60);
 }
 
-// It is at an edge for the ten milliseconds of one step, a pixel long; who reads the screen more slowly sees it
-// near the edge only.
+// It is at an edge for the ten milliseconds of one step, a pixel long; who reads the screen more slowly sees
+// it near the edge only.
 constexpr int kMissed = 3;
 
 // Watches a floating picture until it has been at all that the caller asks for.
