@@ -2,7 +2,7 @@
 
 #include <commctrl.h>
 
-#include "os/utf16_win.h"
+#include "e2e/keyboard.h"
 
 namespace e2e {
 
@@ -66,22 +66,8 @@ POINT MiddleOfTab(HWND tabs, int tab) {
   return middle;
 }
 
-// Class and text, for a failure's message.
-std::string NameOf(HWND window) {
-  if (!window) return "nothing";
-  wchar_t className[64] = {};
-  wchar_t text[64] = {};
-  GetClassNameW(window, className, 64);
-  GetWindowTextW(window, text, 64);
-  return os::FromWide(className) + " \"" + os::FromWide(text) + "\"";
-}
-
-// Waits for a wanted tab and until its page is laid out.
-bool PageComes(HWND form, const std::function<bool(int tab)>& isWanted) {
-  if (!WaitFor([&] { return isWanted(ShownTab(form)); })) return false;
-  SendMessageW(form, WM_NULL, 0, 0);  // answered when the program is through with the tab
-  return true;
-}
+// The page of the tab is laid out when the program is through with it, and answers.
+void AwaitLayout(HWND form) { SendMessageW(form, WM_NULL, 0, 0); }
 
 }  // namespace
 
@@ -101,48 +87,30 @@ HWND WaitForChild(HWND parent, const wchar_t* className, const wchar_t* text) {
   return child;
 }
 
-HWND FocusIn(HWND window) {
-  GUITHREADINFO info{};
-  info.cbSize = sizeof(info);
-  const DWORD thread = GetWindowThreadProcessId(window, nullptr);
-  return GetGUIThreadInfo(thread, &info) != FALSE ? info.hwndFocus : nullptr;
-}
-
-testing::AssertionResult WaitForKeyboard(HWND window) {
-  const bool comes = WaitFor([&] {
-    // A display without a window manager at times gives the keyboard of a window that goes to nobody, and a
-    // manager would give it to the window behind.
-    if (GetForegroundWindow() == GetDesktopWindow()) SetForegroundWindow(window);
-    const HWND focus = FocusIn(window);
-    return IsWindowEnabled(window) != FALSE && GetForegroundWindow() == window && focus != nullptr &&
-           (focus == window || IsChild(window, focus));
-  });
-  if (comes) return testing::AssertionSuccess();
-  return testing::AssertionFailure() << (IsWindowEnabled(window) ? "enabled" : "disabled")
-                                     << ", in front: " << NameOf(GetForegroundWindow())
-                                     << ", with the keyboard: " << NameOf(FocusIn(window));
-}
-
 int ShownTab(HWND form) {
   const HWND tabs = TabsOf(form);
   return tabs != nullptr ? static_cast<int>(SendMessageW(tabs, TCM_GETCURSEL, 0, 0)) : -1;
 }
 
-bool NextTab(HWND form) {
-  if (!WaitForKeyboard(form)) return false;
+testing::AssertionResult NextTab(HWND form) {
   const int before = ShownTab(form);
-  PressWith(VK_CONTROL, VK_TAB);
-  return PageComes(form, [&](int tab) { return tab != before; });
+  testing::AssertionResult pressed = PressUntil(
+      form, [&] { return ShownTab(form) != before; }, VK_TAB, VK_CONTROL);
+  if (pressed) AwaitLayout(form);
+  return pressed;
 }
 
-bool ClickTab(HWND form, int tab) {
+testing::AssertionResult ClickTab(HWND form, int tab) {
   const POINT middle = MiddleOfTab(TabsOf(form), tab);
   ClickAt(middle.x, middle.y);
-  return PageComes(form, [&](int shown) { return shown == tab; });
+  if (!WaitFor([&] { return ShownTab(form) == tab; }))
+    return testing::AssertionFailure() << "not tab " << tab;
+  AwaitLayout(form);
+  return testing::AssertionSuccess();
 }
 
 HWND FindOnTabs(HWND form, const wchar_t* className, const wchar_t* text,
-                const std::function<bool(HWND)>& turn) {
+                const std::function<testing::AssertionResult(HWND)>& turn) {
   const auto count = static_cast<int>(SendMessageW(TabsOf(form), TCM_GETITEMCOUNT, 0, 0));
   for (int i = 0; i <= count; ++i) {
     if (HWND found = ChildOf(form, className, text)) return found;
@@ -157,16 +125,12 @@ void ClickOn(HWND window) {
   ClickAt((place.left + place.right) / 2, (place.top + place.bottom) / 2);
 }
 
-void TypeText(const std::wstring& text) {
-  for (const wchar_t letter : text) {
-    INPUT input[2]{};
-    input[0].type = INPUT_KEYBOARD;
-    input[0].ki.wScan = letter;
-    input[0].ki.dwFlags = KEYEVENTF_UNICODE;
-    input[1] = input[0];
-    input[1].ki.dwFlags |= KEYEVENTF_KEYUP;
-    SendInput(2, input, sizeof(INPUT));
-  }
+testing::AssertionResult EnterField(HWND form, HWND field) {
+  ClickOn(field);
+  testing::AssertionResult taken = WaitForKeyboard(form);
+  if (!taken) return taken;
+  if (WaitFor([&] { return FocusIn(form) == field; })) return testing::AssertionSuccess();
+  return testing::AssertionFailure() << "another control of the form has the keyboard";
 }
 
 PicturesFolder::PicturesFolder(const std::wstring& path) {

@@ -22,28 +22,22 @@ HWND AnyDialog();
 // Waits for such a window inside another one; null when it does not come.
 HWND WaitForChild(HWND parent, const wchar_t* className, const wchar_t* text);
 
-// What has the keyboard in the program of a window; null when nothing has.
-HWND FocusIn(HWND window);
-
-// Waits until the window takes keys: what was open over it has gone. Says what has the keyboard instead.
-testing::AssertionResult WaitForKeyboard(HWND window);
-
 // The tab whose page a form shows; -1 when it has no tabs.
 int ShownTab(HWND form);
 
-// Goes to the next tab with the keyboard, or to a tab with the mouse. False when its page does not come.
-bool NextTab(HWND form);
-bool ClickTab(HWND form, int tab);
+// Goes to the next tab with the keyboard, or to a tab with the mouse. Fails when its page does not come.
+testing::AssertionResult NextTab(HWND form);
+testing::AssertionResult ClickTab(HWND form, int tab);
 
 // Goes on by `turn` from tab to tab until a control is there; null when it is on no tab.
 HWND FindOnTabs(HWND form, const wchar_t* className, const wchar_t* text,
-                const std::function<bool(HWND)>& turn);
+                const std::function<testing::AssertionResult(HWND)>& turn);
 
 // Clicks the middle of a window.
 void ClickOn(HWND window);
 
-// Types text as a keyboard would, whatever its letters.
-void TypeText(const std::wstring& text);
+// Clicks a field and waits until it has the keyboard.
+testing::AssertionResult EnterField(HWND form, HWND field);
 
 // Where the user keeps pictures, as the system knows it, for a scope.
 class PicturesFolder {

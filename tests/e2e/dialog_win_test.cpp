@@ -3,6 +3,7 @@
 #include <string>
 
 #include "e2e/dialog_hands.h"
+#include "e2e/keyboard.h"
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
 #include "os/utf16_win.h"
@@ -69,7 +70,7 @@ TEST_F(DialogTest, ACaptionTypedByHandIsSavedAndNothingElseIs) {
   HWND caption = nullptr;
   ASSERT_TRUE(
       e2e::WaitFor([&] { return (caption = ChildOf(dialog, L"Edit", L"Mountains at dusk")) != nullptr; }));
-  ClickOn(caption);
+  ASSERT_TRUE(e2e::EnterField(dialog, caption));
   e2e::PressKey(VK_END);
   e2e::PressKey('1');
   ASSERT_TRUE(e2e::WaitFor([&] { return ChildOf(dialog, L"Edit", L"Mountains at dusk1") != nullptr; }));
@@ -119,7 +120,9 @@ TEST_F(DialogTest, PicturesAddedMovedAndOptionsChangedOnEveryTabAreInTheFile) {
   ASSERT_TRUE(e2e::WaitFor([&] { return ChildOf(dialog, L"Edit", L"Position: 4") != nullptr; }));
 
   ASSERT_TRUE(FindAndClick(dialog, L"Button", L"&Add..."));
-  ASSERT_NE(WindowTitled(L"Select a file to open"), nullptr);
+  const HWND chooser = WindowTitled(L"Select a file to open");
+  ASSERT_NE(chooser, nullptr);
+  ASSERT_TRUE(e2e::WaitForKeyboard(chooser));
   e2e::TypeText(os::ToWide(single));
   e2e::PressKey(VK_RETURN);
   ASSERT_TRUE(e2e::WaitFor([&] { return ChildOf(dialog, L"Edit", L"Total: 5") != nullptr; }));
@@ -164,7 +167,7 @@ TEST_F(DialogTest, CancelWritesNothing) {
   HWND caption = nullptr;
   ASSERT_TRUE(
       e2e::WaitFor([&] { return (caption = ChildOf(dialog, L"Edit", L"Mountains at dusk")) != nullptr; }));
-  ClickOn(caption);
+  ASSERT_TRUE(e2e::EnterField(dialog, caption));
   e2e::PressKey('1');
   const HWND cancel = ChildOf(dialog, L"Button", L"&Cancel");
   ASSERT_NE(cancel, nullptr);

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "e2e/keyboard.h"
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
 #include "os/utf16_win.h"
@@ -19,6 +20,7 @@ class InputTest : public testing::Test {
     show = std::make_unique<e2e::RunningProgram>(folder.program(), L"/S");
     ASSERT_NE(show->waitForShow(), nullptr);
     ASSERT_TRUE(e2e::WaitFor([&] { return e2e::ScreenPixel(2, 2) == 0xFF800000U; }));
+    ASSERT_TRUE(e2e::WaitForKeyboard(show->waitForShow()));
     // The first event only records; the second arrives after it, so both have been seen.
     moveTo(400, 300);
   }

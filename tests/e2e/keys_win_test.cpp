@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "e2e/keyboard.h"
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
 #include "os/handles_win.h"
@@ -46,15 +47,11 @@ class KeysTest : public testing::Test {
     show = std::make_unique<e2e::RunningProgram>(folder.program(), L"/S");
     ASSERT_NE(show->waitForShow(), nullptr);
     ASSERT_TRUE(comes(kRed));
-    // A key that comes before the window has the keyboard is somebody else's.
-    ASSERT_TRUE(e2e::WaitFor([this] { return hasKeyboard(); }));
   }
-  bool hasKeyboard() const {
-    GUITHREADINFO info{};
-    info.cbSize = sizeof(info);
-    const HWND window = show->waitForShow();
-    return GetGUIThreadInfo(GetWindowThreadProcessId(window, nullptr), &info) != FALSE &&
-           info.hwndFocus == window && GetForegroundWindow() == window;
+  // A key that comes before the window has the keyboard is somebody else's.
+  void press(WORD key) {
+    ASSERT_TRUE(e2e::WaitForKeyboard(show->waitForShow()));
+    e2e::PressKey(key);
   }
   bool comes(base::Pixel pixel) {
     return e2e::WaitFor([pixel] { return Middle() == pixel; });
@@ -74,15 +71,15 @@ class KeysTest : public testing::Test {
 
 TEST_F(KeysTest, StepThroughTheShowAndEscapeEndsIt) {
   start();
-  e2e::PressKey(VK_RIGHT);
+  press(VK_RIGHT);
   EXPECT_TRUE(comes(kGreen));
-  e2e::PressKey('N');
+  press('N');
   EXPECT_TRUE(comes(kBlue));
-  e2e::PressKey(VK_PRIOR);
+  press(VK_PRIOR);
   EXPECT_TRUE(comes(kGreen));
-  e2e::PressKey('B');
+  press('B');
   EXPECT_TRUE(comes(kRed));
-  e2e::PressKey(VK_ESCAPE);
+  press(VK_ESCAPE);
   EXPECT_TRUE(show->waitForEnd());
   EXPECT_EQ(show->exitCode(), 0U);
 }
@@ -91,52 +88,52 @@ TEST_F(KeysTest, StepWhereThePicturesAreLoadedAheadToo) {
   folder.set("extras/loadAhead", "1");
   start();
   for (const base::Pixel pixel : {kGreen, kBlue, kRed}) {
-    e2e::PressKey(VK_RIGHT);
+    press(VK_RIGHT);
     EXPECT_TRUE(comes(pixel));
   }
-  e2e::PressKey(VK_LEFT);
+  press(VK_LEFT);
   EXPECT_TRUE(comes(kBlue));
 }
 
 TEST_F(KeysTest, HoldThePictureUntilTheShowIsToGoOn) {
   folder.set("image/timeInterval", "2");
   start();
-  e2e::PressKey(VK_SPACE);
+  press(VK_SPACE);
   EXPECT_TRUE(showsNotes());
   const base::Pixel held = Middle();
   EXPECT_FALSE(e2e::WaitFor([held] { return Middle() != held; }, 6000));
   EXPECT_TRUE(showsNoNotes()) << "the sign has gone";
-  e2e::PressKey(VK_SPACE);
+  press(VK_SPACE);
   EXPECT_TRUE(e2e::WaitFor([held] { return Middle() != held; }, 10000));
 }
 
 TEST_F(KeysTest, TellAboutThePictureAndShowTheKeys) {
   start();
-  e2e::PressKey('I');
+  press('I');
   EXPECT_TRUE(showsNotes());
   EXPECT_EQ(Middle(), kRed) << "in a corner";
-  e2e::PressKey('I');
+  press('I');
   EXPECT_TRUE(showsNoNotes());
-  e2e::PressKey(VK_F1);
+  press(VK_F1);
   EXPECT_TRUE(e2e::WaitFor([] { return Middle() != kRed; })) << "in the middle";
   EXPECT_TRUE(showsNotes());
-  e2e::PressKey('H');
+  press('H');
   EXPECT_TRUE(comes(kRed));
   EXPECT_TRUE(show->isRunning());
 }
 
 TEST_F(KeysTest, APictureThatIsPutAwayComesInNoShowAgainAndItsFileStays) {
   start();
-  e2e::PressKey(VK_DELETE);
+  press(VK_DELETE);
   EXPECT_TRUE(showsNotes());
   EXPECT_EQ(Middle(), kRed);
-  e2e::PressKey(VK_DELETE);
+  press(VK_DELETE);
   EXPECT_TRUE(comes(kGreen));
-  e2e::PressKey(VK_RIGHT);
+  press(VK_RIGHT);
   EXPECT_TRUE(comes(kBlue));
-  e2e::PressKey(VK_RIGHT);
+  press(VK_RIGHT);
   EXPECT_TRUE(comes(kGreen));
-  e2e::PressKey(VK_ESCAPE);
+  press(VK_ESCAPE);
   EXPECT_TRUE(show->waitForEnd());
   e2e::RunningProgram again(folder.program(), L"/S");
   ASSERT_NE(again.waitForShow(), nullptr);
@@ -148,7 +145,7 @@ TEST_F(KeysTest, WithoutTheSettingEveryOneOfThemEndsTheShow) {
   folder.set("extras/keys", "");
   for (const int key : {VK_RIGHT, VK_LEFT, VK_SPACE, VK_DELETE, VK_RETURN, VK_F1}) {
     start();
-    e2e::PressKey(static_cast<WORD>(key));
+    press(static_cast<WORD>(key));
     EXPECT_TRUE(show->waitForEnd(5000)) << key;
     EXPECT_EQ(show->exitCode(), 0U);
   }
@@ -202,10 +199,10 @@ std::wstring CommandLineOf(HANDLE process) {
 
 TEST_F(KeysTest, EndTheShowAndOpenTheFolderOfThePicture) {
   start();
-  e2e::PressKey(VK_RIGHT);
+  press(VK_RIGHT);
   EXPECT_TRUE(comes(kGreen));
   StartedProcesses started(show->process());
-  e2e::PressKey('O');
+  press('O');
   const os::OwnedHandle shell = started.next(show->processId());
   EXPECT_TRUE(show->waitForEnd());
   ASSERT_TRUE(shell);

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "e2e/dialog_hands.h"
+#include "e2e/keyboard.h"
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
 #include "os/handles_win.h"
@@ -147,14 +148,11 @@ TEST_F(LiveViewTest, TriedByTheKeyboardTheShowEndsByAKeyAndTheDialogIsAsBefore) 
   const HWND show = awaitShow();
   ASSERT_NE(show, nullptr);
   EXPECT_FALSE(IsWindowEnabled(dialog));
-  e2e::PressKey(VK_SPACE);
+  EXPECT_TRUE(e2e::PressUntil(
+      show, [&] { return !IsWindow(show); }, VK_SPACE));
   EXPECT_TRUE(isAsBefore());
-  EXPECT_TRUE(e2e::WaitFor([&] {
-    GUITHREADINFO thread{};
-    thread.cbSize = sizeof(thread);
-    GetGUIThreadInfo(GetWindowThreadProcessId(dialog, nullptr), &thread);
-    return thread.hwndFocus == button;
-  })) << "the button has the keyboard again";
+  EXPECT_TRUE(e2e::WaitFor([&] { return e2e::FocusIn(dialog) == button; }))
+      << "the button has the keyboard again";
   EXPECT_TRUE(comesToShow(kRed)) << "the little show goes on";
   EXPECT_EQ(folder.readSettingsFile(), saved);
   EXPECT_EQ(NamesIn(folder.path()), before);
@@ -177,8 +175,11 @@ TEST_F(LiveViewTest, TriedByTheMouseItShowsWhatIsNotSavedAndEndsByAClick) {
   EXPECT_TRUE(isAsBefore());
   EXPECT_EQ(folder.readSettingsFile(), saved);
   e2e::ClickOn(e2e::WaitForChild(dialog, L"Button", L"&Try It"));
-  ASSERT_TRUE(e2e::WaitFor([&] { return program->findWindow(kShow) != nullptr; })) << "as often as wanted";
-  e2e::PressKey(VK_SPACE);
+  HWND show = nullptr;
+  ASSERT_TRUE(e2e::WaitFor([&] { return (show = program->findWindow(kShow)) != nullptr; }))
+      << "as often as wanted";
+  EXPECT_TRUE(e2e::PressUntil(
+      show, [&] { return !IsWindow(show); }, VK_SPACE));
   EXPECT_TRUE(isAsBefore());
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "e2e/dialog_hands.h"
+#include "e2e/keyboard.h"
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
 #include "os/utf16_win.h"
@@ -55,10 +56,6 @@ HWND VisibleChild(HWND parent, const wchar_t* className) {
       },
       reinterpret_cast<LPARAM>(&search));
   return search.found;
-}
-
-bool WaitForFocus(HWND window) {
-  return e2e::WaitFor([&] { return FocusIn(window) == window; });
 }
 
 bool WaitForEditInside(HWND window) {
@@ -121,8 +118,9 @@ class MoreOptionsTest : public testing::Test {
     HWND show = nullptr;
     ASSERT_TRUE(e2e::WaitFor([&] {
       show = program.findWindow(kShow);
-      return show != nullptr && GetForegroundWindow() == show;
+      return show != nullptr;
     }));
+    ASSERT_TRUE(WaitForKeyboard(show));
     end();  // once: a second time would be for the dialog
     EXPECT_TRUE(e2e::WaitFor([&] { return !IsWindow(show); }));
     ASSERT_TRUE(WaitForKeyboard(dialog));
@@ -180,50 +178,49 @@ TEST_F(MoreOptionsTest, AreChosenTriedSavedAndSeenByTheKeyboardAlone) {
   const HWND moreButton = e2e::WaitForChild(dialog, L"Button", L"&More...");
   ASSERT_NE(moreButton, nullptr);
   HWND more = nullptr;
-  // A key that comes before the dialog has the keyboard is somebody else's.
-  ASSERT_TRUE(e2e::WaitFor([&] {
-    e2e::PressWith(VK_MENU, 'M');
-    return e2e::WaitFor([&] { return (more = FindWindowW(nullptr, kMore)) != nullptr; }, 500);
-  }));
+  ASSERT_TRUE(e2e::PressUntil(
+      dialog, [&] { return (more = FindWindowW(nullptr, kMore)) != nullptr; }, 'M', VK_MENU));
   ASSERT_TRUE(WaitForKeyboard(more));
 
   const HWND fade = e2e::FindOnTabs(more, L"Button", L"Crossf&ade", e2e::NextTab);
   ASSERT_NE(fade, nullptr);
-  e2e::PressWith(VK_MENU, 'A');
-  EXPECT_TRUE(e2e::WaitFor([&] { return IsChecked(fade); }));
+  EXPECT_TRUE(e2e::PressUntil(
+      more, [&] { return IsChecked(fade); }, 'A', VK_MENU));
 
   ASSERT_TRUE(e2e::NextTab(more));
   const HWND combo = e2e::WaitForChild(more, L"ComboBox", L"No captions by themselves");
   ASSERT_NE(combo, nullptr);
-  e2e::PressWith(VK_MENU, 'T');
-  ASSERT_TRUE(WaitForFocus(combo)) << "a label's letter leads to what it names";
+  ASSERT_TRUE(e2e::PressUntil(
+      more, [&] { return FocusIn(more) == combo; }, 'T', VK_MENU))
+      << "a label's letter leads to what it names";
   e2e::PressKey(VK_DOWN);
   EXPECT_NE(e2e::WaitForChild(more, L"Edit", L"{name}"), nullptr);
 
   ASSERT_TRUE(e2e::NextTab(more));
   ASSERT_NE(e2e::WaitForChild(more, L"Button", L"&Add..."), nullptr);
-  e2e::PressWith(VK_MENU, 'A');
+  ASSERT_TRUE(e2e::PressUntil(
+      more, [] { return FindWindowW(nullptr, kChooser) != nullptr; }, 'A', VK_MENU));
   const HWND chooser = WaitForWindow(kChooser);
   ASSERT_NE(chooser, nullptr);
+  ASSERT_TRUE(WaitForKeyboard(chooser));
   ASSERT_TRUE(WaitForEditInside(chooser));
   e2e::TypeText(album());
   e2e::PressKey(VK_RETURN);
   ASSERT_TRUE(WaitForNoWindow(kChooser));
-  ASSERT_TRUE(WaitForKeyboard(more));
-  e2e::PressWith(VK_MENU, 'O');
-  ASSERT_TRUE(WaitForNoWindow(kMore));
+  ASSERT_TRUE(e2e::PressUntil(
+      more, [&] { return !IsWindow(more); }, 'O', VK_MENU));
   ASSERT_TRUE(WaitForKeyboard(dialog));
   tryIt(
       program, dialog, [] { e2e::PressWith(VK_MENU, 'T'); }, [] { e2e::PressKey(VK_SPACE); });
-  e2e::PressWith(VK_MENU, 'O');
-  ASSERT_TRUE(program.waitForEnd()) << WaitForKeyboard(dialog).message();
+  ASSERT_TRUE(e2e::PressUntil(
+      dialog, [&] { return !program.isRunning(); }, 'O', VK_MENU));
   EXPECT_EQ(program.exitCode(), 0U);
   expectTheFileToHaveIt();
   expectTheShowToShowIt();
 }
 
 // Clicks on one tab after the other.
-bool ClickNextTab(HWND form) { return e2e::ClickTab(form, e2e::ShownTab(form) + 1); }
+testing::AssertionResult ClickNextTab(HWND form) { return e2e::ClickTab(form, e2e::ShownTab(form) + 1); }
 
 TEST_F(MoreOptionsTest, AreChosenTriedSavedAndSeenByTheMouseAlone) {
   // The folder of photos lies alone where the user keeps pictures.
@@ -277,7 +274,7 @@ TEST_F(MoreOptionsTest, AreChosenTriedSavedAndSeenByTheMouseAlone) {
   tryIt(
       program, dialog, [&] { ClickOn(ChildOf(dialog, L"Button", L"&Try It")); }, [] { e2e::ClickMouse(); });
   ClickOn(ChildOf(dialog, L"Button", L"&OK"));
-  ASSERT_TRUE(program.waitForEnd()) << WaitForKeyboard(dialog).message();
+  ASSERT_TRUE(program.waitForEnd());
   expectTheFileToHaveIt();
   expectTheShowToShowIt();
 }

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "e2e/keyboard.h"
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
 #include "os/handles_win.h"
@@ -89,8 +90,8 @@ TEST_F(PasswordTest, AnAcceptedPasswordEndsTheShowAndTheRunningFlagWasSetUntilTh
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
   ASSERT_TRUE(ShowIsOnTheScreen());
-  e2e::PressKey(VK_SPACE);
-  EXPECT_TRUE(show.waitForEnd());
+  EXPECT_TRUE(e2e::PressUntil(
+      show.waitForShow(), [&] { return !show.isRunning(); }, VK_SPACE));
   EXPECT_EQ(calls(), "verify window=valid running=1\n");
 }
 
@@ -100,8 +101,8 @@ TEST_F(PasswordTest, ARefusedPasswordLeavesTheShowOnWithTheCursorInTheFarCorner)
   ASSERT_NE(show.waitForShow(), nullptr);
   ASSERT_TRUE(ShowIsOnTheScreen());
   e2e::MoveMouseTo(300, 300);
-  e2e::PressKey(VK_SPACE);
-  ASSERT_TRUE(e2e::WaitFor([&] { return !calls().empty(); }));
+  ASSERT_TRUE(e2e::PressUntil(
+      show.waitForShow(), [&] { return !calls().empty(); }, VK_SPACE));
   EXPECT_TRUE(e2e::WaitFor([] {
     POINT place;
     GetCursorPos(&place);
@@ -111,8 +112,8 @@ TEST_F(PasswordTest, ARefusedPasswordLeavesTheShowOnWithTheCursorInTheFarCorner)
   EXPECT_TRUE(show.isRunning());
   EXPECT_TRUE(ShowIsOnTheScreen());
   answer("accept");
-  e2e::PressKey(VK_SPACE);
-  EXPECT_TRUE(show.waitForEnd());
+  EXPECT_TRUE(e2e::PressUntil(
+      show.waitForShow(), [&] { return !show.isRunning(); }, VK_SPACE));
 }
 
 TEST_F(PasswordTest, OnTheNtFamilyNobodyIsAsked) {
@@ -121,8 +122,8 @@ TEST_F(PasswordTest, OnTheNtFamilyNobodyIsAsked) {
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
   ASSERT_TRUE(ShowIsOnTheScreen());
-  e2e::PressKey(VK_SPACE);
-  EXPECT_TRUE(show.waitForEnd());
+  EXPECT_TRUE(e2e::PressUntil(
+      show.waitForShow(), [&] { return !show.isRunning(); }, VK_SPACE));
   EXPECT_EQ(calls(), "");
 }
 
@@ -133,8 +134,8 @@ TEST_F(PasswordTest, ALibraryPlantedBesideTheProgramIsNotAsked) {
   e2e::RunningProgram show(folder.program(), L"/S", folder.path());
   ASSERT_NE(show.waitForShow(), nullptr);
   ASSERT_TRUE(ShowIsOnTheScreen());
-  e2e::PressKey(VK_SPACE);
-  ASSERT_TRUE(e2e::WaitFor([&] { return !calls().empty(); }));
+  ASSERT_TRUE(e2e::PressUntil(
+      show.waitForShow(), [&] { return !calls().empty(); }, VK_SPACE));
   EXPECT_TRUE(show.isRunning()) << "the system's library refused";
   answer("accept");
   EXPECT_TRUE(show.endsByKey());

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "e2e/keyboard.h"
 #include "os/dib_win.h"
 #include "support/primary_screen_win.h"
 
@@ -119,26 +120,6 @@ base::Pixel ScreenPixel(int x, int y) {
 }
 
 base::PixelSize ScreenSize() { return os::ScreenWin().primarySize(); }
-
-void PressKey(WORD virtualKey) {
-  INPUT input[2]{};
-  input[0].type = INPUT_KEYBOARD;
-  input[0].ki.wVk = virtualKey;
-  input[1] = input[0];
-  input[1].ki.dwFlags = KEYEVENTF_KEYUP;
-  SendInput(2, input, sizeof(INPUT));
-}
-
-void PressWith(WORD held, WORD virtualKey) {
-  INPUT input[4]{};
-  const WORD keys[] = {held, virtualKey, virtualKey, held};
-  for (int i = 0; i < 4; ++i) {
-    input[i].type = INPUT_KEYBOARD;
-    input[i].ki.wVk = keys[i];
-    if (i >= 2) input[i].ki.dwFlags = KEYEVENTF_KEYUP;
-  }
-  SendInput(4, input, sizeof(INPUT));
-}
 
 void ClickMouse() {
   INPUT input[2]{};

@@ -57,10 +57,8 @@ base::Bitmap ReadScreen();
 base::Pixel ScreenPixel(int x, int y);
 base::PixelSize ScreenSize();
 
-// Real input.
-void PressKey(WORD virtualKey);
-void PressWith(WORD held, WORD virtualKey);  // one key while another is down
-void ClickMouse();                           // where the pointer is
+// The real pointer.
+void ClickMouse();  // where it is
 void ClickAt(int x, int y);
 void MoveMouseTo(int x, int y);
 

@@ -5,6 +5,7 @@
 #include <set>
 
 #include "e2e/dialog_hands.h"
+#include "e2e/keyboard.h"
 #include "e2e/running_program.h"
 #include "package/files.h"
 #include "package/installation.h"

@@ -19,7 +19,7 @@ int PicturesIn(HWND parent) {
   int count = 0;
   EnumChildWindows(
       parent,
-      [](HWND window, LPARAM data) -> BOOL {
+      [](HWND window, LPARAM data) CALLBACK -> BOOL {
         wchar_t name[16] = {};
         GetClassNameW(window, name, 16);
         const bool isBitmap = (GetWindowLongPtrW(window, GWL_STYLE) & SS_TYPEMASK) == SS_BITMAP;

@@ -1,6 +1,7 @@
 #include <windows.h>
 
 #include "e2e/dialog_hands.h"
+#include "e2e/keyboard.h"
 #include "e2e/running_program.h"
 #include "os/utf16_win.h"
 #include "package/files.h"
@@ -24,7 +25,7 @@ TEST_F(Upgrade, KeepsWhatWasSetInTheDialog) {
     ASSERT_NE(dialog, nullptr);
     const HWND caption = e2e::WaitForChild(dialog, L"Edit", L"Mountains at dusk");
     ASSERT_NE(caption, nullptr);
-    e2e::ClickOn(caption);
+    ASSERT_TRUE(e2e::EnterField(dialog, caption));
     e2e::PressKey(VK_END);
     e2e::PressKey('7');
     ASSERT_NE(e2e::WaitForChild(dialog, L"Edit", L"Mountains at dusk7"), nullptr);
