@@ -21,10 +21,8 @@ std::string NameOf(HWND window) {
 
 bool NobodyHasKeyboard() { return GetForegroundWindow() == GetDesktopWindow(); }
 
-// A display without a window manager at times gives the keyboard of a window that goes to nobody, and a
-// manager would give it to the window behind: that is done here.
 bool HasKeyboard(HWND window) {
-  if (NobodyHasKeyboard()) SetForegroundWindow(window);
+  TakeKeyboardOfNobody(window);
   const HWND focus = FocusIn(window);
   return IsWindowEnabled(window) != FALSE && GetForegroundWindow() == window && focus != nullptr &&
          (focus == window || IsChild(window, focus));
@@ -68,6 +66,10 @@ void TypeText(const std::wstring& text) {
     input[1].ki.dwFlags |= KEYEVENTF_KEYUP;
     SendInput(2, input, sizeof(INPUT));
   }
+}
+
+void TakeKeyboardOfNobody(HWND window) {
+  if (window && NobodyHasKeyboard()) SetForegroundWindow(window);
 }
 
 HWND FocusIn(HWND window) {

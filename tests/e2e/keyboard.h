@@ -15,6 +15,11 @@ void PressKey(WORD virtualKey);
 void PressWith(WORD held, WORD virtualKey);  // one key while another is down
 void TypeText(const std::wstring& text);     // whatever its letters
 
+// Gives a window the keyboard where nobody has it: a display without a window manager at times gives that of
+// a window that goes, or that another one was over, to nobody, where a manager would give it to the window
+// behind.
+void TakeKeyboardOfNobody(HWND window);
+
 // What has the keyboard in the program of a window; null when nothing has.
 HWND FocusIn(HWND window);
 

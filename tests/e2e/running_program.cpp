@@ -64,6 +64,7 @@ bool RunningProgram::isRunning() const {
 bool RunningProgram::endsByKey(int limitMs) {
   const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(limitMs);
   while (isRunning() && GetTickCount64() < end) {
+    TakeKeyboardOfNobody(findWindow(L"WindowsScreenSaverClass"));
     PressKey(VK_SPACE);
     waitForEnd(200);
   }
