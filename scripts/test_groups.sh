@@ -24,10 +24,11 @@ group() {
   say "tested: $name, $((SECONDS - seconds)) s"
 }
 
-# Runs a GoogleTest program in as many parts as there are processors, all at the same time. $1...: the command.
+# Runs a GoogleTest program in twice as many parts as there are processors, all at the same time, so that a part that
+# is through early leaves none idle. $1...: the command.
 in_shards() {
   local count index status=0 logs pids=()
-  count=$(nproc)
+  count=$((2 * $(nproc)))
   logs=$(mktemp -d)
   for ((index = 0; index < count; index++)); do
     GTEST_TOTAL_SHARDS=$count GTEST_SHARD_INDEX=$index "$@" >"$logs/$index" 2>&1 &
