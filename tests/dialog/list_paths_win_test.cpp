@@ -15,11 +15,13 @@ namespace {
 
 using support::RealDialog;
 
-// What the list shows of each entry, as pixels. No entry is chosen.
+// What the list shows of each entry, as pixels. No entry is chosen, and none is marked as having the
+// keyboard.
 std::vector<std::vector<COLORREF>> LinesOf(RealDialog& dialog) {
   forms::ListBox& list = dialog.form().List1;
   list.setListIndex(-1);
   const HWND window = dialog.windowOf(list);
+  SetFocus(dialog.windowOf(dialog.form().Cancel));
   UpdateWindow(window);
   RECT inside{};
   GetClientRect(window, &inside);

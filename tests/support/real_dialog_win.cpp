@@ -18,14 +18,12 @@ constexpr int kReportMs = 500;
 }  // namespace
 
 RealDialog::RealDialog(DialogMachine& machine) {
-  const std::int64_t start = clock_.tickMs();
   dialog_ = std::make_unique<dialog::SettingsDialogWin>(
       dialog::DialogMachineWin{loop_, machine.files, machine.ansi, machine.pictures, nullptr,
                                startup::MakeWorkers(loop_)},
       DialogMachine::kProgramFolder);
   loop_.setErrorHandler([](const std::exception&) { std::abort(); });
   waitFor([this] { return GetForegroundWindow() == window() && GetFocus() != nullptr; });
-  openedInMs_ = clock_.tickMs() - start;
   settleKeyboard();
 }
 

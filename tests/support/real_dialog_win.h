@@ -22,8 +22,6 @@ class RealDialog {
   HWND window() const { return dialog_->windows().windowOf(form()); }
   dialog::Form2& form() const { return dialog_->form(); }
   dialog::SettingsDialogWin& program() const { return *dialog_; }
-  // How long it took from the start until the dialog had the keyboard.
-  std::int64_t openedInMs() const { return openedInMs_; }
   bool isOpen() const { return window() != nullptr; }
 
   // Runs events until the condition holds. False when it does not within ten seconds.
@@ -57,7 +55,6 @@ class RealDialog {
   os::ClockWin clock_;
   os::EventLoopWin loop_{clock_};
   std::unique_ptr<dialog::SettingsDialogWin> dialog_;
-  std::int64_t openedInMs_ = 0;
 };
 
 }  // namespace support
