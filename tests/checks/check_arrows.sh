@@ -18,7 +18,8 @@ declare -A may=(
 bad=0
 for room in "${!may[@]}"; do
   while IFS=: read -r file _ include; do
-    target=$(sed -E 's/.*#include "([^"]+)".*/\1/' <<<"$include")
+    target=${include#*\"}
+    target=${target%%\"*}
     case " ${may[$room]} " in
       *" ${target%%/*} "*) ;;
       *) echo "Failure"; echo "$file: $target: '$room' may not include from '${target%%/*}'"; bad=$((bad + 1)) ;;
