@@ -6,7 +6,7 @@ Usage: mutate.py [--since REF] [--mutants N] [--seed N] [--list] [FILE[:LINE]|FO
 Without files it takes the portable sources that differ from REF: by default from where this branch left origin/main,
 or else from the last tag. Nothing here is touched: what is in the working tree, committed or not, is copied to
 out/mutants and built there once, by clang++ without optimising. A mutant is one source compiled from a folder of its own,
-linked in place of the unbroken one with the tests of its room, and run, those that take long aside. A mutant that does
+linked in place of the unbroken one with the tests of its room, and run, those that take long last. A mutant that does
 not compile does not count; one that takes three times as long as the unbroken code is seen. Headers are left out, since
 many sources would have to be compiled for each.
 
@@ -30,11 +30,9 @@ import sys
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 COPY = ROOT / "out" / "mutants"
 BUILD = COPY / "build-lint"
-HEADERS = BUILD / "CMakeFiles/lumora_tests.dir/cmake_pch.hxx.pch"
 MUTANT = COPY / "out" / "mutant"
-TIMES = COPY / "out" / "times.json"
-# What computes long by design, and what of each room's time a test may take to be run for every mutant.
-LONG = "*Monkey*:*RunsForAWeek*:*Week*:*NeverGrows*:Clock.TheCountdownsRightEdge*"
+TIMES = COPY / "out" / "seconds.json"
+# What of its room's time a test may take to be run before the slow ones.
 QUICK = 1 / 200
 MOST_MEMORY = 4 << 30
 
@@ -161,7 +159,7 @@ class Bench:
             self.commands[entry["file"]] = [word for word in shlex.split(entry["command"]) if not word.endswith("ccache")]
         listed = subprocess.check_output(["ninja", "-t", "commands", "lumora_tests"], cwd=BUILD, text=True)
         self.link = [word for word in shlex.split(listed.splitlines()[-1]) if word not in (":", "&&")]
-        # By room: how many seconds of the processor its quick tests may take, and the names of the slow ones.
+        # By room: how many seconds of the processor its quick tests may take, how many the slow ones, and their names.
         self.times = json.loads(TIMES.read_text()) if TIMES.exists() else {}
 
     def compile(self, name, lines, to):
@@ -171,7 +169,7 @@ class Bench:
         words = list(self.commands[str(COPY / name)])
         words[words.index("-o") + 1] = str(to)
         words[words.index("-c") + 1] = str(source)
-        return subprocess.run([*words, "-w", "-include-pch", str(HEADERS)], cwd=BUILD, stderr=subprocess.DEVNULL).returncode == 0
+        return subprocess.run([*words, "-w"], cwd=BUILD, stderr=subprocess.DEVNULL).returncode == 0
 
     def link_tests(self, name, compiled):
         """Links the tests of the source's room, those that are called like the source first: they see it soonest."""
@@ -186,14 +184,14 @@ class Bench:
         # Before the library: what it defines is not taken from there.
         subprocess.run([*words[:at], str(compiled), *chosen, *words[at:]], cwd=BUILD, check=True)
 
-    def run_tests(self, left_out, seconds):
-        """Runs the tests in so many seconds of the processor, with no more memory than a test needs: whether they
-        passed, and what they printed."""
+    def run_tests(self, chosen, seconds):
+        """Runs the tests of a filter in so many seconds of the processor, with no more memory than a test needs: whether
+        they passed, and what they printed."""
         def limit():
             resource.setrlimit(resource.RLIMIT_AS, (MOST_MEMORY, MOST_MEMORY))
             resource.setrlimit(resource.RLIMIT_CPU, (seconds, seconds))
 
-        command = [str(MUTANT / "tests"), "--gtest_fail_fast", "--gtest_filter=-" + ":".join([LONG, *left_out])]
+        command = [str(MUTANT / "tests"), "--gtest_fail_fast", "--gtest_filter=" + chosen]
         with open(MUTANT / "tests.log", "w+") as log:
             try:
                 code = subprocess.run(command, cwd=MUTANT, timeout=20 * seconds, stdout=log, stderr=log,
@@ -210,15 +208,15 @@ class Bench:
             sys.exit(f"The unbroken {name} does not compile.")
         self.link_tests(name, unbroken)
         before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime
-        passed, printed = self.run_tests([], 3600)
+        passed, printed = self.run_tests("*", 3600)
         processor = resource.getrusage(resource.RUSAGE_CHILDREN).ru_utime - before
         if not passed:
             sys.exit(f"The unbroken code fails its tests: {MUTANT / 'tests.log'}")
         took = {test: int(ms) for test, ms in re.findall(r"^\[ +OK \] (\S+)(?:, where .*)? \((\d+) ms\)$", printed, re.M)}
         whole = sum(took.values())
         slow = [test for test, ms in took.items() if ms > max(whole * QUICK, 20)]
-        quick = processor * (1 - sum(took[test] for test in slow) / whole)
-        self.times[room_of(name)] = [5 + int(3 * quick), slow]
+        part_of_slow = sum(took[test] for test in slow) / whole
+        self.times[room_of(name)] = [5 + int(3 * processor * part) for part in (1 - part_of_slow, part_of_slow)] + [slow]
         TIMES.write_text(json.dumps(self.times))
 
     def judge(self, mutant):
@@ -231,8 +229,10 @@ class Bench:
         if not self.compile(mutant.name, lines, MUTANT / "mutant.o"):
             return "no mutant"
         self.link_tests(mutant.name, MUTANT / "mutant.o")
-        seconds, slow = self.times[room]
-        return "lived" if self.run_tests(slow, seconds)[0] else "seen"
+        quick_seconds, slow_seconds, slow = self.times[room]
+        names = ":".join(slow)
+        lived = self.run_tests("-" + names, quick_seconds)[0] and (not slow or self.run_tests(names, slow_seconds)[0])
+        return "lived" if lived else "seen"
 
 
 def main():
