@@ -12,21 +12,31 @@ constexpr base::PixelSize kSmall{1024, 768};
 // The screen at another size for a scope. The display that the tests run on must offer it.
 class ScreenAt {
  public:
-  explicit ScreenAt(base::PixelSize size) {
-    DEVMODEW mode{};
-    mode.dmSize = sizeof(mode);
-    mode.dmFields = DM_PELSWIDTH | DM_PELSHEIGHT;
-    mode.dmPelsWidth = static_cast<DWORD>(size.width);
-    mode.dmPelsHeight = static_cast<DWORD>(size.height);
-    result_ = ChangeDisplaySettingsW(&mode, CDS_FULLSCREEN);
+  explicit ScreenAt(base::PixelSize size) : before_(e2e::ScreenSize()), result_(change(size)) {}
+  // On a busy machine a change may be lost: it is asked for until it has come.
+  ~ScreenAt() {
+    const auto isBack = [&] {
+      if (e2e::ScreenSize() != before_) change(before_);
+      return e2e::ScreenSize() == before_;
+    };
+    EXPECT_TRUE(e2e::WaitFor(isBack)) << "the screen stays at another size";
   }
-  ~ScreenAt() { ChangeDisplaySettingsW(nullptr, 0); }
   ScreenAt(const ScreenAt&) = delete;
   ScreenAt& operator=(const ScreenAt&) = delete;
 
   LONG result() const { return result_; }
 
  private:
+  static LONG change(base::PixelSize size) {
+    DEVMODEW mode{};
+    mode.dmSize = sizeof(mode);
+    mode.dmFields = DM_PELSWIDTH | DM_PELSHEIGHT;
+    mode.dmPelsWidth = static_cast<DWORD>(size.width);
+    mode.dmPelsHeight = static_cast<DWORD>(size.height);
+    return ChangeDisplaySettingsW(&mode, CDS_FULLSCREEN);
+  }
+
+  base::PixelSize before_;
   LONG result_;
 };
 

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "support/look_show.h"
+#include "support/noise.h"
 
 namespace saver {
 namespace {

@@ -65,6 +65,7 @@ TEST_F(DialogShowTest, TheSizeIsSeenInTheTabOfTheSize) {
   form.SSTab1.userSelectedTab(kSizeTab);
   machine.loop.runFor(100);
   EXPECT_EQ(columnsOf(form.liveSize, kRed), 173) << "45 % of the width";
+  EXPECT_TRUE(form.liveSize.frame()->isOpaque()) << "drawn without looking through it";
   form.PercentSlider.userSetValue(90);
   machine.loop.runFor(100);
   EXPECT_EQ(columnsOf(form.liveSize, kRed), 346);

@@ -202,6 +202,20 @@ TEST_F(Preview, AScreenOfFewerColorsIsNotALoss) {
   EXPECT_TRUE(startup::PreviewIsLost(window, 4711, image));
 }
 
+TEST_F(Preview, ALossOfAnyTwelfthIsALoss) {
+  for (int row = 0; row < 3; ++row) {
+    for (int column = 0; column < 4; ++column) {
+      window.content = base::Bitmap({320, 240}, 0xFF000000);
+      base::Bitmap shown = image;
+      for (int y = row * 40; y < row * 40 + 40; ++y) {
+        for (int x = column * 40; x < column * 40 + 40; ++x) shown.row(y)[x] ^= 0x00FFFFFFU;
+      }
+      base::CopyRect(window.content.view(), {0, 0}, shown, base::PixelRect::ofSize(shown.size()));
+      EXPECT_TRUE(startup::PreviewIsLost(window, 4711, image)) << column << ", " << row;
+    }
+  }
+}
+
 TEST(PuzzleForm, HoldsThePictureInItsOneBox) {
   const startup::PuzzleForm form(ColorfulImage());
   ASSERT_EQ(form.controls().size(), 1U);

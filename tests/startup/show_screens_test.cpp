@@ -60,9 +60,9 @@ TEST_F(CoverTest, APointerThatRestsOnACoverIsNobodysWhenAControlMoves) {
 TEST_F(CoverTest, AnArrangementOfTheScreensIsNoMoveOverACover) {
   start();
   covers.at(0)->onMouseMove({100, 100});
-  stage.screen.others = {{-800, -480, 800, 480}};
+  stage.screen.others = {{-800, -600, 800, 600}};
   window().onScreenChanged();
-  covers.at(0)->onMouseMove({260, 100});
+  covers.at(0)->onMouseMove({260, 220});
   EXPECT_FALSE(hasEnded());
 }
 

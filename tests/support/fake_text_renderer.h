@@ -1,7 +1,10 @@
 // Text of solid blocks: every character of 10 points is 6 pixels wide and 12 high, with a gap of one column.
 #pragma once
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <vector>
 
 #include "os/text_renderer.h"
 
@@ -20,14 +23,15 @@ class FakeTextRenderer : public os::TextRenderer {
     const base::PixelSize size = measure(font, text);
     os::TextMask mask{{size.width + 2 * reach, size.height}, reach, {}};
     const int cell = widthOf(font);
+    std::vector<os::TextCoverage> row;
+    for (int x = -reach; x < size.width + reach; ++x) {
+      const bool beyond = x < 0 || x >= size.width;
+      const bool inked = beyond || (x % cell != cell - 1 && text[static_cast<std::size_t>(x / cell)] != ' ');
+      const auto part = static_cast<std::uint8_t>(inked ? 255 : 0);
+      row.push_back({part, part});
+    }
     for (int y = 0; y < mask.size.height; ++y) {
-      for (int x = -reach; x < size.width + reach; ++x) {
-        const bool beyond = x < 0 || x >= size.width;
-        const bool inked =
-            beyond || (x % cell != cell - 1 && text[static_cast<std::size_t>(x / cell)] != ' ');
-        const auto part = static_cast<std::uint8_t>(inked ? 255 : 0);
-        mask.coverage.push_back({part, part});
-      }
+      mask.coverage.insert(mask.coverage.end(), row.begin(), row.end());
     }
     ++drawn;
     return mask;
