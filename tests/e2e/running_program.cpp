@@ -114,6 +114,8 @@ void PaintWindow(HWND window, COLORREF color) {
 
 base::Bitmap ReadScreen() { return support::PrimaryScreen(); }
 
+base::Bitmap ReadScreen(const base::PixelRect& part) { return os::ScreenWin().copyDesktop(part); }
+
 base::Pixel ScreenPixel(int x, int y) {
   const os::WindowDc screen(nullptr);
   const COLORREF color = GetPixel(screen.get(), x, y);

@@ -52,8 +52,9 @@ class RunningProgram {
 // Paints the whole inside of a window of this process, after everything that was waiting to be painted there.
 void PaintWindow(HWND window, COLORREF color);
 
-// What the primary screen shows now.
+// What the primary screen shows now, or a part of it, which is read sooner.
 base::Bitmap ReadScreen();
+base::Bitmap ReadScreen(const base::PixelRect& part);
 base::Pixel ScreenPixel(int x, int y);
 base::PixelSize ScreenSize();
 

@@ -57,12 +57,24 @@ TEST_F(CoverTest, APointerThatRestsOnACoverIsNobodysWhenAControlMoves) {
   EXPECT_TRUE(hasEnded());
 }
 
+TEST_F(CoverTest, APointerAboveThePrimaryScreenIsNobodysWhenAControlMoves) {
+  stage.screen.others = {{0, -480, 640, 480}};
+  stage.addPicture({100, 100}, kRed);
+  stage.addPicture({200, 100}, kRed);
+  start();
+  move(5, 5);
+  covers.at(0)->onMouseMove({600, 100});
+  stage.runFor(2000);
+  move(5, 5);
+  EXPECT_FALSE(hasEnded());
+}
+
 TEST_F(CoverTest, AnArrangementOfTheScreensIsNoMoveOverACover) {
   start();
   covers.at(0)->onMouseMove({100, 100});
-  stage.screen.others = {{-800, -600, 800, 600}};
+  stage.screen.others = {{-800, -480, 800, 480}};
   window().onScreenChanged();
-  covers.at(0)->onMouseMove({260, 220});
+  covers.at(0)->onMouseMove({260, 100});
   EXPECT_FALSE(hasEnded());
 }
 
