@@ -24,9 +24,7 @@ constexpr int kTransitionsTab = 5;
 int PixelsOf(HWND window, base::PackedColor color) {
   RECT place{};
   GetWindowRect(window, &place);
-  const base::Bitmap shown = e2e::ReadScreen({static_cast<int>(place.left), static_cast<int>(place.top),
-                                              static_cast<int>(place.right - place.left),
-                                              static_cast<int>(place.bottom - place.top)});
+  const base::Bitmap shown = e2e::ReadScreen(e2e::PixelRectOf(place));
   int count = 0;
   for (int y = 0; y < shown.size().height; ++y) {
     for (int x = 0; x < shown.size().width; ++x) count += shown.at(x, y) == base::OpaquePixel(color) ? 1 : 0;

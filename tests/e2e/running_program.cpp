@@ -112,6 +112,10 @@ void PaintWindow(HWND window, COLORREF color) {
   GdiFlush();
 }
 
+base::PixelRect PixelRectOf(const RECT& area) {
+  return {area.left, area.top, area.right - area.left, area.bottom - area.top};
+}
+
 base::Bitmap ReadScreen() { return support::PrimaryScreen(); }
 
 base::Bitmap ReadScreen(const base::PixelRect& part) { return os::ScreenWin().copyDesktop(part); }

@@ -52,6 +52,8 @@ class RunningProgram {
 // Paints the whole inside of a window of this process, after everything that was waiting to be painted there.
 void PaintWindow(HWND window, COLORREF color);
 
+base::PixelRect PixelRectOf(const RECT& area);
+
 // What the primary screen shows now, or a part of it, which is read sooner.
 base::Bitmap ReadScreen();
 base::Bitmap ReadScreen(const base::PixelRect& part);

@@ -23,19 +23,15 @@ struct Screens {
   std::vector<base::PixelRect> others;
 };
 
-base::PixelRect PixelRectOf(const RECT& area) {
-  return {area.left, area.top, area.right - area.left, area.bottom - area.top};
-}
-
 BOOL CALLBACK Collect(HMONITOR monitor, HDC, LPRECT area, LPARAM found) {
   auto& screens = *reinterpret_cast<Screens*>(found);
   MONITORINFO info{};
   info.cbSize = sizeof(info);
   GetMonitorInfoW(monitor, &info);
   if (info.dwFlags & MONITORINFOF_PRIMARY) {
-    screens.primary = PixelRectOf(*area);
+    screens.primary = e2e::PixelRectOf(*area);
   } else {
-    screens.others.push_back(PixelRectOf(*area));
+    screens.others.push_back(e2e::PixelRectOf(*area));
   }
   return TRUE;
 }
@@ -61,7 +57,7 @@ BOOL CALLBACK CollectShowWindow(HWND window, LPARAM found) {
   RECT place{};
   if (owner == windows.processId && std::wstring(name) == kShowClass && IsWindowVisible(window) &&
       GetWindowRect(window, &place)) {
-    windows.places.push_back(PixelRectOf(place));
+    windows.places.push_back(e2e::PixelRectOf(place));
   }
   return TRUE;
 }
