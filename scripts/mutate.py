@@ -5,7 +5,7 @@ Usage: mutate.py [--since REF] [--mutants N] [--seed N] [--list] [FILE[:LINE]|FO
 
 Without files it takes the portable sources that differ from REF: by default from where this branch left origin/main,
 or else from the last tag. Nothing here is touched: what is in the working tree, committed or not, is copied to
-out/mutants and built there once, by clang++ without optimising. A mutant is one source compiled from a folder of its own,
+out/mutants and built there once, by clang++, optimised a little. A mutant is one source compiled from a folder of its own,
 linked in place of the unbroken one with the tests of its room, and run, those that take long last. A mutant that does
 not compile does not count; one that takes three times as long as the unbroken code is seen. Headers are left out, since
 many sources would have to be compiled for each.
@@ -145,7 +145,7 @@ def copy_tree():
 def build_copy():
     linker = ["-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld"] if shutil.which("ld.lld") else []
     with open(MUTANT / "build.log", "w") as log:
-        for command in (["cmake", "--preset", "lint", *linker], ["cmake", "--build", str(BUILD), "--target", "lumora_tests"]):
+        for command in (["cmake", "--preset", "lint", "-DCMAKE_CXX_FLAGS_DEBUG=-O1", *linker], ["cmake", "--build", str(BUILD), "--target", "lumora_tests"]):
             if subprocess.run(command, cwd=COPY, stdout=log, stderr=subprocess.STDOUT).returncode != 0:
                 sys.exit(f"The unbroken code does not build: {MUTANT / 'build.log'}")
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace base {
 
@@ -27,17 +28,46 @@ Pixel TimesAlpha(Pixel twoChannels, Pixel alpha) {
 
 }  // namespace
 
-Bitmap::Bitmap(PixelSize size, Pixel fill)
-    : size_(size.isEmpty() ? PixelSize{} : size),
-      pixels_(PixelCount(size), fill),
-      opaque_(fill >> 24 == 0xFF) {}
+Bitmap::Bitmap(PixelSize size, Pixel fill) : Bitmap(unfilled(size)) {
+  std::fill_n(pixels_.get(), PixelCount(size_), fill);
+  opaque_ = fill >> 24 == 0xFF;
+}
+
+Bitmap::Bitmap(const Bitmap& other) : Bitmap(unfilled(other.size_)) {
+  std::copy_n(other.pixels_.get(), PixelCount(size_), pixels_.get());
+  opaque_ = other.opaque_;
+}
+
+Bitmap::Bitmap(Bitmap&& other) noexcept
+    : size_(std::exchange(other.size_, {})),
+      pixels_(std::move(other.pixels_)),
+      opaque_(std::exchange(other.opaque_, false)) {}
+
+Bitmap& Bitmap::operator=(const Bitmap& other) {
+  if (size_ != other.size_) return *this = Bitmap(other);
+  if (this != &other) std::copy_n(other.pixels_.get(), PixelCount(size_), pixels_.get());
+  opaque_ = other.opaque_;
+  return *this;
+}
+
+Bitmap& Bitmap::operator=(Bitmap&& other) noexcept {
+  size_ = std::exchange(other.size_, {});
+  pixels_ = std::move(other.pixels_);
+  opaque_ = std::exchange(other.opaque_, false);
+  return *this;
+}
 
 Bitmap Bitmap::unfilled(PixelSize size) {
   Bitmap bitmap;
   if (size.isEmpty()) return bitmap;
   bitmap.size_ = size;
-  bitmap.pixels_.resize(PixelCount(size));
+  bitmap.pixels_ = std::make_unique_for_overwrite<Pixel[]>(PixelCount(size));
   return bitmap;
+}
+
+bool Bitmap::operator==(const Bitmap& other) const {
+  return size_ == other.size_ &&
+         std::equal(pixels_.get(), pixels_.get() + PixelCount(size_), other.pixels_.get());
 }
 
 void FillRect(BitmapView target, PixelRect area, Pixel pixel) {

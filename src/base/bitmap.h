@@ -4,10 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <new>
 #include <span>
-#include <utility>
-#include <vector>
 
 #include "base/color.h"
 #include "base/geometry.h"
@@ -32,48 +29,37 @@ struct BitmapView {
   Pixel* row(int y) const { return pixels + y * stride; }
 };
 
-// Gives memory as it is found, where no value is asked for.
-template <typename T>
-struct UnfilledAllocator : std::allocator<T> {
-  template <typename U>
-  struct rebind {
-    using other = UnfilledAllocator<U>;
-  };
-  template <typename U>
-  void construct(U* place) noexcept {
-    ::new (static_cast<void*>(place)) U;
-  }
-  template <typename U, typename... Values>
-  void construct(U* place, Values&&... values) {
-    std::construct_at(place, std::forward<Values>(values)...);
-  }
-};
-
 // Pixels of its own. A new bitmap is transparent.
 class Bitmap {
  public:
   Bitmap() = default;
   explicit Bitmap(PixelSize size, Pixel fill = kTransparent);
+  Bitmap(const Bitmap& other);
+  Bitmap(Bitmap&& other) noexcept;  // leaves an empty one
+  Bitmap& operator=(const Bitmap& other);
+  Bitmap& operator=(Bitmap&& other) noexcept;
+  ~Bitmap() = default;
 
   // For a bitmap whose every pixel is written before any is read.
   static Bitmap unfilled(PixelSize size);
 
   PixelSize size() const { return size_; }
   bool isEmpty() const { return size_.isEmpty(); }
-  const Pixel* row(int y) const { return pixels_.data() + static_cast<std::ptrdiff_t>(y) * size_.width; }
-  Pixel* row(int y) { return pixels_.data() + static_cast<std::ptrdiff_t>(y) * size_.width; }
+  const Pixel* row(int y) const { return pixels_.get() + static_cast<std::ptrdiff_t>(y) * size_.width; }
+  Pixel* row(int y) { return pixels_.get() + static_cast<std::ptrdiff_t>(y) * size_.width; }
   Pixel at(int x, int y) const { return row(y)[x]; }
-  BitmapView view() { return {pixels_.data(), size_, size_.width}; }
+  BitmapView view() { return {pixels_.get(), size_, size_.width}; }
 
   // True when the maker knows that every pixel is opaque; drawing then copies instead of blending.
   bool isOpaque() const { return opaque_; }
   void setOpaque(bool opaque) { opaque_ = opaque; }
 
-  bool operator==(const Bitmap& other) const { return size_ == other.size_ && pixels_ == other.pixels_; }
+  // Whether size and pixels are the same.
+  bool operator==(const Bitmap& other) const;
 
  private:
   PixelSize size_;
-  std::vector<Pixel, UnfilledAllocator<Pixel>> pixels_;
+  std::unique_ptr<Pixel[]> pixels_;
   bool opaque_ = false;
 };
 
