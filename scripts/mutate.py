@@ -145,7 +145,8 @@ def copy_tree():
 def build_copy():
     linker = ["-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld"] if shutil.which("ld.lld") else []
     with open(MUTANT / "build.log", "w") as log:
-        for command in (["cmake", "--preset", "lint", "-DCMAKE_CXX_FLAGS_DEBUG=-O1", *linker], ["cmake", "--build", str(BUILD), "--target", "lumora_tests"]):
+        configure = ["cmake", "--preset", "lint", "-DCMAKE_CXX_FLAGS_DEBUG=-O1", *linker]
+        for command in (configure, ["cmake", "--build", str(BUILD), "--target", "lumora_tests"]):
             if subprocess.run(command, cwd=COPY, stdout=log, stderr=subprocess.STDOUT).returncode != 0:
                 sys.exit(f"The unbroken code does not build: {MUTANT / 'build.log'}")
 

@@ -7,14 +7,16 @@ source "$root/scripts/manifests.sh"
 mkdir -p "$root/out"
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
+sound=$folder/sound faulty=$folder/faulty
+mkdir "$sound"
 place=https://packages.lumora.example/1.2.3
 passed=0 failed=0
 
 make_all() {
   local name
-  for name in $(package_names 1.2.3); do printf 'the bytes of %s' "$name" >"$folder/$name"; done
-  write_sums "$folder" 1.2.3
-  make_manifests "$folder" 1.2.3 "$place"
+  for name in $(package_names 1.2.3); do printf 'the bytes of %s' "$name" >"$sound/$name"; done
+  write_sums "$sound" 1.2.3
+  make_manifests "$sound" 1.2.3 "$place"
 }
 
 verdict() {
@@ -31,9 +33,10 @@ verdict() {
 # $1: name of the fault, $2: file, $3: the sed command that makes it.
 refuses() {
   local refused=no
-  make_all
-  sed -i "$3" "$folder/$2"
-  "$root/tests/checks/check_manifests.py" "$folder" 1.2.3 "$place" >/dev/null || refused=yes
+  rm -rf "$faulty"
+  cp -r "$sound" "$faulty"
+  sed -i "$3" "$faulty/$2"
+  "$root/tests/checks/check_manifests.py" "$faulty" 1.2.3 "$place" >/dev/null || refused=yes
   verdict "$refused" yes "Refuses$1"
 }
 

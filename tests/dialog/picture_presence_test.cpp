@@ -79,6 +79,9 @@ TEST_F(PicturePresenceTest, AShareThatDoesNotAnswerHoldsUpNoOther) {
   loop.runFor(1000);
   EXPECT_TRUE(presence->isMissing("\\\\away\\photos\\a.gif"));
   EXPECT_TRUE(presence->isMissing("\\\\away\\photos\\999.gif")) << "what waited is looked for then";
+  EXPECT_FALSE(presence->isMissing("\\\\away\\photos\\100.gif")) << "it has waited too long";
+  loop.runFor(1000);
+  EXPECT_TRUE(presence->isMissing("\\\\away\\photos\\100.gif")) << "in sight again it is looked for anew";
 }
 
 TEST_F(PicturePresenceTest, NoMoreThreadsAreMadeThanAllowed) {

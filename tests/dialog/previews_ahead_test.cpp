@@ -49,6 +49,16 @@ TEST_F(PreviewsAhead, ARowThatWasPassedIsDropped) {
   EXPECT_TRUE(dialog.form.photo1.picture());
 }
 
+TEST_F(PreviewsAhead, APictureThatIsTakenFromTheListMeanwhileIsNotShown) {
+  loadingTakes(300);
+  SettingsDialog& dialog = open();
+  machine.loop.runFor(100);
+  machine.dialogs.answers.push_back(forms::Answer::Yes);
+  dialog.form.RemoveAll.userClicked();
+  machine.loop.runFor(2000);
+  EXPECT_FALSE(dialog.form.photo1.picture());
+}
+
 TEST_F(PreviewsAhead, APictureThatCannotBeLoadedIsToldWhenThatIsKnown) {
   machine.setPictures({{"C:\\a.jpg", ""}});
   machine.pictures.addBroken("C:\\a.jpg", {8, 6});

@@ -133,6 +133,10 @@ TEST_F(Form1Care, WordsAreDarkTenMinutesAfterTheyCameAndOthersAreBrightAtOnce) {
   show.runFor(2000);
   EXPECT_FALSE(caption().isEmpty()) << "the next one";
   EXPECT_TRUE(caption(dimmed).isEmpty());
+  pass(8);
+  EXPECT_FALSE(caption().isEmpty()) << "it has ten minutes of its own";
+  pass(3);
+  EXPECT_FALSE(caption(dimmed).isEmpty());
 }
 
 TEST_F(Form1Care, DarkWordsStayAsTheyAre) {

@@ -45,6 +45,7 @@ TEST_F(ScreensOfTwoShapes, TakeTheNextPicturesOfTheirShape) {
     run.stage.runFor(1400);
     EXPECT_EQ(run.stage.screenAt(512, 384), base::OpaquePixel(kGreen));
     EXPECT_EQ(run.covers.at(0)->screen.at(300, 450), base::OpaquePixel(kYellow));
+    EXPECT_EQ(run.stage.workers.jobs > 0, *ahead == '1') << "who waits for a shape needs nobody to read it";
   }
 }
 

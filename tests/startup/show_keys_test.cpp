@@ -199,6 +199,17 @@ TEST_F(ShowKeys, AHeldKeyDoesNotPileUpBehindSlowPictures) {
   EXPECT_LE(shown(), last + 1);
 }
 
+TEST_F(ShowKeys, BehindPicturesThatCameAgainTheNextOneIsMadeReadyAsEver) {
+  stage.set("extras/loadAhead", "1");
+  begin(4);
+  EXPECT_EQ(shownBy({kRight, kLeft, kRight}), (std::vector<int>{1, 0, 1}));
+  stage.runFor(500);
+  stage.workers.delayMs = [] { return std::optional(5000); };
+  const std::int64_t pressed = stage.clock.tickMs();
+  EXPECT_EQ(shownBy({kRight}), std::vector<int>{2});
+  EXPECT_LT(stage.clock.tickMs(), pressed + 5000) << "nobody waited for it";
+}
+
 TEST_F(ShowKeys, EndTheShowForThePicturesFolder) {
   for (const int keyCode : {static_cast<int>('O'), kEnter}) {
     KeyedShow other;
