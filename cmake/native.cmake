@@ -6,7 +6,8 @@ if(LUMORA_TESTS)
   target_compile_options(lumora_core PRIVATE ${inline_small})
   target_compile_options(lumora_support PRIVATE ${inline_small})
 
-  add_executable(lumora_tests ${test_sources})
+  # What several files have alike is linked from the first of them: from the code under test, which is optimised.
+  add_executable(lumora_tests $<TARGET_OBJECTS:lumora_core> $<TARGET_OBJECTS:lumora_support> ${test_sources})
   target_link_libraries(lumora_tests PRIVATE lumora_support gtest_main)
   # The code under test has both sanitizers; the tests themselves are compiled quickly.
   target_compile_options(lumora_tests PRIVATE -O0 -fno-sanitize=undefined)

@@ -179,11 +179,11 @@ class Bench:
         tests = [word for word in self.link if "/lumora_tests.dir/tests/" in word]
         chosen = sorted((test for test in tests if folder in test),
                         key=lambda test: not pathlib.Path(test).name.startswith(stem))
-        words = [word for word in self.link if word not in tests]
+        unbroken = f"/lumora_core.dir/{name}.o"
+        words = [str(compiled) if word.endswith(unbroken) else word for word in self.link if word not in tests]
         at = words.index("-o")
         words[at + 1] = str(MUTANT / "tests")
-        # Before the library: what it defines is not taken from there.
-        subprocess.run([*words[:at], str(compiled), *chosen, *words[at:]], cwd=BUILD, check=True)
+        subprocess.run([*words[:at], *chosen, *words[at:]], cwd=BUILD, check=True)
 
     def run_tests(self, chosen, seconds):
         """Runs the tests of a filter in so many seconds of the processor, with no more memory than a test needs: whether

@@ -11,6 +11,8 @@
 
 namespace {
 
+constexpr base::Pixel kGrey = base::OpaquePixel(base::Rgb(90, 90, 90));
+
 // A top-level window of this process that plays the control panel's little monitor, grey inside.
 class Monitor {
  public:
@@ -20,7 +22,7 @@ class Monitor {
         size_(size) {
     e2e::WaitFor([this] {
       repaint();
-      return look() == base::Bitmap(size_, 0xFF5A5A5AU);
+      return look() == base::Bitmap(size_, kGrey);
     });
   }
 
@@ -33,6 +35,22 @@ class Monitor {
     base::Bitmap cut(size_);
     base::CopyRect(cut.view(), {0, 0}, e2e::ReadScreen(), {100, 100, size_.width, size_.height});
     return cut;
+  }
+
+  // For who reads that it does not look as it should.
+  std::string told(const base::Bitmap& expected) const {
+    const base::Bitmap shown = look();
+    int right = 0;
+    int grey = 0;
+    for (int y = 0; y < size_.height; ++y) {
+      for (int x = 0; x < size_.width; ++x) {
+        right += shown.at(x, y) == expected.at(x, y) ? 1 : 0;
+        grey += shown.at(x, y) == kGrey ? 1 : 0;
+      }
+    }
+    return "of " + std::to_string(size_.width * size_.height) + " pixels " + std::to_string(right) +
+           " are right, " + std::to_string(grey) + " as before; the first is " +
+           std::to_string(shown.at(0, 0));
   }
 
  private:
@@ -48,7 +66,7 @@ base::Bitmap CarriedPicture() {
 }
 
 base::Bitmap Expected(base::PixelSize size) {
-  base::Bitmap picture(size, 0xFF5A5A5AU);
+  base::Bitmap picture(size, kGrey);
   base::CopyRect(picture.view(), {0, 0}, CarriedPicture(), {0, 0, 160, 120});
   return picture;
 }
@@ -60,7 +78,12 @@ TEST(Preview, IsDrawnOnceIntoTheGivenWindowAndEnds) {
   e2e::RunningProgram preview(folder.program(), L"/p " + monitor.handle());
   EXPECT_TRUE(preview.waitForEnd());
   EXPECT_EQ(preview.exitCode(), 0U);
-  EXPECT_TRUE(e2e::WaitFor([&] { return monitor.look() == Expected({160, 120}); }, 3000));
+  EXPECT_TRUE(e2e::WaitFor(
+      [&] {
+        return monitor.look() == Expected({160, 120});
+      },
+      3000))
+      << monitor.told(Expected({160, 120}));
 }
 
 TEST(Preview, ThePreviewWritesNothingNotEvenOnTheFirstRun) {
@@ -79,7 +102,12 @@ TEST(Preview, ALargerWindowShowsThePictureInItsTopLeftCornerOnly) {
   Monitor monitor({320, 240});
   e2e::RunningProgram preview(folder.program(), L"/P:" + monitor.handle());
   EXPECT_TRUE(preview.waitForEnd());
-  EXPECT_TRUE(e2e::WaitFor([&] { return monitor.look() == Expected({320, 240}); }, 3000));
+  EXPECT_TRUE(e2e::WaitFor(
+      [&] {
+        return monitor.look() == Expected({320, 240});
+      },
+      3000))
+      << monitor.told(Expected({320, 240}));
 }
 
 TEST(Preview, AHandleThatIsNoWindowEndsQuietlyWithoutDrawing) {
