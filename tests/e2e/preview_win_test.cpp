@@ -31,14 +31,11 @@ class Monitor {
 
   std::wstring handle() const { return std::to_wstring(reinterpret_cast<std::uintptr_t>(window_.get())); }
 
-  base::Bitmap look() const {
-    base::Bitmap cut(size_);
-    base::CopyRect(cut.view(), {0, 0}, e2e::ReadScreen(), {100, 100, size_.width, size_.height});
-    return cut;
-  }
+  base::Bitmap look() const { return e2e::ReadScreen({100, 100, size_.width, size_.height}); }
 
-  // For who reads that it does not look as it should.
-  std::string told(const base::Bitmap& expected) const {
+  // Whether it comes to look so. If not, how much of it does, how much is as before, and its first pixel.
+  testing::AssertionResult comesToShow(const base::Bitmap& expected, int limitMs) const {
+    if (e2e::WaitFor([&] { return look() == expected; }, limitMs)) return testing::AssertionSuccess();
     const base::Bitmap shown = look();
     int right = 0;
     int grey = 0;
@@ -48,9 +45,9 @@ class Monitor {
         grey += shown.at(x, y) == kGrey ? 1 : 0;
       }
     }
-    return "of " + std::to_string(size_.width * size_.height) + " pixels " + std::to_string(right) +
-           " are right, " + std::to_string(grey) + " as before; the first is " +
-           std::to_string(shown.at(0, 0));
+    return testing::AssertionFailure()
+           << "of " << size_.width * size_.height << " pixels " << right << " are right, " << grey
+           << " as before; the first is " << shown.at(0, 0);
   }
 
  private:
@@ -78,12 +75,7 @@ TEST(Preview, IsDrawnOnceIntoTheGivenWindowAndEnds) {
   e2e::RunningProgram preview(folder.program(), L"/p " + monitor.handle());
   EXPECT_TRUE(preview.waitForEnd());
   EXPECT_EQ(preview.exitCode(), 0U);
-  EXPECT_TRUE(e2e::WaitFor(
-      [&] {
-        return monitor.look() == Expected({160, 120});
-      },
-      3000))
-      << monitor.told(Expected({160, 120}));
+  EXPECT_TRUE(monitor.comesToShow(Expected({160, 120}), 3000));
 }
 
 TEST(Preview, ThePreviewWritesNothingNotEvenOnTheFirstRun) {
@@ -102,12 +94,7 @@ TEST(Preview, ALargerWindowShowsThePictureInItsTopLeftCornerOnly) {
   Monitor monitor({320, 240});
   e2e::RunningProgram preview(folder.program(), L"/P:" + monitor.handle());
   EXPECT_TRUE(preview.waitForEnd());
-  EXPECT_TRUE(e2e::WaitFor(
-      [&] {
-        return monitor.look() == Expected({320, 240});
-      },
-      3000))
-      << monitor.told(Expected({320, 240}));
+  EXPECT_TRUE(monitor.comesToShow(Expected({320, 240}), 3000));
 }
 
 TEST(Preview, AHandleThatIsNoWindowEndsQuietlyWithoutDrawing) {
@@ -126,9 +113,10 @@ TEST(Preview, ALivePreviewIsDrawnAgainWhenItWasLostAndEndsWithItsWindow) {
   folder.writeSettings();
   auto monitor = std::make_unique<Monitor>(base::PixelSize{160, 120});
   e2e::RunningProgram preview(folder.program(), L"/p " + monitor->handle());
-  ASSERT_TRUE(e2e::WaitFor([&] { return monitor->look() == Expected({160, 120}); }));
+  const base::Bitmap expected = Expected({160, 120});
+  ASSERT_TRUE(monitor->comesToShow(expected, 15000));
   monitor->repaint();
-  EXPECT_TRUE(e2e::WaitFor([&] { return monitor->look() == Expected({160, 120}); }));
+  EXPECT_TRUE(monitor->comesToShow(expected, 15000));
   EXPECT_TRUE(preview.isRunning());
   monitor.reset();
   EXPECT_TRUE(preview.waitForEnd());
