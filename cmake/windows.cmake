@@ -84,7 +84,7 @@ if(LUMORA_TESTS)
 
   file(GLOB bench_sources CONFIGURE_DEPENDS tests/bench/*.cpp)
   add_executable(lumora_bench EXCLUDE_FROM_ALL ${bench_sources} tests/e2e/dialog_hands.cpp
-                 tests/e2e/keyboard.cpp tests/e2e/program_folder.cpp tests/e2e/running_program.cpp tests/support/win_tests.rc)
+                 tests/e2e/keyboard.cpp tests/e2e/pointer.cpp tests/e2e/program_folder.cpp tests/e2e/running_program.cpp tests/support/win_tests.rc)
   target_link_libraries(lumora_bench PRIVATE lumora_win_support ntdll)
   target_link_options(lumora_bench PRIVATE -static)
 
@@ -98,7 +98,7 @@ if(LUMORA_TESTS)
 
   file(GLOB package_test_sources CONFIGURE_DEPENDS tests/package/*.cpp)
   add_executable(lumora_package_tests ${package_test_sources} tests/e2e/dialog_hands.cpp
-                 tests/e2e/keyboard.cpp tests/e2e/running_program.cpp)
+                 tests/e2e/keyboard.cpp tests/e2e/pointer.cpp tests/e2e/running_program.cpp)
   target_link_libraries(lumora_package_tests PRIVATE lumora_win_support gtest version)
   target_compile_options(lumora_package_tests PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-O0>)
   reuse_precompiled(lumora_package_tests lumora_win_tests)

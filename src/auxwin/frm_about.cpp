@@ -2,15 +2,11 @@
 
 #include <utility>
 
+#include "auxwin/layout_pixels.h"
+
 namespace auxwin {
 
 namespace {
-
-constexpr float kTwips = 15;  // of one pixel of the layout
-
-void Place(forms::Control& control, float left, float top, float width, float height) {
-  control.move(left * kTwips, top * kTwips, width * kTwips, height * kTwips);
-}
 
 constexpr char kAbout[] =
     "Lumora turns an idle screen into a show of your own pictures: over a background of your choice, with "

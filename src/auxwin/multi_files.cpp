@@ -4,18 +4,13 @@
 #include <limits>
 #include <utility>
 
+#include "auxwin/layout_pixels.h"
 #include "base/number_text.h"
 #include "os/paths.h"
 
 namespace auxwin {
 
 namespace {
-
-constexpr float kTwips = 15;  // of one pixel of the layout
-
-void Place(forms::Control& control, float left, float top, float width, float height) {
-  control.move(left * kTwips, top * kTwips, width * kTwips, height * kTwips);
-}
 
 constexpr int kProgressMs = 200;
 constexpr std::size_t kPathsAtATime = 250;  // between two looks at the events

@@ -86,6 +86,14 @@ void CopyRect(BitmapView target, PixelPoint to, const Bitmap& source, PixelRect 
   }
 }
 
+Bitmap Cropped(const Bitmap& picture, PixelRect part) {
+  const bool isInside = part.intersected(PixelRect::ofSize(picture.size())) == part;
+  Bitmap cropped = isInside ? Bitmap::unfilled(part.size()) : Bitmap(part.size());
+  CopyRect(cropped.view(), {0, 0}, picture, part);
+  cropped.setOpaque(isInside && picture.isOpaque());
+  return cropped;
+}
+
 void CopyRects(BitmapView target, PixelPoint at, const Bitmap& source, std::span<const PixelRect> areas) {
   while (!areas.empty()) {
     const PixelRect& first = areas.front();

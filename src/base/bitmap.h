@@ -71,6 +71,9 @@ void FillRect(BitmapView target, PixelRect area, Pixel pixel);
 // Puts source pixels `from` at `to` of the target, replacing what was there (alpha too). Cut to both.
 void CopyRect(BitmapView target, PixelPoint to, const Bitmap& source, PixelRect from);
 
+// That part of a picture; where it reaches beyond the picture it is transparent.
+Bitmap Cropped(const Bitmap& picture, PixelRect part);
+
 // Puts the pixels that a source whose top left corner lies at `at` of the target has in `areas` of the target
 // there. The areas lie inside both. Strips side by side are copied row by row.
 void CopyRects(BitmapView target, PixelPoint at, const Bitmap& source, std::span<const PixelRect> areas);

@@ -34,10 +34,7 @@ base::SharedBitmap Picture::drawnPart(const base::PixelRect& part) const {
   base::SharedBitmap whole = drawnAt(size());
   if (!whole || part == base::PixelRect::ofSize(whole->size())) return whole;
   try {
-    auto cut = std::make_shared<base::Bitmap>(part.size());
-    base::CopyRect(cut->view(), {0, 0}, *whole, part);
-    cut->setOpaque(whole->isOpaque());
-    return cut;
+    return std::make_shared<base::Bitmap>(base::Cropped(*whole, part));
   } catch (const std::bad_alloc&) {
     return nullptr;  // too large for this machine at this moment
   }

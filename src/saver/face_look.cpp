@@ -12,11 +12,8 @@ namespace saver {
 
 namespace {
 
-base::SharedBitmap Cropped(const base::Bitmap& picture, const base::PixelRect& area) {
-  auto part = std::make_shared<base::Bitmap>(base::Bitmap::unfilled(area.size()));
-  base::CopyRect(part->view(), {0, 0}, picture, area);
-  part->setOpaque(picture.isOpaque());
-  return part;
+pictures::SharedPicture PictureOf(const base::Bitmap& screen, const base::PixelRect& area) {
+  return pictures::MakePicture(std::make_shared<base::Bitmap>(base::Cropped(screen, area)));
 }
 
 }  // namespace
@@ -61,14 +58,14 @@ void Face::freezeAndBringPicture() {
 void Face::beginDirectEffect() {
   brought_ = IntialPicture.picture();
   placeBehindEffect_ = {DisplayingPicture.left(), DisplayingPicture.top()};
-  const base::SharedBitmap to = Cropped(face_.stage.withoutTexts(), changingArea_);
+  const pictures::SharedPicture to = PictureOf(face_.stage.withoutTexts(), changingArea_);
   const auto perPixel = static_cast<float>(twipsPerPixel());
   DisplayingPicture.move(static_cast<float>(changingArea_.left) * perPixel,
                          static_cast<float>(changingArea_.top) * perPixel,
                          static_cast<float>(changingArea_.width) * perPixel,
                          static_cast<float>(changingArea_.height) * perPixel);
-  DisplayingPicture.setPicture(pictures::MakePicture(Cropped(look_.frozen(), changingArea_)));
-  IntialPicture.setPicture(pictures::MakePicture(to));
+  DisplayingPicture.setPicture(PictureOf(look_.frozen(), changingArea_));
+  IntialPicture.setPicture(to);
   look_.showScreen();
 }
 

@@ -61,9 +61,8 @@ class ComposedAhead final : public pictures::Picture {
 
   base::SharedBitmap drawnAt(base::PixelSize size) const override {
     const base::PixelPoint at = InMiddleOf(area_->size(), drawn_);
-    auto picture = std::make_shared<base::Bitmap>(base::Bitmap::unfilled(drawn_));
-    base::CopyRect(picture->view(), {0, 0}, *area_, {at.x, at.y, drawn_.width, drawn_.height});
-    picture->setOpaque(area_->isOpaque());
+    auto picture =
+        std::make_shared<base::Bitmap>(base::Cropped(*area_, {at.x, at.y, drawn_.width, drawn_.height}));
     return pictures::MakePicture(std::move(picture))->drawnAt(size);
   }
 

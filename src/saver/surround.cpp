@@ -31,13 +31,6 @@ base::PixelRect CoveringPart(base::PixelSize picture, base::PixelSize screen) {
   return {(picture.width - part.width) / 2, (picture.height - part.height) / 2, part.width, part.height};
 }
 
-base::Bitmap Cropped(const base::Bitmap& picture, const base::PixelRect& part) {
-  base::Bitmap cropped = base::Bitmap::unfilled(part.size());
-  base::CopyRect(cropped.view(), {0, 0}, picture, part);
-  cropped.setOpaque(picture.isOpaque());
-  return cropped;
-}
-
 // Alpha stays.
 void Darken(base::Bitmap& picture) {
   for (int y = 0; y < picture.size().height; ++y) {
@@ -58,7 +51,7 @@ bool AsksForBlurredSurround(std::string_view text) { return base::EqualAsciiBlin
 
 base::Bitmap MakeSurround(const base::Bitmap& picture, base::PixelSize screen) {
   const base::PixelSize small{std::max(1, screen.width / kSmaller), std::max(1, screen.height / kSmaller)};
-  base::Bitmap surround = base::Resample(Cropped(picture, CoveringPart(picture.size(), screen)), small);
+  base::Bitmap surround = base::Resample(base::Cropped(picture, CoveringPart(picture.size(), screen)), small);
   base::Blur(surround, kBlurRadius);
   Darken(surround);
   return base::Resample(surround, screen);

@@ -6,19 +6,17 @@ namespace startup {
 
 namespace {
 
-// The counter starts near 0. A system that refuses to move it must not keep the show from coming or going.
-constexpr int kMostCalls = 1000;
 constexpr int kBeyondCorner = 12;
 
 }  // namespace
 
 void HideCursor(os::Desktop& desktop) {
-  for (int calls = 0; calls < kMostCalls && desktop.showCursor(false) >= -5; ++calls) {
+  for (int calls = 0; calls < kMostCursorCalls && desktop.showCursor(false) >= -5; ++calls) {
   }
 }
 
 void ShowCursor(os::Desktop& desktop) {
-  for (int calls = 0; calls < kMostCalls && desktop.showCursor(true) <= 5; ++calls) {
+  for (int calls = 0; calls < kMostCursorCalls && desktop.showCursor(true) <= 5; ++calls) {
   }
 }
 

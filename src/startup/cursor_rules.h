@@ -6,6 +6,10 @@
 
 namespace startup {
 
+// Of the display counter, which starts near 0. A system that refuses to move it must not keep the show from
+// coming or going.
+inline constexpr int kMostCursorCalls = 1000;
+
 // Takes the display counter down until it is below -5.
 void HideCursor(os::Desktop& desktop);
 

@@ -1,18 +1,14 @@
 #include "startup/system_restore.h"
 
+#include "startup/cursor_rules.h"
+
 namespace startup {
-
-namespace {
-
-constexpr int kMostCalls = 1000;  // for a system that refuses to move the counter
-
-}  // namespace
 
 void SystemRestore::restore() noexcept {
   if (running_.exchange(false)) desktop_.setScreenSaverRunning(false);
   restoreTaskbar();
   int counter = cursorCounter_.exchange(0);
-  for (int calls = 0; counter < 0 && calls < kMostCalls; ++calls) counter = desktop_.showCursor(true);
+  for (int calls = 0; counter < 0 && calls < kMostCursorCalls; ++calls) counter = desktop_.showCursor(true);
 }
 
 void SystemRestore::restoreTaskbar() {

@@ -83,9 +83,7 @@ TEST_F(ImageViewTest, ASmallerOneStandsInTheMiddle) {
 TEST_F(ImageViewTest, APictureThatCannotBeLoadedIsReported) {
   List1.setListIndex(1);
   windows.show(view);
-  EXPECT_EQ(dialogs.messages,
-            (std::vector<support::FakeDialogs::Message>{
-                {"Cannot load image file properly.\r\nYou need to reload a new one.", 48}}));
+  EXPECT_EQ(dialogs.messages, std::vector{support::kCannotLoadImage});
   EXPECT_EQ(windows.unloaded, std::vector<std::string>{"ImageView"}) << "nothing is left to look at";
 }
 

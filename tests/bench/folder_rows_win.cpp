@@ -19,28 +19,27 @@
 #include "os/folder_reader_win.h"
 #include "os/utf16_win.h"
 #include "saver/picture_order.h"
+#include "support/colors.h"
 #include "support/temporary_folder_win.h"
 
 namespace bench {
 
 namespace {
 
+using support::kRedPixel;
+
 constexpr int kMany = 30'000;
 constexpr int kInOneFolder =
     3'000;  // where names do not depend on their case, each new one looks at all others
 constexpr int kFolders = 60;
-constexpr base::Pixel kRed = 0xFFFF0000U;
-
-void MakeFile(const std::string& path) {
-  CloseHandle(CreateFileW(os::ToWide(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
-}
 
 // Empty files with the names of photos, in so many folders below `root`.
 void MakeTree(const std::string& root, int files, int folders) {
   for (int folder = 0; folder < folders; ++folder) {
     const std::string path = root + "\\Holidays " + std::to_string(1980 + folder);
     CreateDirectoryW(os::ToWide(path).c_str(), nullptr);
-    for (int i = 0; i < files / folders; ++i) MakeFile(path + "\\IMG_" + std::to_string(10'000 + i) + ".jpg");
+    for (int i = 0; i < files / folders; ++i)
+      support::WriteFileAt(path + "\\IMG_" + std::to_string(10'000 + i) + ".jpg");
   }
 }
 
@@ -86,10 +85,7 @@ class FollowingShow {
 
   // From the start of the process to the picture on the screen.
   double firstPictureMs() const {
-    const auto isRed = [] {
-      const base::PixelSize screen = e2e::ScreenSize();
-      return e2e::ScreenPixel(screen.width / 2, screen.height / 2) == kRed;
-    };
+    const auto isRed = [] { return e2e::MiddlePixel() == kRedPixel; };
     const double start = NowMs();
     e2e::RunningProgram show(folder_.program(), L"/S");
     e2e::WaitFor(isRed, 60'000);

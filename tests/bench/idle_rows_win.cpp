@@ -25,8 +25,7 @@ constexpr double kReadingErrorMs = 2 * kProcessorStepMs;  // of two programs
 // Processor time of a program while it idles behind its window.
 double IdleMs(const std::wstring& program, const std::wstring& arguments, base::Pixel sign) {
   e2e::RunningProgram process(program, arguments);
-  const base::PixelSize screen = e2e::ScreenSize();
-  e2e::WaitFor([&] { return e2e::ScreenPixel(screen.width / 2, screen.height / 2) == sign; });
+  e2e::WaitFor([&] { return e2e::MiddlePixel() == sign; });
   // Out of the way of what the program has begun.
   const ULONGLONG settled = GetTickCount64() + 1000;
   e2e::WaitFor([&] { return GetTickCount64() >= settled; });

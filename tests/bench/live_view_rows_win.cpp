@@ -6,6 +6,7 @@
 #include "bench/rows.h"
 #include "e2e/dialog_hands.h"
 #include "e2e/keyboard.h"
+#include "e2e/pointer.h"
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
 

@@ -19,6 +19,7 @@
 #include "os/system_library_win.h"
 #include "os/utf16_win.h"
 #include "support/bmp_builder.h"
+#include "support/channel_distance.h"
 #include "support/real_show_win.h"
 #include "support/wic_encoder_win.h"
 
@@ -208,11 +209,7 @@ void BenchTicks() {
 }
 
 bool ShowsSign() {
-  const base::Pixel pixel = e2e::ScreenPixel(kScreen.width / 2, kScreen.height / 2);
-  const auto isNear = [&](int shift) {
-    return std::abs(static_cast<int>(pixel >> shift & 0xFF) - static_cast<int>(kSign >> shift & 0xFF)) < 12;
-  };
-  return isNear(0) && isNear(8) && isNear(16);
+  return support::ChannelDistance(e2e::ScreenPixel(kScreen.width / 2, kScreen.height / 2), kSign) < 12;
 }
 
 // From the start of a program to its picture on the screen, in milliseconds.

@@ -9,12 +9,12 @@
 #include "e2e/keyboard.h"
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
+#include "support/colors.h"
 
 namespace bench {
 
 namespace {
 
-constexpr base::Pixel kBackground = 0xFF800000U;
 constexpr double kPatienceMs = 5000;
 constexpr std::size_t kRuns = 9;
 
@@ -26,7 +26,7 @@ struct Times {
 // Looks every millisecond, in which a wait for a test's condition would look once in ten.
 void AwaitBackground() {
   const double start = NowMs();
-  while (e2e::ScreenPixel(2, 2) != kBackground && NowMs() - start < kPatienceMs) Sleep(1);
+  while (e2e::ScreenPixel(2, 2) != support::kDarkRedPixel && NowMs() - start < kPatienceMs) Sleep(1);
 }
 
 // From the start of the process to a filled screen, and from a key to its end.
@@ -42,7 +42,7 @@ Times RunOnce(const std::wstring& program, const std::wstring& arguments, const 
   e2e::PressKey(VK_SPACE);
   WaitForSingleObject(process.process(), static_cast<DWORD>(kPatienceMs));
   times.endMs = NowMs() - pressed;
-  e2e::WaitFor([] { return e2e::ScreenPixel(2, 2) != kBackground; }, 3000);
+  e2e::WaitFor([] { return e2e::ScreenPixel(2, 2) != support::kDarkRedPixel; }, 3000);
   return times;
 }
 
@@ -68,7 +68,7 @@ void BenchStartAndEnd() {
   std::array<Times, kRuns> showRuns;
   for (std::size_t i = 0; i < kRuns; ++i) {
     bareRuns[i] = RunOnce(self, L"--bare", kBareWindowClass);
-    showRuns[i] = RunOnce(folder.program(), L"/S", L"WindowsScreenSaverClass");
+    showRuns[i] = RunOnce(folder.program(), L"/S", e2e::kShowClass);
   }
   const Times bare = Median(bareRuns);
   const Times show = Median(showRuns);

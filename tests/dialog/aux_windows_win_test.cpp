@@ -146,7 +146,7 @@ TEST_F(AuxWindows, AFolderIsImportedWithWhatLiesBelowItByTheKeyboard) {
   const std::string deep = place.path() + "\\deep";
   CreateDirectoryW(os::ToWide(deep).c_str(), nullptr);
   for (const std::string& path : {place.path() + "\\b.jpg", deep + "\\a.gif", deep + "\\notes.txt"}) {
-    CloseHandle(CreateFileW(os::ToWide(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+    support::WriteFileAt(path);
   }
   machine.files.gone = {"C:",
                         "C:\\"};  // where the list's picture is; so the import starts at the user's pictures

@@ -1,7 +1,6 @@
 // How each key of the settings file reaches its control.
 #include <gtest/gtest.h>
 
-#include "dialog/messages.h"
 #include "dialog/option_table.h"
 #include "support/dialog_machine.h"
 #include "support/shown_settings.h"
@@ -11,8 +10,6 @@ namespace {
 
 using support::FakeDialogs;
 using support::ShownFor;
-
-const FakeDialogs::Message kLoadFailed{kCouldNotLoad, 48};
 
 struct Form2LoadTable : testing::Test {
   support::DialogMachine machine;
@@ -155,7 +152,7 @@ TEST_F(Form2LoadTable, TheFirstTextThatDoesNotConvertEndsLoading) {
         other.set(row.section, row.name, bad);
       }
       Form2& form = other.open();
-      ASSERT_EQ(other.dialogs.messages, std::vector{kLoadFailed});
+      ASSERT_EQ(other.dialogs.messages, std::vector{support::kSettingsNotLoaded});
       EXPECT_FALSE(form.loadedWell());
       EXPECT_EQ(form.Text3.text(), "Total: 1");
       EXPECT_EQ(form.List1.listIndex(), -1);
@@ -207,7 +204,7 @@ TEST_F(Form2LoadTable, WithoutATotalNothingIsLoaded) {
   machine.set("images", "0", "C:\\a.gif");
   const std::unique_ptr<Form2> design = machine.untouched();
   Form2& form = machine.open();
-  EXPECT_EQ(machine.dialogs.messages, std::vector{kLoadFailed});
+  EXPECT_EQ(machine.dialogs.messages, std::vector{support::kSettingsNotLoaded});
   EXPECT_EQ(form.List1.listCount(), 0);
   for (const OptionRow& row : OptionTable()) {
     const std::string key = settings::KeyOf(row.field).name;
@@ -221,7 +218,7 @@ TEST_F(Form2LoadTable, ATotalThatIsNoCountEndsLoading) {
     support::DialogMachine other;
     other.set("total", "total", total);
     Form2& form = other.open();
-    EXPECT_EQ(other.dialogs.messages, std::vector{kLoadFailed});
+    EXPECT_EQ(other.dialogs.messages, std::vector{support::kSettingsNotLoaded});
     EXPECT_EQ(form.List1.listCount(), 0);
     EXPECT_EQ(form.record.total, total);
     EXPECT_EQ(form.record.randomPick, "");

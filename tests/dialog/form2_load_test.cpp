@@ -9,8 +9,6 @@ namespace {
 
 using support::FakeDialogs;
 
-const FakeDialogs::Message kLoadFailed{kCouldNotLoad, 48};
-
 struct Form2Load : testing::Test {
   support::DialogMachine machine;
 };
@@ -60,7 +58,7 @@ TEST_F(Form2Load, AMissingFileIsTheSameFailure) {
   Form2 form(DialogServices{machine.files, machine.ansi, machine.pictures, machine.dialogs, machine.windows},
              "C:\\elsewhere\\");
   machine.windows.show(form);
-  EXPECT_EQ(machine.dialogs.messages, std::vector{kLoadFailed});
+  EXPECT_EQ(machine.dialogs.messages, std::vector{support::kSettingsNotLoaded});
   EXPECT_EQ(machine.files.reads, std::vector<std::string>{"C:\\elsewhere\\zbfaone.ini"});
   machine.windows.unload(form);
 }
@@ -73,7 +71,7 @@ TEST_F(Form2Load, AMissingRandomPickLeavesTheListLoadedAndTheRestAsDesigned) {
   Form2& form = machine.open();
   EXPECT_EQ(form.Text3.text(), "Total: 2");
   EXPECT_EQ(form.List1.listCount(), 2);
-  EXPECT_EQ(machine.dialogs.messages, std::vector{kLoadFailed});
+  EXPECT_EQ(machine.dialogs.messages, std::vector{support::kSettingsNotLoaded});
   EXPECT_EQ(form.MouseSensitiveSlider.value(), 23);
   EXPECT_TRUE(form.aChange.value());
 }

@@ -12,8 +12,6 @@ namespace {
 
 using Message = support::FakeDialogs::Message;
 
-const Message kCannotLoad{"Cannot load image file properly.\r\nYou need to reload a new one.", 48};
-
 struct HostileChoice : testing::Test {
   HostileChoice() {
     machine.setPictures({{"good.gif", ""}});
@@ -40,7 +38,7 @@ TEST_F(HostileChoice, APictureThatCannotBeDrawnGivesTheMessageOnceAndNoThumbnail
     dialog.form.add.userClicked();
     machine.rest();
     ASSERT_EQ(dialog.form.List1.text(), picture.name);
-    const std::vector<Message> expected(isDrawn ? 0 : 1, kCannotLoad);
+    const std::vector<Message> expected(isDrawn ? 0 : 1, support::kCannotLoadImage);
     ASSERT_EQ(machine.dialogs.messages, expected) << picture.name;
     ASSERT_EQ(dialog.form.photo1.picture() != nullptr, isDrawn) << picture.name;
     refusedOnes += isDrawn ? 0 : 1;

@@ -32,8 +32,7 @@ struct ListHands : testing::Test {
       machine.set("images", std::to_string(i), pathOf(i));
       machine.pictures.add(pathOf(i), {40, 30}, base::kWhite);
       if (i == 1 || i > 20) continue;
-      CloseHandle(
-          CreateFileW(os::ToWide(pathOf(i)).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+      support::WriteFileAt(pathOf(i));
     }
     machine.writeSettings();
     dialog = std::make_unique<RealDialog>(machine);

@@ -11,7 +11,6 @@ using support::Listed;
 using Message = support::FakeDialogs::Message;
 
 const Message kNothingSelected{"Nothing was selected to remove.", 48};
-const Message kCannotLoad{"Cannot load image file properly.\r\nYou need to reload a new one.", 48};
 const Message kTooMany{"It is recommended that the screen saver should have less than 700 loaded images.",
                        48};
 const Message kLoadFirst{"An image must be loaded first.", 48};
@@ -83,7 +82,7 @@ TEST_F(PictureListTest, APictureThatCannotBeLoadedIsReportedWhenItIsSelected) {
   machine.set("images", "1", "gone.gif");
   open();
   form().List1.userSelected(1);
-  EXPECT_EQ(messages(), std::vector<Message>{kCannotLoad});
+  EXPECT_EQ(messages(), std::vector<Message>{support::kCannotLoadImage});
   EXPECT_EQ(boxes(), "B|Position: 2|Total: 2") << "position and caption are shown before the message";
   EXPECT_EQ(form().photo1.picture(), nullptr) << "not the picture of another row";
   machine.rest();
@@ -94,7 +93,7 @@ TEST_F(PictureListTest, APictureWhosePixelsAreBrokenIsReportedToo) {
   openThree();
   machine.pictures.addBroken("b.gif", {400, 300});
   selectByUser(1);
-  EXPECT_EQ(messages(), std::vector<Message>{kCannotLoad});
+  EXPECT_EQ(messages(), std::vector<Message>{support::kCannotLoadImage});
 }
 
 TEST_F(PictureListTest, AnEntryWithoutAPathShowsNothingAndIsNoFault) {
@@ -141,7 +140,7 @@ TEST_F(PictureListTest, OnlyTheRowOnWhichAHeldArrowKeyEndsIsReported) {
   }
   EXPECT_TRUE(messages().empty());
   machine.rest();
-  EXPECT_EQ(messages(), std::vector<Message>{kCannotLoad});
+  EXPECT_EQ(messages(), std::vector<Message>{support::kCannotLoadImage});
   machine.rest();
   EXPECT_EQ(messages().size(), 1U);
 }
@@ -198,7 +197,7 @@ TEST_F(PictureListTest, AddingDoesNotLookIntoTheFileButSelectingItReportsIt) {
   choose("broken.gif");
   form().add.userClicked();
   EXPECT_EQ(listed(), "a.gif=A;b.gif=B;c.gif=C;broken.gif=;");
-  EXPECT_EQ(messages(), std::vector<Message>{kCannotLoad}) << "once, by the selection";
+  EXPECT_EQ(messages(), std::vector<Message>{support::kCannotLoadImage}) << "once, by the selection";
 }
 
 TEST_F(PictureListTest, AnAddedPictureIsShownAtOnceEvenWhileTheSelectionWasRunning) {

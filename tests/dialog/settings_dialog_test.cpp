@@ -151,7 +151,7 @@ TEST_F(SettingsDialogTest, APictureTooLargeForTheMemoryIsOneThatCannotBeLoaded) 
   dialog.form.addBackImg.userClicked();
   EXPECT_EQ(machine.dialogs.messages,
             (std::vector<support::FakeDialogs::Message>{
-                {"Cannot load image file properly.\r\nYou need to reload a new one.", 48},
+                support::kCannotLoadImage,
                 {"Could not load Background Image correctly. Please reload a new image.", 48}}));
 }
 

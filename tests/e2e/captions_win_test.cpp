@@ -6,14 +6,15 @@
 #include "e2e/running_program.h"
 #include "os/date_text.h"
 #include "os/files_win.h"
+#include "support/colors.h"
 #include "support/jpeg_builder.h"
 #include "support/photo_builder.h"
 #include "support/wic_encoder_win.h"
 
 namespace {
 
-constexpr base::Pixel kWhitePixel = 0xFFFFFFFFU;
-constexpr int kBand = 80;  // rows at the top of the screen, in which the words stand
+using support::kWhitePixel;
+constexpr int kTopRows = 80;  // rows at the top of the screen, in which the words stand
 constexpr os::LocalTime kTaken{2019, 7, 14, 18, 5, 9, 0};
 
 const support::PhotoNotes kNotes = {
@@ -31,7 +32,7 @@ std::string Photo(const std::string& segments) {
 }
 
 base::Bitmap Band() {
-  base::Bitmap band({e2e::ScreenSize().width, kBand});
+  base::Bitmap band({e2e::ScreenSize().width, kTopRows});
   base::CopyRect(band.view(), {0, 0}, e2e::ReadScreen(), base::PixelRect::ofSize(band.size()));
   return band;
 }
@@ -120,7 +121,7 @@ TEST(ShadeOnScreen, WhiteWordsOnAWhitePictureCanBeRead) {
   folder.writeSettings();
   const e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  const base::PixelRect caption{screen.width / 2 - 150, 0, 300, kBand};
+  const base::PixelRect caption{screen.width / 2 - 150, 0, 300, kTopRows};
   const base::PixelRect clock{screen.width - 400, screen.height - 60, 400, 60};
   int atCaption = 0;
   int atClock = 0;

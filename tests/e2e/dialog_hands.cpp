@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include "e2e/keyboard.h"
+#include "e2e/pointer.h"
 
 namespace e2e {
 

@@ -9,13 +9,8 @@ namespace {
 
 constexpr base::Pixel kColors[] = {0xFFFF0000U, 0xFF0000FFU};
 
-base::Pixel Middle() {
-  const base::PixelSize screen = e2e::ScreenSize();
-  return e2e::ScreenPixel(screen.width / 2, screen.height / 2);
-}
-
 bool ComesToBe(base::Pixel pixel) {
-  return e2e::WaitFor([&] { return Middle() == pixel; });
+  return e2e::WaitFor([&] { return e2e::MiddlePixel() == pixel; });
 }
 
 // Tells a window of another process, as the system would: what the message points to lies in that process.

@@ -8,12 +8,12 @@
 #include "e2e/running_program.h"
 #include "os/handles_win.h"
 #include "os/utf16_win.h"
+#include "support/colors.h"
 
 namespace {
 
-constexpr base::Pixel kBackground = 0xFF800000U;
-constexpr base::Pixel kGreen = 0xFF00FF00U;
-constexpr base::Pixel kBlue = 0xFF0000FFU;
+using support::kBluePixel;
+using support::kGreenPixel;
 
 // Of those, every Windows keeps its own copies ready for all programs; comctl32 comes by the manifest.
 const std::set<std::string> kAllowedImports = {"advapi32.dll", "comctl32.dll", "comdlg32.dll",
@@ -122,8 +122,7 @@ TEST(Hardening, LibrariesPlantedBesideTheProgramAreNotLoadedByTheShow) {
   Plant(folder);
   e2e::RunningProgram show(folder.program(), L"/S", folder.path());
   ASSERT_NE(show.waitForShow(), nullptr);
-  const base::PixelSize screen = e2e::ScreenSize();
-  EXPECT_TRUE(e2e::WaitFor([&] { return e2e::ScreenPixel(screen.width / 2, screen.height / 2) == kGreen; }));
+  EXPECT_TRUE(e2e::WaitFor([&] { return e2e::MiddlePixel() == kGreenPixel; }));
   EXPECT_TRUE(show.endsByKey());
   EXPECT_EQ(Loaded(folder), "");
 }
@@ -157,7 +156,7 @@ TEST(Hardening, APictureListedWithoutItsFolderLiesBesideTheProgram) {
   folder.writeSettings();
   e2e::RunningProgram show(folder.program(), L"/S", decoy.path());
   ASSERT_NE(show.waitForShow(), nullptr);
-  EXPECT_TRUE(e2e::WaitFor([] { return !e2e::BoundsOf(e2e::ReadScreen(), kBlue).isEmpty(); }));
+  EXPECT_TRUE(e2e::WaitFor([] { return !e2e::BoundsOf(e2e::ReadScreen(), kBluePixel).isEmpty(); }));
   EXPECT_TRUE(show.endsByKey());
 }
 
@@ -177,12 +176,12 @@ TEST(Hardening, NothingIsTakenFromTheCurrentFolder) {
   const std::string decoysSettings = decoy.readSettingsFile();
   e2e::RunningProgram show(folder.program(), L"/S", decoy.path());
   ASSERT_NE(show.waitForShow(), nullptr);
-  ASSERT_TRUE(e2e::WaitFor([] { return e2e::ScreenPixel(2, 2) == kBackground; }));
+  ASSERT_TRUE(e2e::WaitFor([] { return e2e::ScreenPixel(2, 2) == support::kDarkRedPixel; }));
   bool sawGreen = false;
   EXPECT_TRUE(e2e::WaitFor([&] {
     const base::Bitmap seen = e2e::ReadScreen();
-    sawGreen = sawGreen || !e2e::BoundsOf(seen, kGreen).isEmpty();
-    return !e2e::BoundsOf(seen, kBlue).isEmpty();
+    sawGreen = sawGreen || !e2e::BoundsOf(seen, kGreenPixel).isEmpty();
+    return !e2e::BoundsOf(seen, kBluePixel).isEmpty();
   })) << "the third picture comes after the samples";
   EXPECT_FALSE(sawGreen);
   EXPECT_TRUE(show.endsByKey());

@@ -96,10 +96,8 @@ TEST_P(HostileFolder, TheShowOfTheFirstRunComesAllTheSame) {
   ASSERT_NE(before_.find("samples=1"), std::string::npos) << "a first run";
   e2e::RunningProgram show(program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  const base::PixelSize screen = e2e::ScreenSize();
-  EXPECT_TRUE(e2e::WaitFor([&] {
-    return e2e::ScreenPixel(screen.width / 2, screen.height / 2) != base::OpaquePixel(base::kBlack);
-  })) << "a sample picture";
+  EXPECT_TRUE(e2e::WaitFor([&] { return e2e::MiddlePixel() != base::OpaquePixel(base::kBlack); }))
+      << "a sample picture";
   EXPECT_TRUE(show.endsByKey());
   expectUntouched();
 }

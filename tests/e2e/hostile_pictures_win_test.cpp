@@ -24,10 +24,7 @@ constexpr int kLimitMs = 240000;  // for one of them
 
 // The good picture stands in the middle of the screen. Its turns are short, so the screen is looked at often.
 bool ComesToShow(base::PackedColor color) {
-  const base::PixelSize screen = e2e::ScreenSize();
-  return e2e::WaitFor(
-      [&] { return e2e::ScreenPixel(screen.width / 2, screen.height / 2) == base::OpaquePixel(color); },
-      kLimitMs);
+  return e2e::WaitFor([&] { return e2e::MiddlePixel() == base::OpaquePixel(color); }, kLimitMs);
 }
 
 SIZE_T PeakMemory(const e2e::RunningProgram& program) {

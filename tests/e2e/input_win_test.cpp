@@ -3,9 +3,11 @@
 #include <memory>
 
 #include "e2e/keyboard.h"
+#include "e2e/pointer.h"
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
 #include "os/utf16_win.h"
+#include "support/colors.h"
 
 namespace {
 
@@ -19,7 +21,7 @@ class InputTest : public testing::Test {
     folder.writeSettings();
     show = std::make_unique<e2e::RunningProgram>(folder.program(), L"/S");
     ASSERT_NE(show->waitForShow(), nullptr);
-    ASSERT_TRUE(e2e::WaitFor([&] { return e2e::ScreenPixel(2, 2) == 0xFF800000U; }));
+    ASSERT_TRUE(e2e::WaitFor([&] { return e2e::ScreenPixel(2, 2) == support::kDarkRedPixel; }));
     ASSERT_TRUE(e2e::WaitForKeyboard(show->waitForShow()));
     // The first event only records; the second arrives after it, so both have been seen.
     moveTo(400, 300);
@@ -28,7 +30,17 @@ class InputTest : public testing::Test {
   // Moves and lets the show see it.
   void moveTo(int x, int y) {
     e2e::MoveMouseTo(x, y);
-    e2e::WaitFor([] { return false; }, 60);
+    e2e::WaitFor([this] { return !show->isRunning(); }, 60);
+  }
+
+  // Starts a show and moves so many times, a little further each time. False where others have moved the
+  // pointer meanwhile, so that nobody knows how many moves the show has seen.
+  bool startAndMoveExactly(const char* sensitivity, int times) {
+    show = nullptr;
+    start(sensitivity);
+    const e2e::StrayMoves stray;
+    for (int i = 1; i <= times; ++i) moveTo(400 + 2 * i, 300);
+    return !stray.any();
   }
 
   // Moves on and on, some hundred times a second, until the show has seen enough of it.
@@ -75,8 +87,9 @@ TEST_F(InputTest, AnEventAtAnUnchangedPlaceDoesNotEndTheShow) {
 }
 
 TEST_F(InputTest, WithThresholdSevenSixMovesAreTooFewAndTheSeventhEndsTheShow) {
-  start("23");
-  for (int i = 1; i <= 6; ++i) moveTo(400 + 2 * i, 300);
+  bool isExact = false;
+  for (int attempt = 0; attempt < 10 && !isExact; ++attempt) isExact = startAndMoveExactly("23", 6);
+  ASSERT_TRUE(isExact);
   EXPECT_TRUE(show->isRunning());
   EXPECT_TRUE(fastMovesEndIt());
 }

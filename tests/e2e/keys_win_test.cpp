@@ -14,19 +14,14 @@
 #include "e2e/running_program.h"
 #include "os/handles_win.h"
 #include "os/utf16_win.h"
+#include "support/colors.h"
 
 namespace {
 
-constexpr base::Pixel kRed = 0xFFFF0000U;
-constexpr base::Pixel kGreen = 0xFF00FF00U;
-constexpr base::Pixel kBlue = 0xFF0000FFU;
-constexpr base::Pixel kBlack = 0xFF000000U;
+using support::kBluePixel;
+using support::kGreenPixel;
+using support::kRedPixel;
 constexpr base::Pixel kBand = 0xFF181A1EU;  // behind notes
-
-base::Pixel Middle() {
-  const base::PixelSize screen = e2e::ScreenSize();
-  return e2e::ScreenPixel(screen.width / 2, screen.height / 2);
-}
 
 bool ScreenComesToShow(const std::function<bool(const base::Bitmap&)>& what) {
   return e2e::WaitFor([&] { return what(e2e::ReadScreen()); });
@@ -46,7 +41,7 @@ class KeysTest : public testing::Test {
     folder.writeSettings();
     show = std::make_unique<e2e::RunningProgram>(folder.program(), L"/S");
     ASSERT_NE(show->waitForShow(), nullptr);
-    ASSERT_TRUE(comes(kRed));
+    ASSERT_TRUE(comes(kRedPixel));
   }
   // A key that comes before the window has the keyboard is somebody else's.
   void press(WORD key) {
@@ -54,7 +49,7 @@ class KeysTest : public testing::Test {
     e2e::PressKey(key);
   }
   bool comes(base::Pixel pixel) {
-    return e2e::WaitFor([pixel] { return Middle() == pixel; });
+    return e2e::WaitFor([pixel] { return e2e::MiddlePixel() == pixel; });
   }
   bool showsNotes() {
     return ScreenComesToShow(
@@ -72,13 +67,13 @@ class KeysTest : public testing::Test {
 TEST_F(KeysTest, StepThroughTheShowAndEscapeEndsIt) {
   start();
   press(VK_RIGHT);
-  EXPECT_TRUE(comes(kGreen));
+  EXPECT_TRUE(comes(kGreenPixel));
   press('N');
-  EXPECT_TRUE(comes(kBlue));
+  EXPECT_TRUE(comes(kBluePixel));
   press(VK_PRIOR);
-  EXPECT_TRUE(comes(kGreen));
+  EXPECT_TRUE(comes(kGreenPixel));
   press('B');
-  EXPECT_TRUE(comes(kRed));
+  EXPECT_TRUE(comes(kRedPixel));
   press(VK_ESCAPE);
   EXPECT_TRUE(show->waitForEnd());
   EXPECT_EQ(show->exitCode(), 0U);
@@ -87,12 +82,12 @@ TEST_F(KeysTest, StepThroughTheShowAndEscapeEndsIt) {
 TEST_F(KeysTest, StepWhereThePicturesAreLoadedAheadToo) {
   folder.set("extras/loadAhead", "1");
   start();
-  for (const base::Pixel pixel : {kGreen, kBlue, kRed}) {
+  for (const base::Pixel pixel : {kGreenPixel, kBluePixel, kRedPixel}) {
     press(VK_RIGHT);
     EXPECT_TRUE(comes(pixel));
   }
   press(VK_LEFT);
-  EXPECT_TRUE(comes(kBlue));
+  EXPECT_TRUE(comes(kBluePixel));
 }
 
 TEST_F(KeysTest, HoldThePictureUntilTheShowIsToGoOn) {
@@ -100,25 +95,25 @@ TEST_F(KeysTest, HoldThePictureUntilTheShowIsToGoOn) {
   start();
   press(VK_SPACE);
   EXPECT_TRUE(showsNotes());
-  const base::Pixel held = Middle();
-  EXPECT_FALSE(e2e::WaitFor([held] { return Middle() != held; }, 6000));
+  const base::Pixel held = e2e::MiddlePixel();
+  EXPECT_FALSE(e2e::WaitFor([held] { return e2e::MiddlePixel() != held; }, 6000));
   EXPECT_TRUE(showsNoNotes()) << "the sign has gone";
   press(VK_SPACE);
-  EXPECT_TRUE(e2e::WaitFor([held] { return Middle() != held; }, 10000));
+  EXPECT_TRUE(e2e::WaitFor([held] { return e2e::MiddlePixel() != held; }, 10000));
 }
 
 TEST_F(KeysTest, TellAboutThePictureAndShowTheKeys) {
   start();
   press('I');
   EXPECT_TRUE(showsNotes());
-  EXPECT_EQ(Middle(), kRed) << "in a corner";
+  EXPECT_EQ(e2e::MiddlePixel(), kRedPixel) << "in a corner";
   press('I');
   EXPECT_TRUE(showsNoNotes());
   press(VK_F1);
-  EXPECT_TRUE(e2e::WaitFor([] { return Middle() != kRed; })) << "in the middle";
+  EXPECT_TRUE(e2e::WaitFor([] { return e2e::MiddlePixel() != kRedPixel; })) << "in the middle";
   EXPECT_TRUE(showsNotes());
   press('H');
-  EXPECT_TRUE(comes(kRed));
+  EXPECT_TRUE(comes(kRedPixel));
   EXPECT_TRUE(show->isRunning());
 }
 
@@ -126,18 +121,18 @@ TEST_F(KeysTest, APictureThatIsPutAwayComesInNoShowAgainAndItsFileStays) {
   start();
   press(VK_DELETE);
   EXPECT_TRUE(showsNotes());
-  EXPECT_EQ(Middle(), kRed);
+  EXPECT_EQ(e2e::MiddlePixel(), kRedPixel);
   press(VK_DELETE);
-  EXPECT_TRUE(comes(kGreen));
+  EXPECT_TRUE(comes(kGreenPixel));
   press(VK_RIGHT);
-  EXPECT_TRUE(comes(kBlue));
+  EXPECT_TRUE(comes(kBluePixel));
   press(VK_RIGHT);
-  EXPECT_TRUE(comes(kGreen));
+  EXPECT_TRUE(comes(kGreenPixel));
   press(VK_ESCAPE);
   EXPECT_TRUE(show->waitForEnd());
   e2e::RunningProgram again(folder.program(), L"/S");
   ASSERT_NE(again.waitForShow(), nullptr);
-  EXPECT_TRUE(comes(kGreen)) << "the next show begins with the second";
+  EXPECT_TRUE(comes(kGreenPixel)) << "the next show begins with the second";
   EXPECT_NE(GetFileAttributesW((folder.path() + L"\\picture0.bmp").c_str()), INVALID_FILE_ATTRIBUTES);
 }
 
@@ -200,7 +195,7 @@ std::wstring CommandLineOf(HANDLE process) {
 TEST_F(KeysTest, EndTheShowAndOpenTheFolderOfThePicture) {
   start();
   press(VK_RIGHT);
-  EXPECT_TRUE(comes(kGreen));
+  EXPECT_TRUE(comes(kGreenPixel));
   StartedProcesses started(show->process());
   press('O');
   const os::OwnedHandle shell = started.next(show->processId());

@@ -5,6 +5,7 @@
 
 #include "e2e/dialog_hands.h"
 #include "e2e/keyboard.h"
+#include "e2e/pointer.h"
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
 #include "os/handles_win.h"
@@ -12,11 +13,10 @@
 
 namespace {
 
-constexpr base::PackedColor kRed = base::Rgb(250, 10, 20);
-constexpr base::PackedColor kBlue = base::Rgb(10, 20, 250);
+constexpr base::PackedColor kFirstPicture = base::Rgb(250, 10, 20);
+constexpr base::PackedColor kSecondPicture = base::Rgb(10, 20, 250);
 constexpr const wchar_t* kView = L"LumoraPicture";
 constexpr const wchar_t* kViewName = L"Preview of the show";
-constexpr const wchar_t* kShow = L"WindowsScreenSaverClass";
 constexpr int kMouseTab = 3;
 constexpr int kTransitionsTab = 5;
 
@@ -47,8 +47,8 @@ std::vector<std::wstring> NamesIn(const std::wstring& folder) {
 class LiveViewTest : public testing::Test {
  protected:
   LiveViewTest() {
-    folder.addPicture({800, 600}, kRed, "a caption");
-    folder.addPicture({800, 600}, kBlue);
+    folder.addPicture({800, 600}, kFirstPicture, "a caption");
+    folder.addPicture({800, 600}, kSecondPicture);
     folder.set("image/timeInterval", "600");
     folder.writeSettings();
     saved = folder.readSettingsFile();
@@ -76,15 +76,15 @@ class LiveViewTest : public testing::Test {
   HWND awaitShow() const {
     HWND show = nullptr;
     e2e::WaitFor([&] {
-      show = program->findWindow(kShow);
-      return show && e2e::ScreenPixel(e2e::ScreenSize().width / 2, e2e::ScreenSize().height / 2) ==
-                         base::OpaquePixel(kRed);
+      show = program->findWindow(e2e::kShowClass);
+      return show && e2e::MiddlePixel() == base::OpaquePixel(kFirstPicture);
     });
     return show;
   }
 
   bool isAsBefore() const {
-    return e2e::WaitFor([&] { return !program->findWindow(kShow); }) && e2e::WaitForKeyboard(dialog);
+    return e2e::WaitFor([&] { return !program->findWindow(e2e::kShowClass); }) &&
+           e2e::WaitForKeyboard(dialog);
   }
 
   e2e::ProgramFolder folder{L"live"};
@@ -100,7 +100,7 @@ TEST_F(LiveViewTest, EachTabThatHasRoomShowsTheShow) {
   for (int tab = 1; tab < 8; ++tab) {
     ASSERT_TRUE(e2e::NextTab(dialog));
     if (tab == 2) continue;
-    EXPECT_TRUE(comesToShow(kRed)) << "tab " << tab;
+    EXPECT_TRUE(comesToShow(kFirstPicture)) << "tab " << tab;
     ++views;
   }
   EXPECT_EQ(views, 6);
@@ -109,19 +109,19 @@ TEST_F(LiveViewTest, EachTabThatHasRoomShowsTheShow) {
 TEST_F(LiveViewTest, AnEffectThatIsJustCheckedPlays) {
   open();
   goTo(kTransitionsTab);
-  ASSERT_TRUE(comesToShow(kRed));
+  ASSERT_TRUE(comesToShow(kFirstPicture));
   e2e::ClickOn(e2e::WaitForChild(dialog, L"Button", L"Left Wipe"));
   EXPECT_TRUE(e2e::WaitFor([&] {
-    const int blue = PixelsOf(view(), kBlue);
+    const int blue = PixelsOf(view(), kSecondPicture);
     return blue > 1000 && blue < 17000;
   })) << "in the middle of it";
-  EXPECT_TRUE(e2e::WaitFor([&] { return PixelsOf(view(), kBlue) > 19000; })) << "and at its end";
+  EXPECT_TRUE(e2e::WaitFor([&] { return PixelsOf(view(), kSecondPicture) > 19000; })) << "and at its end";
 }
 
 TEST_F(LiveViewTest, ThePointerOverTheMousesTabDarkensTheShow) {
   open();
   goTo(kMouseTab);
-  ASSERT_TRUE(comesToShow(kRed));
+  ASSERT_TRUE(comesToShow(kFirstPicture));
   RECT place{};
   GetWindowRect(view(), &place);
   // Moves count within two seconds, so the screen is looked at between bursts of them.
@@ -130,15 +130,15 @@ TEST_F(LiveViewTest, ThePointerOverTheMousesTabDarkensTheShow) {
       e2e::MoveMouseTo(static_cast<int>(place.left) + 120 + move % 2 * 40, static_cast<int>(place.top) + 100);
       e2e::WaitFor([] { return false; }, 20);
     }
-    return PixelsOf(view(), kRed) == 0;
+    return PixelsOf(view(), kFirstPicture) == 0;
   }));
-  EXPECT_TRUE(comesToShow(kRed)) << "and it comes again";
+  EXPECT_TRUE(comesToShow(kFirstPicture)) << "and it comes again";
 }
 
 TEST_F(LiveViewTest, TriedByTheKeyboardTheShowEndsByAKeyAndTheDialogIsAsBefore) {
   open();
   goTo(kTransitionsTab);
-  ASSERT_TRUE(comesToShow(kRed));
+  ASSERT_TRUE(comesToShow(kFirstPicture));
   const std::vector<std::wstring> before = NamesIn(folder.path());
   const HWND button = e2e::WaitForChild(dialog, L"Button", L"&Try It");
   ASSERT_NE(button, nullptr);
@@ -151,7 +151,7 @@ TEST_F(LiveViewTest, TriedByTheKeyboardTheShowEndsByAKeyAndTheDialogIsAsBefore) 
   EXPECT_TRUE(isAsBefore());
   EXPECT_TRUE(e2e::WaitFor([&] { return e2e::FocusIn(dialog) == button; }))
       << "the button has the keyboard again";
-  EXPECT_TRUE(comesToShow(kRed)) << "the little show goes on";
+  EXPECT_TRUE(comesToShow(kFirstPicture)) << "the little show goes on";
   EXPECT_EQ(folder.readSettingsFile(), saved);
   EXPECT_EQ(NamesIn(folder.path()), before);
   EXPECT_TRUE(e2e::WaitForKeyboard(dialog));
@@ -165,16 +165,14 @@ TEST_F(LiveViewTest, TriedByTheMouseItShowsWhatIsNotSavedAndEndsByAClick) {
   e2e::ClickOn(e2e::WaitForChild(dialog, L"Button", L"Move image down"));  // blue comes first now
   e2e::ClickOn(e2e::WaitForChild(dialog, L"Button", L"&Try It"));
   ASSERT_TRUE(e2e::WaitFor([&] {
-    return program->findWindow(kShow) &&
-           e2e::ScreenPixel(e2e::ScreenSize().width / 2, e2e::ScreenSize().height / 2) ==
-               base::OpaquePixel(kBlue);
+    return program->findWindow(e2e::kShowClass) && e2e::MiddlePixel() == base::OpaquePixel(kSecondPicture);
   }));
   e2e::ClickMouse();
   EXPECT_TRUE(isAsBefore());
   EXPECT_EQ(folder.readSettingsFile(), saved);
   e2e::ClickOn(e2e::WaitForChild(dialog, L"Button", L"&Try It"));
   HWND show = nullptr;
-  ASSERT_TRUE(e2e::WaitFor([&] { return (show = program->findWindow(kShow)) != nullptr; }))
+  ASSERT_TRUE(e2e::WaitFor([&] { return (show = program->findWindow(e2e::kShowClass)) != nullptr; }))
       << "as often as wanted";
   EXPECT_TRUE(e2e::PressUntil(
       show, [&] { return !IsWindow(show); }, VK_SPACE));
@@ -185,11 +183,8 @@ TEST_F(LiveViewTest, ACrashLeavesWhatWasTried) {
   open();
   e2e::ClickOn(e2e::WaitForChild(dialog, L"Button", L"Move image down"));
   e2e::ClickOn(e2e::WaitForChild(dialog, L"Button", L"&Try It"));
-  ASSERT_TRUE(e2e::WaitFor([&] { return program->findWindow(kShow) != nullptr; }));
-  ASSERT_TRUE(e2e::WaitFor([&] {
-    return e2e::ScreenPixel(e2e::ScreenSize().width / 2, e2e::ScreenSize().height / 2) ==
-           base::OpaquePixel(kBlue);
-  }));
+  ASSERT_TRUE(e2e::WaitFor([&] { return program->findWindow(e2e::kShowClass) != nullptr; }));
+  ASSERT_TRUE(e2e::WaitFor([&] { return e2e::MiddlePixel() == base::OpaquePixel(kSecondPicture); }));
   // A thread that begins at an address where nothing is.
   const os::OwnedHandle thread(CreateRemoteThread(
       program->process(), nullptr, 0, reinterpret_cast<LPTHREAD_START_ROUTINE>(8), nullptr, 0, nullptr));

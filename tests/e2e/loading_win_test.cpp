@@ -8,15 +8,15 @@
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
 #include "os/utf16_win.h"
+#include "support/colors.h"
 
 namespace {
 
-constexpr base::Pixel kRed = 0xFFFF0000U;
-constexpr base::Pixel kBlue = 0xFF0000FFU;
+using support::kBluePixel;
+using support::kRedPixel;
 
 bool MiddleComesToBe(base::Pixel pixel) {
-  const base::PixelSize screen = e2e::ScreenSize();
-  return e2e::WaitFor([&] { return e2e::ScreenPixel(screen.width / 2, screen.height / 2) == pixel; }, 30000);
+  return e2e::WaitFor([&] { return e2e::MiddlePixel() == pixel; }, 30000);
 }
 
 // Empty when the test run could not make one.
@@ -33,9 +33,9 @@ TEST(LoadAhead, PicturesAppearInTheirOrderAndAKeyEndsTheShow) {
   folder.writeSettings();
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  EXPECT_TRUE(MiddleComesToBe(kRed));
-  EXPECT_TRUE(MiddleComesToBe(kBlue));
-  EXPECT_TRUE(MiddleComesToBe(kRed));
+  EXPECT_TRUE(MiddleComesToBe(kRedPixel));
+  EXPECT_TRUE(MiddleComesToBe(kBluePixel));
+  EXPECT_TRUE(MiddleComesToBe(kRedPixel));
   EXPECT_TRUE(show.endsByKey());
   EXPECT_EQ(show.exitCode(), 0U);
 }
@@ -51,8 +51,8 @@ TEST(LoadAhead, AFileThatDoesNotAnswerIsPassedOverAndAKeyEndsTheShow) {
   folder.writeSettings();
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  EXPECT_TRUE(MiddleComesToBe(kRed));
-  EXPECT_TRUE(MiddleComesToBe(kBlue));
+  EXPECT_TRUE(MiddleComesToBe(kRedPixel));
+  EXPECT_TRUE(MiddleComesToBe(kBluePixel));
   EXPECT_TRUE(show.endsByKey());
   EXPECT_EQ(show.exitCode(), 0U);
 }

@@ -4,10 +4,11 @@
 #include "e2e/running_program.h"
 #include "os/files_win.h"
 #include "os/utf16_win.h"
+#include "support/colors.h"
 
 namespace {
 
-constexpr base::Pixel kGreen = 0xFF00FF00U;
+using support::kGreenPixel;
 
 // A show of a picture that is not there and one that is, until the second is on the screen.
 void RunShow(e2e::ProgramFolder& folder) {
@@ -17,8 +18,7 @@ void RunShow(e2e::ProgramFolder& folder) {
   DeleteFileW((folder.path() + L"\\picture0.bmp").c_str());
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  const base::PixelSize screen = e2e::ScreenSize();
-  ASSERT_TRUE(e2e::WaitFor([&] { return e2e::ScreenPixel(screen.width / 2, screen.height / 2) == kGreen; }));
+  ASSERT_TRUE(e2e::WaitFor([&] { return e2e::MiddlePixel() == kGreenPixel; }));
   EXPECT_TRUE(show.endsByKey());
 }
 

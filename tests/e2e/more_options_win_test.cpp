@@ -6,6 +6,7 @@
 
 #include "e2e/dialog_hands.h"
 #include "e2e/keyboard.h"
+#include "e2e/pointer.h"
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
 #include "os/utf16_win.h"
@@ -71,9 +72,8 @@ bool IsChecked(HWND option) { return SendMessageW(option, BM_GETCHECK, 0, 0) == 
 
 constexpr wchar_t kMore[] = L"More Options";
 constexpr wchar_t kChooser[] = L"Select a folder to follow";
-constexpr const wchar_t* kShow = L"WindowsScreenSaverClass";
-constexpr base::PackedColor kRed = base::Rgb(240, 0, 0);
-constexpr base::PackedColor kBlue = base::Rgb(0, 0, 240);
+constexpr base::PackedColor kAlbumRed = base::Rgb(240, 0, 0);
+constexpr base::PackedColor kAlbumBlue = base::Rgb(0, 0, 240);
 
 // The classic file with the sample pictures, and a folder of photos beside it.
 class MoreOptionsTest : public testing::Test {
@@ -84,8 +84,8 @@ class MoreOptionsTest : public testing::Test {
                             FALSE));
     }
     ASSERT_TRUE(CreateDirectoryW(album().c_str(), nullptr));
-    pictureFolder.writeBitmap("album\\a.bmp", {30, 20}, kRed);
-    pictureFolder.writeBitmap("album\\b.bmp", {30, 20}, kBlue);
+    pictureFolder.writeBitmap("album\\a.bmp", {30, 20}, kAlbumRed);
+    pictureFolder.writeBitmap("album\\b.bmp", {30, 20}, kAlbumBlue);
     changeQuickly();
   }
 
@@ -117,7 +117,7 @@ class MoreOptionsTest : public testing::Test {
     begin();
     HWND show = nullptr;
     ASSERT_TRUE(e2e::WaitFor([&] {
-      show = program.findWindow(kShow);
+      show = program.findWindow(e2e::kShowClass);
       return show != nullptr;
     }));
     ASSERT_TRUE(WaitForKeyboard(show));
@@ -125,11 +125,6 @@ class MoreOptionsTest : public testing::Test {
     EXPECT_TRUE(e2e::WaitFor([&] { return !IsWindow(show); }));
     ASSERT_TRUE(WaitForKeyboard(dialog));
     EXPECT_EQ(folder.readSettingsFile(), before);
-  }
-
-  static base::Pixel middle() {
-    const base::PixelSize screen = e2e::ScreenSize();
-    return e2e::ScreenPixel(screen.width / 2, screen.height / 2);
   }
 
   // White words stand at the top of the screen.
@@ -154,13 +149,13 @@ class MoreOptionsTest : public testing::Test {
   void expectTheShowToShowIt() {
     e2e::RunningProgram show(folder.program(), L"/S");
     ASSERT_NE(show.waitForShow(), nullptr);
-    ASSERT_TRUE(e2e::WaitFor([] { return middle() == base::OpaquePixel(kRed); }, 30000));
+    ASSERT_TRUE(e2e::WaitFor([] { return e2e::MiddlePixel() == base::OpaquePixel(kAlbumRed); }, 30000));
     EXPECT_TRUE(e2e::WaitFor([] { return seesCaption(); }));
     bool mixed = false;
     EXPECT_TRUE(e2e::WaitFor([&] {
-      const base::Pixel now = middle();
+      const base::Pixel now = e2e::MiddlePixel();
       mixed = mixed || isMixed(now);
-      return now == base::OpaquePixel(kBlue);
+      return now == base::OpaquePixel(kAlbumBlue);
     }));
     EXPECT_TRUE(mixed);
     EXPECT_TRUE(show.endsByKey());

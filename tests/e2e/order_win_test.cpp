@@ -9,22 +9,18 @@
 #include "e2e/running_program.h"
 #include "os/handles_win.h"
 #include "os/utf16_win.h"
+#include "support/colors.h"
 
 namespace {
 
-constexpr base::Pixel kRed = 0xFFFF0000U;
-constexpr base::Pixel kGreen = 0xFF00FF00U;
-constexpr base::Pixel kBlue = 0xFF0000FFU;
+using support::kBluePixel;
+using support::kGreenPixel;
+using support::kRedPixel;
 constexpr base::PixelSize kSize{200, 100};
 
 // What the middle of the screen shows.
-base::Pixel Middle() {
-  const base::PixelSize screen = e2e::ScreenSize();
-  return e2e::ScreenPixel(screen.width / 2, screen.height / 2);
-}
-
 bool Comes(base::Pixel pixel) {
-  return e2e::WaitFor([&] { return Middle() == pixel; }, 30000);
+  return e2e::WaitFor([&] { return e2e::MiddlePixel() == pixel; }, 30000);
 }
 
 // The first picture that comes.
@@ -32,8 +28,8 @@ base::Pixel FirstColour() {
   base::Pixel seen = 0;
   e2e::WaitFor(
       [&] {
-        seen = Middle();
-        return seen == kRed || seen == kGreen || seen == kBlue;
+        seen = e2e::MiddlePixel();
+        return seen == kRedPixel || seen == kGreenPixel || seen == kBluePixel;
       },
       30000);
   return seen;
@@ -42,12 +38,13 @@ base::Pixel FirstColour() {
 // The next `count` pictures, each when it has taken the place of the one before.
 std::vector<base::Pixel> NextColours(int count) {
   std::vector<base::Pixel> colours;
-  base::Pixel before = Middle();
+  base::Pixel before = e2e::MiddlePixel();
   e2e::WaitFor(
       [&] {
-        const base::Pixel now = Middle();
-        if (now != before && (now == kRed || now == kGreen || now == kBlue)) colours.push_back(now);
-        if (now == kRed || now == kGreen || now == kBlue) before = now;
+        const base::Pixel now = e2e::MiddlePixel();
+        if (now != before && (now == kRedPixel || now == kGreenPixel || now == kBluePixel))
+          colours.push_back(now);
+        if (now == kRedPixel || now == kGreenPixel || now == kBluePixel) before = now;
         return static_cast<int>(colours.size()) == count;
       },
       60000);
@@ -95,21 +92,21 @@ TEST(FollowedFolders, FilesThatComeGoAndAreRenamedDuringTheShowJoinAndLeaveIt) {
   folder.writeSettings();
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  EXPECT_TRUE(Comes(kRed)) << "the list is empty but for the folder's picture";
+  EXPECT_TRUE(Comes(kRedPixel)) << "the list is empty but for the folder's picture";
   folder.writeBitmap("pictures\\green.bmp", kSize, base::Rgb(0, 255, 0));
-  EXPECT_TRUE(Comes(kGreen)) << "a new file joins";
+  EXPECT_TRUE(Comes(kGreenPixel)) << "a new file joins";
   folder.writeBitmap("pictures\\deep\\blue.tmp", kSize, base::Rgb(0, 0, 255));
   MoveFileW((pictures + L"\\deep\\blue.tmp").c_str(), (pictures + L"\\deep\\blue.bmp").c_str());
-  EXPECT_TRUE(Comes(kBlue)) << "a file that is a picture by its new name joins";
+  EXPECT_TRUE(Comes(kBluePixel)) << "a file that is a picture by its new name joins";
   // While the show reads it, it cannot be deleted.
   EXPECT_TRUE(
       e2e::WaitFor([&] { return DeleteFileW((pictures + L"\\deep\\red.bmp").c_str()) != FALSE; }, 10000));
   ASSERT_TRUE(LeavesTheIndex(folder, "red.bmp"));
   NextColours(2);  // what was next before the news
   const std::vector<base::Pixel> colours = NextColours(4);
-  EXPECT_EQ(std::count(colours.begin(), colours.end(), kRed), 0) << "a deleted one has left";
-  EXPECT_EQ(std::count(colours.begin(), colours.end(), kGreen), 2);
-  EXPECT_EQ(std::count(colours.begin(), colours.end(), kBlue), 2);
+  EXPECT_EQ(std::count(colours.begin(), colours.end(), kRedPixel), 0) << "a deleted one has left";
+  EXPECT_EQ(std::count(colours.begin(), colours.end(), kGreenPixel), 2);
+  EXPECT_EQ(std::count(colours.begin(), colours.end(), kBluePixel), 2);
   EXPECT_TRUE(show.endsByKey());
   EXPECT_EQ(show.exitCode(), 0U);
 }
@@ -122,7 +119,7 @@ TEST(FollowedFolders, AFolderThatIsNotThereHoldsNothingUp) {
   folder.writeSettings();
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  EXPECT_TRUE(Comes(kRed));
+  EXPECT_TRUE(Comes(kRedPixel));
   EXPECT_TRUE(show.endsByKey());
   EXPECT_EQ(show.exitCode(), 0U);
 }
@@ -148,13 +145,13 @@ TEST_F(ResumedShow, BeginsWithThePictureAfterTheLastOne) {
   {
     e2e::RunningProgram show(folder.program(), L"/S");
     ASSERT_NE(show.waitForShow(), nullptr);
-    EXPECT_EQ(FirstColour(), kRed);
-    ASSERT_TRUE(Comes(kGreen));
+    EXPECT_EQ(FirstColour(), kRedPixel);
+    ASSERT_TRUE(Comes(kGreenPixel));
     EXPECT_TRUE(show.endsByKey());
   }
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  EXPECT_EQ(FirstColour(), kBlue);
+  EXPECT_EQ(FirstColour(), kBluePixel);
   EXPECT_TRUE(show.endsByKey());
   EXPECT_EQ(folder.readSettingsFile(), settings) << "the settings file is not written by the show";
 }
@@ -165,13 +162,13 @@ struct EndedShow : ResumedShow {
     {
       e2e::RunningProgram show(folder.program(), L"/S");
       ASSERT_NE(show.waitForShow(), nullptr);
-      ASSERT_TRUE(Comes(kGreen));
+      ASSERT_TRUE(Comes(kGreenPixel));
       way(show);
       ASSERT_TRUE(show.waitForEnd());
     }
     e2e::RunningProgram show(folder.program(), L"/S");
     ASSERT_NE(show.waitForShow(), nullptr);
-    EXPECT_EQ(FirstColour(), kBlue);
+    EXPECT_EQ(FirstColour(), kBluePixel);
     EXPECT_TRUE(show.endsByKey());
   }
 };
@@ -204,7 +201,7 @@ TEST_F(ResumedShow, AShowThatIsKilledLeavesWhatWasRememberedBefore) {
   {
     e2e::RunningProgram show(folder.program(), L"/S");
     ASSERT_NE(show.waitForShow(), nullptr);
-    ASSERT_TRUE(Comes(kGreen));
+    ASSERT_TRUE(Comes(kGreenPixel));
     EXPECT_TRUE(show.endsByKey());
   }
   const std::string state = Content(folder.path() + L"\\lumora.state");
@@ -212,14 +209,14 @@ TEST_F(ResumedShow, AShowThatIsKilledLeavesWhatWasRememberedBefore) {
   {
     e2e::RunningProgram show(folder.program(), L"/S");
     ASSERT_NE(show.waitForShow(), nullptr);
-    EXPECT_EQ(FirstColour(), kBlue);
+    EXPECT_EQ(FirstColour(), kBluePixel);
     TerminateProcess(show.process(), 1);
     EXPECT_TRUE(show.waitForEnd());
   }
   EXPECT_EQ(Content(folder.path() + L"\\lumora.state"), state);
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  EXPECT_EQ(FirstColour(), kBlue);
+  EXPECT_EQ(FirstColour(), kBluePixel);
   EXPECT_TRUE(show.endsByKey());
 }
 

@@ -4,11 +4,12 @@
 
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
+#include "support/colors.h"
 
 namespace {
 
-constexpr base::Pixel kWhitePixel = 0xFFFFFFFFU;
-constexpr base::Pixel kRedPixel = 0xFFFF0000U;
+using support::kRedPixel;
+using support::kWhitePixel;
 
 base::PixelRect Find(base::Pixel pixel) { return e2e::BoundsOf(e2e::ReadScreen(), pixel); }
 

@@ -3,9 +3,11 @@
 #include <string>
 
 #include "e2e/keyboard.h"
+#include "e2e/pointer.h"
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
 #include "os/handles_win.h"
+#include "support/colors.h"
 
 // These need Wine: it can give itself out as a system of the older family to one program.
 
@@ -82,7 +84,7 @@ class PasswordTest : public testing::Test {
 };
 
 bool ShowIsOnTheScreen() {
-  return e2e::WaitFor([] { return e2e::ScreenPixel(2, 2) == 0xFF800000U; });
+  return e2e::WaitFor([] { return e2e::ScreenPixel(2, 2) == support::kDarkRedPixel; });
 }
 
 TEST_F(PasswordTest, AnAcceptedPasswordEndsTheShowAndTheRunningFlagWasSetUntilThen) {

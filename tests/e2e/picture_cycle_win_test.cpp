@@ -5,13 +5,14 @@
 
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
+#include "support/colors.h"
 
 namespace {
 
-constexpr base::Pixel kRed = 0xFFFF0000U;
-constexpr base::Pixel kGreen = 0xFF00FF00U;
-constexpr base::Pixel kBlue = 0xFF0000FFU;
-constexpr base::Pixel kBlackPixel = 0xFF000000U;
+using support::kBlackPixel;
+using support::kBluePixel;
+using support::kGreenPixel;
+using support::kRedPixel;
 
 base::PixelRect Centred(base::PixelSize size) {
   const base::PixelSize screen = e2e::ScreenSize();
@@ -42,10 +43,10 @@ TEST(PictureCycle, ThreePicturesAppearInOrderCentredEachAtItsComputedSize) {
   folder.writeSettings();
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  EXPECT_TRUE(ComesToFill(kRed, Centred({600, 400})));
-  EXPECT_TRUE(ComesToFill(kGreen, Centred({300, 500})));
-  EXPECT_TRUE(ComesToFill(kBlue, Centred({screen.width / 2, screen.width / 8})));
-  EXPECT_TRUE(ComesToFill(kRed, Centred({600, 400}))) << "after the last picture comes the first";
+  EXPECT_TRUE(ComesToFill(kRedPixel, Centred({600, 400})));
+  EXPECT_TRUE(ComesToFill(kGreenPixel, Centred({300, 500})));
+  EXPECT_TRUE(ComesToFill(kBluePixel, Centred({screen.width / 2, screen.width / 8})));
+  EXPECT_TRUE(ComesToFill(kRedPixel, Centred({600, 400}))) << "after the last picture comes the first";
   EXPECT_EQ(e2e::ScreenPixel(2, 2), kBlackPixel);
   EXPECT_TRUE(show.endsByKey());
   EXPECT_EQ(show.exitCode(), 0U);
@@ -64,10 +65,10 @@ TEST(PictureCycle, ThePicturesOfTheDesignAppearWithTheirSizes) {
   folder.writeSettings();
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  EXPECT_TRUE(ComesToFill(kRed, {(screen.width - wide.width) / 2, 0, wide.width, screen.height}));
+  EXPECT_TRUE(ComesToFill(kRedPixel, {(screen.width - wide.width) / 2, 0, wide.width, screen.height}));
   base::PixelRect green;
   EXPECT_TRUE(e2e::WaitFor([&] {
-    green = e2e::BoundsOf(e2e::ReadScreen(), kGreen);
+    green = e2e::BoundsOf(e2e::ReadScreen(), kGreenPixel);
     return green.width == screen.height * 99 * 9 / 1000;
   })) << green.width;
   EXPECT_NEAR(green.height, screen.height * 99 / 100, 1);
@@ -83,9 +84,9 @@ TEST(PictureCycle, APictureThatCannotBeLoadedIsPassedOverInSilence) {
   folder.writeSettings();
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  EXPECT_TRUE(ComesToFill(kRed, Centred({200, 100})));
-  EXPECT_TRUE(ComesToFill(kRed, {})) << "the missing picture's turn shows the background";
-  EXPECT_TRUE(ComesToFill(kRed, Centred({200, 100})));
+  EXPECT_TRUE(ComesToFill(kRedPixel, Centred({200, 100})));
+  EXPECT_TRUE(ComesToFill(kRedPixel, {})) << "the missing picture's turn shows the background";
+  EXPECT_TRUE(ComesToFill(kRedPixel, Centred({200, 100})));
   EXPECT_TRUE(show.isRunning());
   EXPECT_TRUE(show.endsByKey());
 }
@@ -96,7 +97,7 @@ TEST(PictureCycle, WithNoPictureAtAllTheShowRunsAndEndsLikeAnyOther) {
   folder.writeSettings();
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  EXPECT_TRUE(ComesToFill(kRed, base::PixelRect::ofSize(e2e::ScreenSize())));
+  EXPECT_TRUE(ComesToFill(kRedPixel, base::PixelRect::ofSize(e2e::ScreenSize())));
   EXPECT_TRUE(show.endsByKey());
 }
 

@@ -8,22 +8,6 @@
 
 namespace e2e {
 
-namespace {
-
-// The pointer moves to a place of the primary screen.
-INPUT PointerAt(int x, int y) {
-  const base::PixelSize screen = ScreenSize();
-  INPUT input{};
-  input.type = INPUT_MOUSE;
-  input.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
-  // Absolute positions run from 0 to 65535; half a pixel more lands inside the pixel.
-  input.mi.dx = static_cast<LONG>((static_cast<long long>(x) * 65536 + 32768) / screen.width);
-  input.mi.dy = static_cast<LONG>((static_cast<long long>(y) * 65536 + 32768) / screen.height);
-  return input;
-}
-
-}  // namespace
-
 bool WaitFor(const std::function<bool()>& condition, int limitMs) {
   const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(limitMs);
   for (;;) {
@@ -37,16 +21,25 @@ bool WaitFor(const std::function<bool()>& condition, int limitMs) {
 
 RunningProgram::RunningProgram(const std::wstring& program, const std::wstring& arguments,
                                const std::wstring& currentFolder) {
-  std::wstring line = L"\"" + program + L"\"" + (arguments.empty() ? L"" : L" ") + arguments;
+  const std::wstring line = L"\"" + program + L"\"" + (arguments.empty() ? L"" : L" ") + arguments;
+  // A busy system at times refuses a process that it starts a moment later.
+  WaitFor([&] { return tryStart(program, line, currentFolder); }, 5000);
+}
+
+bool RunningProgram::tryStart(const std::wstring& program, std::wstring line,
+                              const std::wstring& currentFolder) {
   STARTUPINFOW start{};
   start.cb = sizeof(start);
   PROCESS_INFORMATION info{};
-  if (CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                     currentFolder.empty() ? nullptr : currentFolder.c_str(), &start, &info)) {
-    CloseHandle(info.hThread);
-    process_ = info.hProcess;
-    processId_ = info.dwProcessId;
+  if (!CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                      currentFolder.empty() ? nullptr : currentFolder.c_str(), &start, &info)) {
+    startError_ = GetLastError();
+    return false;
   }
+  CloseHandle(info.hThread);
+  process_ = info.hProcess;
+  processId_ = info.dwProcessId;
+  return true;
 }
 
 RunningProgram::~RunningProgram() {
@@ -64,7 +57,7 @@ bool RunningProgram::isRunning() const {
 bool RunningProgram::endsByKey(int limitMs) {
   const ULONGLONG end = GetTickCount64() + static_cast<ULONGLONG>(limitMs);
   while (isRunning() && GetTickCount64() < end) {
-    TakeKeyboardOfNobody(findWindow(L"WindowsScreenSaverClass"));
+    TakeKeyboardOfNobody(findWindow(kShowClass));
     PressKey(VK_SPACE);
     waitForEnd(200);
   }
@@ -94,7 +87,7 @@ HWND RunningProgram::findWindow(const wchar_t* className) const {
 HWND RunningProgram::waitForShow() const {
   HWND window = nullptr;
   WaitFor([&] {
-    window = findWindow(L"WindowsScreenSaverClass");
+    window = findWindow(kShowClass);
     return window != nullptr || !isRunning();
   });
   return window;
@@ -128,27 +121,9 @@ base::Pixel ScreenPixel(int x, int y) {
 
 base::PixelSize ScreenSize() { return os::ScreenWin().primarySize(); }
 
-void ClickMouse() {
-  INPUT input[2]{};
-  input[0].type = INPUT_MOUSE;
-  input[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-  input[1] = input[0];
-  input[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
-  SendInput(2, input, sizeof(INPUT));
-}
-
-void ClickAt(int x, int y) {
-  MoveMouseTo(x, y);
-  // The place goes with each event: a move that the display reports late cannot lead the click elsewhere.
-  INPUT input[] = {PointerAt(x, y), PointerAt(x, y)};
-  input[0].mi.dwFlags |= MOUSEEVENTF_LEFTDOWN;
-  input[1].mi.dwFlags |= MOUSEEVENTF_LEFTUP;
-  SendInput(2, input, sizeof(INPUT));
-}
-
-void MoveMouseTo(int x, int y) {
-  INPUT input = PointerAt(x, y);
-  SendInput(1, &input, sizeof(INPUT));
+base::Pixel MiddlePixel() {
+  const base::PixelSize screen = ScreenSize();
+  return ScreenPixel(screen.width / 2, screen.height / 2);
 }
 
 base::PixelRect BoundsOf(const base::Bitmap& picture, base::Pixel pixel) {

@@ -1,4 +1,4 @@
-// The program as Windows starts it: a process of its own, its window, the screen, the user's hands.
+// The program as Windows starts it: a process of its own, its window, and the screen.
 #pragma once
 
 #include <windows.h>
@@ -10,6 +10,9 @@
 #include "base/geometry.h"
 
 namespace e2e {
+
+// The class of the windows that a show has.
+inline constexpr wchar_t kShowClass[] = L"WindowsScreenSaverClass";
 
 // Waits until the condition holds, looking every few milliseconds and letting this process's own messages
 // run. False when it does not within the limit.
@@ -26,6 +29,7 @@ class RunningProgram {
   RunningProgram& operator=(const RunningProgram&) = delete;
 
   bool hasStarted() const { return process_ != nullptr; }
+  DWORD startError() const { return startError_; }  // the system's last refusal
   DWORD processId() const { return processId_; }
   HANDLE process() const { return process_; }
   bool isRunning() const;
@@ -45,8 +49,11 @@ class RunningProgram {
   HWND waitForShow() const;
 
  private:
+  bool tryStart(const std::wstring& program, std::wstring line, const std::wstring& currentFolder);
+
   HANDLE process_ = nullptr;
   DWORD processId_ = 0;
+  DWORD startError_ = ERROR_SUCCESS;
 };
 
 // Paints the whole inside of a window of this process, after everything that was waiting to be painted there.
@@ -58,12 +65,8 @@ base::PixelRect PixelRectOf(const RECT& area);
 base::Bitmap ReadScreen();
 base::Bitmap ReadScreen(const base::PixelRect& part);
 base::Pixel ScreenPixel(int x, int y);
+base::Pixel MiddlePixel();  // of the primary screen
 base::PixelSize ScreenSize();
-
-// The real pointer.
-void ClickMouse();  // where it is
-void ClickAt(int x, int y);
-void MoveMouseTo(int x, int y);
 
 // The smallest rectangle around all pixels of one colour; empty when there is none.
 base::PixelRect BoundsOf(const base::Bitmap& picture, base::Pixel pixel);

@@ -48,7 +48,7 @@ TEST_P(Saving, AProcessKilledAtAnyInstantLeavesTheOldFileOrTheNewOneWhole) {
   for (int kill = 0; kill < kKills || (std::min(odd, even) <= kOfAKind && kill < kMostKills); ++kill) {
     {
       e2e::RunningProgram saver(self, L"--save-for-ever \"" + os::ToWide(folder.path()) + L"\"");
-      ASSERT_TRUE(saver.hasStarted());
+      ASSERT_TRUE(saver.hasStarted()) << "error " << saver.startError() << " at kill " << kill;
       const std::string started = folder.path() + "\\started";
       ASSERT_TRUE(e2e::WaitFor([&] { return files.exists(started); }));
       Sleep(random() % longestMs);  // the instant is what varies; nothing is waited for

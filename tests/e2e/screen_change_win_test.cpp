@@ -1,12 +1,13 @@
 #include <gtest/gtest.h>
 
+#include "e2e/pointer.h"
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
+#include "support/colors.h"
 
 namespace {
 
-constexpr base::Pixel kGreen = 0xFF00FF00U;
-constexpr base::Pixel kBackground = 0xFF800000U;
+using support::kGreenPixel;
 constexpr base::PixelSize kSmall{1024, 768};
 
 // The screen at another size for a scope. The display that the tests run on must offer it.
@@ -46,7 +47,7 @@ base::PixelRect Middle(base::PixelSize size) {
 }
 
 bool PictureComesTo(base::PixelSize size) {
-  return e2e::WaitFor([&] { return e2e::BoundsOf(e2e::ReadScreen(), kGreen) == Middle(size); });
+  return e2e::WaitFor([&] { return e2e::BoundsOf(e2e::ReadScreen(), kGreenPixel) == Middle(size); });
 }
 
 bool Covers(HWND window, base::PixelSize screen) {
@@ -74,11 +75,11 @@ TEST(ScreenChange, TheShowFollowsTheScreenToAnotherSizeAndBackAndThePointerThatG
     ASSERT_EQ(e2e::ScreenSize(), kSmall);
     EXPECT_TRUE(e2e::WaitFor([&] { return Covers(window, kSmall); }));
     EXPECT_TRUE(PictureComesTo({600, 400}));
-    EXPECT_EQ(e2e::ScreenPixel(kSmall.width - 1, kSmall.height - 1), kBackground);
+    EXPECT_EQ(e2e::ScreenPixel(kSmall.width - 1, kSmall.height - 1), support::kDarkRedPixel);
   }
   EXPECT_TRUE(e2e::WaitFor([&] { return Covers(window, whole); }));
   EXPECT_TRUE(PictureComesTo({600, 400}));
-  EXPECT_EQ(e2e::ScreenPixel(whole.width - 1, whole.height - 1), kBackground);
+  EXPECT_EQ(e2e::ScreenPixel(whole.width - 1, whole.height - 1), support::kDarkRedPixel);
   EXPECT_TRUE(show.isRunning());
   EXPECT_TRUE(show.endsByKey());
 }

@@ -7,16 +7,16 @@
 #include <string>
 #include <vector>
 
+#include "e2e/pointer.h"
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
+#include "support/colors.h"
 
 namespace {
 
-constexpr base::Pixel kBlack = 0xFF000000U;
-constexpr base::Pixel kBackground = 0xFF800000U;
+using support::kBlackPixel;
 constexpr base::Pixel kDesk = 0xFF0CC822U;
 constexpr COLORREF kDeskColor = RGB(12, 200, 34);
-constexpr wchar_t kShowClass[] = L"WindowsScreenSaverClass";
 
 struct Screens {
   base::PixelRect primary;
@@ -55,7 +55,7 @@ BOOL CALLBACK CollectShowWindow(HWND window, LPARAM found) {
   wchar_t name[64] = {};
   GetClassNameW(window, name, 64);
   RECT place{};
-  if (owner == windows.processId && std::wstring(name) == kShowClass && IsWindowVisible(window) &&
+  if (owner == windows.processId && std::wstring(name) == e2e::kShowClass && IsWindowVisible(window) &&
       GetWindowRect(window, &place)) {
     windows.places.push_back(e2e::PixelRectOf(place));
   }
@@ -138,7 +138,7 @@ class SeveralScreens : public testing::Test {
 
   // Starts the show and waits until it is seen on the primary screen.
   bool starts(e2e::RunningProgram& show) const {
-    return show.waitForShow() && e2e::WaitFor([&] { return Shows(screens.primary, kBackground); });
+    return show.waitForShow() && e2e::WaitFor([&] { return Shows(screens.primary, support::kDarkRedPixel); });
   }
 
   Screens screens;
@@ -167,10 +167,10 @@ TEST_F(SeveralScreens, TheOthersAreBlackWhenToldSoAndComeBackWithTheEnd) {
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_TRUE(starts(show));
   for (const base::PixelRect& other : screens.others) {
-    EXPECT_TRUE(e2e::WaitFor([&] { return Shows(other, kBlack); })) << other.left << ", " << other.top;
+    EXPECT_TRUE(e2e::WaitFor([&] { return Shows(other, kBlackPixel); })) << other.left << ", " << other.top;
     EXPECT_TRUE(Holds(PlacesOf(show), other));
   }
-  EXPECT_TRUE(Shows(screens.primary, kBackground)) << "a cover lies over its own screen alone";
+  EXPECT_TRUE(Shows(screens.primary, support::kDarkRedPixel)) << "a cover lies over its own screen alone";
   EXPECT_TRUE(show.endsByKey());
   EXPECT_TRUE(e2e::WaitFor([&] { return left.isSeen() && below.isSeen(); }));
 }
@@ -198,13 +198,13 @@ TEST_F(SeveralScreens, AScreenThatIsUnpluggedTakesItsCoverAlongAndBringsItBack) 
   TellOfTheChange();
   EXPECT_TRUE(e2e::WaitFor([&] { return PlacesOf(show).size() == 2; }));
   EXPECT_TRUE(show.isRunning());
-  EXPECT_TRUE(e2e::WaitFor([&] { return Shows(FindScreens().primary, kBackground); }));
+  EXPECT_TRUE(e2e::WaitFor([&] { return Shows(FindScreens().primary, support::kDarkRedPixel); }));
   ASSERT_TRUE(StartNamedBy(L"LUMORA_PLUG"));
   ASSERT_TRUE(e2e::WaitFor([&] { return FindScreens().others.size() == 2; }));
   TellOfTheChange();
   EXPECT_TRUE(e2e::WaitFor([&] { return PlacesOf(show).size() == 3; }));
   for (const base::PixelRect& other : FindScreens().others) {
-    EXPECT_TRUE(e2e::WaitFor([&] { return Shows(other, kBlack); })) << other.left << ", " << other.top;
+    EXPECT_TRUE(e2e::WaitFor([&] { return Shows(other, kBlackPixel); })) << other.left << ", " << other.top;
   }
   EXPECT_TRUE(show.endsByKey());
 }
@@ -225,7 +225,7 @@ TEST_F(SeveralScreens, EachHasItsOwnPartOfTheDesktopAsABackground) {
   EXPECT_TRUE(show.endsByKey());
 }
 
-base::Pixel Middle(const base::PixelRect& screen) {
+base::Pixel MiddleOf(const base::PixelRect& screen) {
   return e2e::ScreenPixel(screen.left + screen.width / 2, screen.top + screen.height / 2);
 }
 
@@ -263,11 +263,13 @@ TEST_F(PicturesOnSeveralScreens, TheSameOneIsSizedForEach) {
   std::vector<base::PixelRect> all = screens.others;
   all.push_back(screens.primary);
   EXPECT_TRUE(e2e::WaitFor([&] {
-    return std::ranges::all_of(all, [](const base::PixelRect& screen) { return Middle(screen) == pixel(0); });
+    return std::ranges::all_of(all,
+                               [](const base::PixelRect& screen) { return MiddleOf(screen) == pixel(0); });
   }));
   for (const base::PixelRect& screen : all) EXPECT_NEAR(Columns(screen, pixel(0)), screen.width / 2, 8);
   EXPECT_TRUE(e2e::WaitFor([&] {
-    return std::ranges::all_of(all, [](const base::PixelRect& screen) { return Middle(screen) == pixel(1); });
+    return std::ranges::all_of(all,
+                               [](const base::PixelRect& screen) { return MiddleOf(screen) == pixel(1); });
   })) << "all of them change";
   EXPECT_TRUE(show->endsByKey());
 }
@@ -277,7 +279,8 @@ bool HasInk(const base::PixelRect& screen, int left, int top, int bottom) {
   for (int y = top; y < bottom; y += 2) {
     for (int x = left; x < screen.width; x += 2) {
       const base::Pixel pixel = e2e::ScreenPixel(screen.left + x, screen.top + y);
-      if (pixel != kBlack && pixel != kBackground && pixel != base::OpaquePixel(base::Rgb(250, 0, 0)))
+      if (pixel != kBlackPixel && pixel != support::kDarkRedPixel &&
+          pixel != base::OpaquePixel(base::Rgb(250, 0, 0)))
         return true;
     }
   }
@@ -304,8 +307,8 @@ TEST_F(PicturesOnSeveralScreens, TheCaptionStandsOnEachAndTheClockOnThePrimaryOn
 TEST_F(PicturesOnSeveralScreens, ThreeChangeToTheNextThree) {
   startShowing("different");
   const auto shows = [&](std::size_t first) {
-    return Middle(screens.primary) == pixel(first) && Middle(screens.others[0]) == pixel(first + 1) &&
-           Middle(screens.others[1]) == pixel(first + 2);
+    return MiddleOf(screens.primary) == pixel(first) && MiddleOf(screens.others[0]) == pixel(first + 1) &&
+           MiddleOf(screens.others[1]) == pixel(first + 2);
   };
   EXPECT_TRUE(e2e::WaitFor([&] { return shows(0); }));
   EXPECT_TRUE(e2e::WaitFor([&] { return shows(3); }));
@@ -317,20 +320,20 @@ TEST_F(PicturesOnSeveralScreens, OneSpansAllOfThem) {
   base::PixelRect whole = screens.primary;
   for (const base::PixelRect& other : screens.others) whole = whole.united(other);
   EXPECT_EQ(PlacesOf(*show), std::vector{whole});
-  EXPECT_TRUE(e2e::WaitFor([&] { return Middle(whole) == pixel(0); }));
+  EXPECT_TRUE(e2e::WaitFor([&] { return MiddleOf(whole) == pixel(0); }));
   EXPECT_TRUE(show->endsByKey());
 }
 
 TEST_F(PicturesOnSeveralScreens, AScreenThatIsUnpluggedLeavesTheOthersTheirPictures) {
   folder.set("image/timeInterval", "30");
   startShowing("different");
-  ASSERT_TRUE(e2e::WaitFor([&] { return Middle(screens.others[1]) == pixel(2); }));
+  ASSERT_TRUE(e2e::WaitFor([&] { return MiddleOf(screens.others[1]) == pixel(2); }));
   ASSERT_TRUE(StartNamedBy(L"LUMORA_UNPLUG"));
   ASSERT_TRUE(e2e::WaitFor([&] { return FindScreens().others.size() == 1; }));
   TellOfTheChange();
   EXPECT_TRUE(e2e::WaitFor([&] { return PlacesOf(*show).size() == 2; }));
-  EXPECT_EQ(Middle(screens.primary), pixel(0));
-  EXPECT_EQ(Middle(FindScreens().others.front()), pixel(1));
+  EXPECT_EQ(MiddleOf(screens.primary), pixel(0));
+  EXPECT_EQ(MiddleOf(FindScreens().others.front()), pixel(1));
   ASSERT_TRUE(StartNamedBy(L"LUMORA_PLUG"));
   ASSERT_TRUE(e2e::WaitFor([&] { return FindScreens().others.size() == 2; }));
   TellOfTheChange();

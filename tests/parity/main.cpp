@@ -102,8 +102,10 @@ void PrintCountdown(Dice& dice) {
   const os::LocalTime now{dice.between(1990, 2060), dice.between(1, 12), dice.between(1, 28),
                           dice.between(0, 23),      dice.between(0, 59), dice.between(0, 59),
                           dice.between(0, 999)};
-  const std::string text = std::to_string(dice.between(1, 13)) + "/" + std::to_string(dice.between(1, 31)) +
-                           "/" + std::to_string(dice.between(1990, 2060));
+  // One after the other: in which order a sum asks for its parts is the compiler's to choose.
+  std::string text = std::to_string(dice.between(1, 13));
+  text += "/" + std::to_string(dice.between(1, 31));
+  text += "/" + std::to_string(dice.between(1990, 2060));
   Print("countdown", ResultOf([&] {
           const auto reading = saver::ReadCountdown(now, base::ParseMonthFirstDate(text));
           return reading ? saver::CountdownText(*reading) : "over";

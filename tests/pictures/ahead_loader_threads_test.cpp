@@ -16,7 +16,7 @@
 namespace pictures {
 namespace {
 
-constexpr base::PixelSize kBox{16, 12};
+constexpr base::PixelSize kSmallBox{16, 12};
 
 // Timers that fire when the test says so.
 class HandLoop final : public os::EventLoop {
@@ -83,11 +83,11 @@ class AheadLoaderThreads : public testing::Test {
   }
 
   AheadLoader::Ticket wish(const std::string& path) {
-    return ahead->wish({path, kBox, [](const Picture& file) { return DrawAhead(file, kBox); }},
+    return ahead->wish({path, kSmallBox, [](const Picture& file) { return DrawAhead(file, kSmallBox); }},
                        [this, path](const SharedPicture& picture) {
                          answers += path + (picture ? "+ " : "- ");
                          if (picture) {
-                           EXPECT_EQ(picture->drawnAt(kBox)->size(), kBox);
+                           EXPECT_EQ(picture->drawnAt(kSmallBox)->size(), kSmallBox);
                          }
                        });
   }

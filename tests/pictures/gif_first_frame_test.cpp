@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "support/colors.h"
 #include "support/gif_builder.h"
 
 namespace pictures {
@@ -14,11 +15,11 @@ namespace {
 
 using support::GifBuilder;
 using support::GifCodes;
+using support::kBlackPixel;
+using support::kBluePixel;
+using support::kGreenPixel;
+using support::kRedPixel;
 
-constexpr base::Pixel kRed = 0xFFFF0000U;
-constexpr base::Pixel kGreen = 0xFF00FF00U;
-constexpr base::Pixel kBlue = 0xFF0000FFU;
-constexpr base::Pixel kBlack = 0xFF000000U;
 const std::string kColors("\xFF\0\0\0\xFF\0\0\0\xFF\xFF\xFF\xFF", 12);  // red, green, blue, white
 
 GifBuilder Gif(int width, int height, std::vector<std::uint8_t> indices) {
@@ -45,7 +46,8 @@ TEST(GifFirstFrame, AWholeFrameShowsItsColours) {
   const auto frame = GifFirstFrame::decode(Gif(3, 2, {0, 1, 2, 2, 1, 0}).file());
   ASSERT_TRUE(frame);
   EXPECT_EQ(frame->size(), (base::PixelSize{3, 2}));
-  EXPECT_EQ(Rows(*frame), (Picture{{kRed, kGreen, kBlue}, {kBlue, kGreen, kRed}}));
+  EXPECT_EQ(Rows(*frame),
+            (Picture{{kRedPixel, kGreenPixel, kBluePixel}, {kBluePixel, kGreenPixel, kRedPixel}}));
   EXPECT_FALSE(frame->mayBeTransparent());
 }
 
@@ -56,20 +58,20 @@ TEST(GifFirstFrame, TheColoursOfTheFrameGoBeforeThoseOfTheFile) {
 }
 
 TEST(GifFirstFrame, AnIndexBeyondTheTableIsBlack) {
-  EXPECT_EQ(Rows(*GifFirstFrame::decode(Gif(2, 1, {200, 0}).file())), (Picture{{kBlack, kRed}}));
+  EXPECT_EQ(Rows(*GifFirstFrame::decode(Gif(2, 1, {200, 0}).file())), (Picture{{kBlackPixel, kRedPixel}}));
 }
 
 TEST(GifFirstFrame, AFileWithoutColoursIsGrey) {
   GifBuilder gif = Gif(2, 1, {0, 200});
   gif.globalColors.clear();
-  EXPECT_EQ(Rows(*GifFirstFrame::decode(gif.file())), (Picture{{kBlack, 0xFFC8C8C8U}}));
+  EXPECT_EQ(Rows(*GifFirstFrame::decode(gif.file())), (Picture{{kBlackPixel, 0xFFC8C8C8U}}));
 }
 
 TEST(GifFirstFrame, AFrameAtAnOffsetLeavesTheScreenAroundItTransparent) {
   GifBuilder gif = Gif(4, 3, {0, 1});
   gif.frame = {1, 1, 2, 1};
   const auto frame = GifFirstFrame::decode(gif.file());
-  EXPECT_EQ(Rows(*frame), (Picture{{0, 0, 0, 0}, {0, kRed, kGreen, 0}, {0, 0, 0, 0}}));
+  EXPECT_EQ(Rows(*frame), (Picture{{0, 0, 0, 0}, {0, kRedPixel, kGreenPixel, 0}, {0, 0, 0, 0}}));
   EXPECT_TRUE(frame->mayBeTransparent());
 }
 
@@ -77,7 +79,7 @@ TEST(GifFirstFrame, TheTransparentIndexIsTransparent) {
   GifBuilder gif = Gif(3, 1, {0, 1, 2});
   gif.transparentIndex = 1;
   const auto frame = GifFirstFrame::decode(gif.file());
-  EXPECT_EQ(Rows(*frame), (Picture{{kRed, 0, kBlue}}));
+  EXPECT_EQ(Rows(*frame), (Picture{{kRedPixel, 0, kBluePixel}}));
   EXPECT_TRUE(frame->mayBeTransparent());
 }
 
@@ -120,7 +122,7 @@ TEST(GifFirstFrame, AnInterlacedFrameCutShortLeavesTheMissingRowsTransparent) {
   GifBuilder gif = Gif(1, 8, {0, 1, 2});
   gif.interlaced = true;
   EXPECT_EQ(Rows(*GifFirstFrame::decode(gif.file())),
-            (Picture{{kRed}, {0}, {kBlue}, {0}, {kGreen}, {0}, {0}, {0}}));
+            (Picture{{kRedPixel}, {0}, {kBluePixel}, {0}, {kGreenPixel}, {0}, {0}, {0}}));
 }
 
 TEST(GifFirstFrame, OnlyTheFirstFrameOfAnAnimationIsShown) {
@@ -129,7 +131,7 @@ TEST(GifFirstFrame, OnlyTheFirstFrameOfAnAnimationIsShown) {
   std::string file = first.file();
   file.pop_back();  // the trailer
   file += second.beforeData().substr(13 + kColors.size()) + second.data();
-  EXPECT_EQ(Rows(*GifFirstFrame::decode(file)), (Picture{{kRed, kRed}}));
+  EXPECT_EQ(Rows(*GifFirstFrame::decode(file)), (Picture{{kRedPixel, kRedPixel}}));
 }
 
 TEST(GifFirstFrame, CommentsAndPaddingBeforeTheFrameAreSkipped) {
@@ -138,7 +140,7 @@ TEST(GifFirstFrame, CommentsAndPaddingBeforeTheFrameAreSkipped) {
   const std::string extras = std::string("\0\x21\xFE\5hello\3you\0\x21\xFF\x0BNETSCAPE2.0\3\1\0\0\0", 33);
   const auto frame = GifFirstFrame::decode(whole.substr(0, image) + extras + whole.substr(image));
   ASSERT_TRUE(frame);
-  EXPECT_EQ(Rows(*frame), (Picture{{kGreen}}));
+  EXPECT_EQ(Rows(*frame), (Picture{{kGreenPixel}}));
 }
 
 TEST(GifFirstFrame, AFrameLargerThanItsScreenMakesTheScreenLarger) {
@@ -158,12 +160,12 @@ TEST(GifFirstFrame, AFrameWithoutAreaIsNoPicture) {
 TEST(GifFirstFrame, StringsThatAreMadeWhileTheyAreUsedAreDecoded) {
   // 1, then code 258 which is being made (1 1), then 259 (1 1 1), then 258 again.
   const std::string file = Gif(8, 1, {}).beforeData() + GifCodes({256, 1, 258, 259, 258, 257}) + ";";
-  EXPECT_EQ(Rows(*GifFirstFrame::decode(file)), (Picture{std::vector<base::Pixel>(8, kGreen)}));
+  EXPECT_EQ(Rows(*GifFirstFrame::decode(file)), (Picture{std::vector<base::Pixel>(8, kGreenPixel)}));
 }
 
 TEST(GifFirstFrame, ABadCodeKeepsWhatCameBefore) {
   const std::string file = Gif(4, 1, {}).beforeData() + GifCodes({256, 0, 1, 400, 2, 2}) + ";";
-  EXPECT_EQ(Rows(*GifFirstFrame::decode(file)), (Picture{{kRed, kGreen, 0, 0}}));
+  EXPECT_EQ(Rows(*GifFirstFrame::decode(file)), (Picture{{kRedPixel, kGreenPixel, 0, 0}}));
 }
 
 TEST(GifFirstFrame, ABadFirstCodeLeavesNothing) {
@@ -172,7 +174,8 @@ TEST(GifFirstFrame, ABadFirstCodeLeavesNothing) {
 }
 
 TEST(GifFirstFrame, CodesForMorePixelsThanTheFrameHasAreIgnored) {
-  EXPECT_EQ(Rows(*GifFirstFrame::decode(Gif(2, 1, {0, 1, 2, 2, 2}).file())), (Picture{{kRed, kGreen}}));
+  EXPECT_EQ(Rows(*GifFirstFrame::decode(Gif(2, 1, {0, 1, 2, 2, 2}).file())),
+            (Picture{{kRedPixel, kGreenPixel}}));
 }
 
 TEST(GifFirstFrame, ACodeSizeThatCannotBeIsNoPicture) {
@@ -190,7 +193,7 @@ TEST(GifFirstFrame, CodesOfEverySizeThatCanBeAreDecoded) {
       data += static_cast<char>(static_cast<unsigned char>(codes >> (8 * i) & 0xFF));
     const auto frame = GifFirstFrame::decode(Gif(1, 1, {}).beforeData() + data + std::string("\0;", 2));
     ASSERT_TRUE(frame) << size;
-    EXPECT_EQ(Rows(*frame), (Picture{{kGreen}})) << size;
+    EXPECT_EQ(Rows(*frame), (Picture{{kGreenPixel}})) << size;
   }
 }
 
@@ -231,7 +234,7 @@ TEST(GifFirstFrame, CodesGrowWithTheTableUntilItIsFull) {
     GifBuilder gif = Gif(5000, 1, {});
     const auto rows = Rows(*GifFirstFrame::decode(gif.beforeData() + GrowingCodes(size, indices)));
     for (std::size_t i = 0; i < indices.size(); ++i) {
-      const base::Pixel colors[] = {kRed, kGreen, kBlue, 0xFFFFFFFFU};
+      const base::Pixel colors[] = {kRedPixel, kGreenPixel, kBluePixel, 0xFFFFFFFFU};
       ASSERT_EQ(rows[0][i], colors[indices[i]]) << i << " of size " << size;
     }
   }
@@ -240,7 +243,8 @@ TEST(GifFirstFrame, CodesGrowWithTheTableUntilItIsFull) {
 TEST(GifFirstFrame, TheSmallestCodesAreDecoded) {
   // Code size 2: clear (4), 1, 2, end (5) in three bits each, low bits first: 100 001 010 101.
   const std::string data = std::string("\2\2\x8C\x0A\0;", 6);
-  EXPECT_EQ(Rows(*GifFirstFrame::decode(Gif(2, 1, {}).beforeData() + data)), (Picture{{kGreen, kBlue}}));
+  EXPECT_EQ(Rows(*GifFirstFrame::decode(Gif(2, 1, {}).beforeData() + data)),
+            (Picture{{kGreenPixel, kBluePixel}}));
 }
 
 TEST(GifFirstFrame, CutShortAnywhereItKeepsTheFirstPixelsOrNothing) {
@@ -289,7 +293,7 @@ TEST(GifFirstFrame, AHugeClaimIsRefusedAndALargeOneCostsOnlyWhatTheFileHolds) {
   ASSERT_TRUE(frame);
   std::vector<base::Pixel> row(13377);
   frame->row(0, row.data());
-  EXPECT_EQ(row[1], kBlue);
+  EXPECT_EQ(row[1], kBluePixel);
   EXPECT_EQ(row[2], 0U);
   EXPECT_TRUE(frame->mayBeTransparent());
 }

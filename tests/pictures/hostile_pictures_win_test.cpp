@@ -7,12 +7,12 @@
 #include <psapi.h>
 
 #include <algorithm>
-#include <cstdlib>
 
 #include "os/files_win.h"
 #include "os/open_file_win.h"
 #include "os/picture_decoder_win.h"
 #include "pictures/picture_loader.h"
+#include "support/channel_distance.h"
 #include "support/hostile/bitmap_files.h"
 #include "support/temporary_folder_win.h"
 #include "support/wic_encoder_win.h"
@@ -20,16 +20,11 @@
 namespace pictures {
 namespace {
 
+using support::ChannelDistance;
+
 constexpr base::PixelSize kThumbnail{48, 36};
 constexpr SIZE_T kMost = SIZE_T{1} << 30;
-
-void WriteFileAt(const std::string& path, const std::string& bytes) {
-  const os::FileHandle file(
-      CreateFileW(os::WidePath(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
-  DWORD written = 0;
-  ASSERT_TRUE(file.isOpen()) << path;
-  ASSERT_TRUE(WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr));
-}
+constexpr int kNear = 4;  // how far a format that loses some brings a colour back
 
 // Bytes of memory that this process has ever held at once. Where the system does not keep the peak of what
 // was promised, that of what was used stands in.
@@ -40,22 +35,8 @@ SIZE_T PeakMemory() {
   return std::max(counters.PeakPagefileUsage, counters.PeakWorkingSetSize);
 }
 
-// Lossy formats bring colours back nearly.
-bool IsNearly(base::Pixel a, base::Pixel b) {
-  for (int shift = 0; shift < 32; shift += 8) {
-    if (std::abs(static_cast<int>(a >> shift & 0xFF) - static_cast<int>(b >> shift & 0xFF)) > 4) return false;
-  }
-  return true;
-}
-
 class HostilePicturesWin : public testing::Test {
  protected:
-  std::string put(const std::string& name, const std::string& bytes) const {
-    const std::string path = folder.path() + "\\" + name;
-    WriteFileAt(path, bytes);
-    return path;
-  }
-
   support::ComScope com;
   support::TemporaryFolder folder;
   os::FilesWin heads;
@@ -67,7 +48,7 @@ TEST_F(HostilePicturesWin, EachIsDrawnAsItShouldBeOrRefused) {
   int drawnOnes = 0;
   int refusedOnes = 0;
   for (const auto& picture : support::AllHostilePictures()) {
-    const auto opened = loader.open(put(picture.name, picture.bytes));
+    const auto opened = loader.open(folder.put(picture.name, picture.bytes));
     const auto drawn = opened ? opened->drawnAt(kThumbnail) : nullptr;
     (drawn ? drawnOnes : refusedOnes) += 1;
     if (picture.outcome != support::Outcome::either) {
@@ -79,10 +60,11 @@ TEST_F(HostilePicturesWin, EachIsDrawnAsItShouldBeOrRefused) {
     if (!picture.corners) continue;
     const auto whole = opened->drawnAt(opened->size());
     ASSERT_TRUE(whole) << picture.name;
-    EXPECT_TRUE(IsNearly(whole->at(0, 0), picture.corners->topLeft))
+    EXPECT_LE(ChannelDistance(whole->at(0, 0), picture.corners->topLeft), kNear)
         << picture.name << std::hex << " " << whole->at(0, 0);
     const base::Pixel last = whole->at(opened->size().width - 1, opened->size().height - 1);
-    EXPECT_TRUE(IsNearly(last, picture.corners->bottomRight)) << picture.name << std::hex << " " << last;
+    EXPECT_LE(ChannelDistance(last, picture.corners->bottomRight), kNear)
+        << picture.name << std::hex << " " << last;
   }
   EXPECT_GT(drawnOnes, 60);
   EXPECT_GT(refusedOnes, 60);
@@ -91,7 +73,7 @@ TEST_F(HostilePicturesWin, EachIsDrawnAsItShouldBeOrRefused) {
 TEST_F(HostilePicturesWin, NoneOfThemTakesMoreMemoryThanTheBound) {
   const SIZE_T before = PeakMemory();
   for (const auto& picture : support::AllHostilePictures()) {
-    const auto opened = loader.open(put(picture.name, picture.bytes));
+    const auto opened = loader.open(folder.put(picture.name, picture.bytes));
     if (opened) opened->drawnAt({320, 200});
     ASSERT_LT(PeakMemory(), std::max(before, kMost)) << picture.name;
   }
@@ -139,7 +121,7 @@ TEST_F(HostilePicturesWin, APathOfThreeHundredCharactersIsAsGoodAsAnyOther) {
   path += "\\" + std::string(300 - path.size() - 5, 'f') + ".bmp";
   ASSERT_EQ(path.size(), 300U);
   EXPECT_FALSE(loader.open(path));
-  WriteFileAt(path, support::RedOverBlue(24, 0, false).bytes());
+  support::WriteFileAt(path, support::RedOverBlue(24, 0, false).bytes());
   const auto opened = loader.open(path);
   ASSERT_TRUE(opened);
   EXPECT_TRUE(opened->drawnAt(kThumbnail));
@@ -154,13 +136,13 @@ TEST_F(HostilePicturesWin, ADeadNetworkPathIsRefused) {
 
 TEST_F(HostilePicturesWin, AFileThatGrowsOrShrinksBehindTheProgramsBackIsDrawnOrRefused) {
   const std::string whole = support::RedOverBlue(24, 0, false).bytes();
-  const std::string path = put("a.bmp", whole);
+  const std::string path = folder.put("a.bmp", whole);
   const auto opened = loader.open(path);
   ASSERT_TRUE(opened);
   ASSERT_TRUE(opened->drawnAt(kThumbnail));
-  WriteFileAt(path, whole.substr(0, 60));
+  support::WriteFileAt(path, whole.substr(0, 60));
   EXPECT_FALSE(opened->drawnAt(kThumbnail));
-  WriteFileAt(path, whole);
+  support::WriteFileAt(path, whole);
   EXPECT_TRUE(opened->drawnAt(kThumbnail));
   DeleteFileW(os::WidePath(path).c_str());
   EXPECT_FALSE(opened->drawnAt(kThumbnail));

@@ -95,7 +95,7 @@ TEST(JpegSegments, AreCutShortWhereTheBytesEnd) {
   for (std::size_t kept = 0; kept < 4; ++kept) EXPECT_EQ(SegmentsOf(kFirst.substr(0, kept)), Segments());
 }
 
-int OrientationOf(const std::string& segments) {
+int OrientationIn(const std::string& segments) {
   return static_cast<int>(ReadExifOrientation(support::JpegHead(segments, {64, 48})));
 }
 
@@ -112,7 +112,7 @@ std::string BlockOf(const std::string& orientations) {
 
 TEST(ExifBlock, TheFirstEntryThatSaysAnOrientationCounts) {
   const auto orientationOf = [](const std::string& orientations) {
-    return OrientationOf(JpegSegmentBytes(0xE1, std::string("Exif\0\0", 6) + BlockOf(orientations)));
+    return OrientationIn(JpegSegmentBytes(0xE1, std::string("Exif\0\0", 6) + BlockOf(orientations)));
   };
   EXPECT_EQ(orientationOf("\6\3"), 6);
   EXPECT_EQ(orientationOf("\x09\3"), 3) << "what is no orientation hides none";
@@ -123,9 +123,9 @@ TEST(ExifBlock, TheFirstEntryThatSaysAnOrientationCounts) {
 
 TEST(ExifBlock, StandsInASegmentOfItsKindBehindItsWholeName) {
   const std::string block = BlockOf("\6");
-  EXPECT_EQ(OrientationOf(JpegSegmentBytes(0xE1, std::string("Exif\0\0", 6) + block)), 6);
+  EXPECT_EQ(OrientationIn(JpegSegmentBytes(0xE1, std::string("Exif\0\0", 6) + block)), 6);
   for (const int marker : {0xE0, 0xE2, 0xED, 0xEF, 0xFE, 0xC1, 0x61}) {
-    EXPECT_EQ(OrientationOf(
+    EXPECT_EQ(OrientationIn(
                   JpegSegmentBytes(static_cast<std::uint8_t>(marker), std::string("Exif\0\0", 6) + block)),
               1)
         << marker;
@@ -133,7 +133,7 @@ TEST(ExifBlock, StandsInASegmentOfItsKindBehindItsWholeName) {
   for (const std::string& name :
        {std::string(), std::string("Exif"), std::string("Exif\0", 5), std::string("Exif\0\1", 6),
         std::string("exif\0\0", 6), std::string("EXIF\0\0", 6), std::string("Exif\0\0\0", 7)}) {
-    EXPECT_EQ(OrientationOf(JpegSegmentBytes(0xE1, name + block)), 1) << name;
+    EXPECT_EQ(OrientationIn(JpegSegmentBytes(0xE1, name + block)), 1) << name;
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/byte_writer.h"
 #include "support/jpeg_builder.h"
 #include "support/noise.h"
 #include "support/photo_builder.h"
@@ -312,10 +313,7 @@ class LaidOutBlock {
 
  private:
   std::string number(std::uint32_t value, int width) const {
-    std::string out;
-    for (int i = 0; i < width; ++i)
-      out += static_cast<char>(value >> (8 * (bigEndian_ ? width - 1 - i : i)) & 0xFF);
-    return out;
+    return support::NumberBytes(value, width, bigEndian_);
   }
 
   bool bigEndian_;

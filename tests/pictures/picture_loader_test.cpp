@@ -28,7 +28,7 @@ base::Bitmap Gradient(base::PixelSize size) {
   return picture;
 }
 
-class PictureLoader : public testing::Test {
+class PictureLoaderTest : public testing::Test {
  protected:
   // A JPEG file with these pixels, turned by an orientation when that is not 0.
   support::FakeStoredPicture& addJpeg(const std::string& path, base::Bitmap pixels, int orientation = 0) {
@@ -43,7 +43,7 @@ class PictureLoader : public testing::Test {
   FilePictureLoader loader{heads, decoder};
 };
 
-TEST_F(PictureLoader, APictureAtItsOwnSizeIsThePicture) {
+TEST_F(PictureLoaderTest, APictureAtItsOwnSizeIsThePicture) {
   addJpeg("a.jpg", Gradient({40, 30}));
   const auto picture = loader.open("a.jpg");
   ASSERT_TRUE(picture);
@@ -53,25 +53,25 @@ TEST_F(PictureLoader, APictureAtItsOwnSizeIsThePicture) {
   EXPECT_TRUE(drawn->isOpaque());
 }
 
-TEST_F(PictureLoader, ASmallerDrawingIsTheAverageOverArea) {
+TEST_F(PictureLoaderTest, ASmallerDrawingIsTheAverageOverArea) {
   addJpeg("a.jpg", Gradient({401, 307}));
   EXPECT_EQ(*loader.open("a.jpg")->drawnAt({100, 77}), base::Resample(Gradient({401, 307}), {100, 77}));
 }
 
-TEST_F(PictureLoader, ALargerDrawingIsEnlarged) {
+TEST_F(PictureLoaderTest, ALargerDrawingIsEnlarged) {
   addJpeg("a.jpg", Gradient({4, 3}));
   const auto drawn = loader.open("a.jpg")->drawnAt({13, 11});
   EXPECT_EQ(*drawn, base::Resample(Gradient({4, 3}), {13, 11}));
   EXPECT_TRUE(drawn->isOpaque());
 }
 
-TEST_F(PictureLoader, RowsAreReadInBandsFromTheTopDown) {
+TEST_F(PictureLoaderTest, RowsAreReadInBandsFromTheTopDown) {
   auto& stored = addJpeg("a.jpg", Gradient({2000, 100}));
   ASSERT_TRUE(loader.open("a.jpg")->drawnAt({50, 30}));
   EXPECT_EQ(stored.reads, (std::vector<Read>{{1, 0, 32}, {1, 32, 32}, {1, 64, 32}, {1, 96, 4}}));
 }
 
-TEST_F(PictureLoader, TheDecoderReducesAsFarAsThePictureStaysLargeEnough) {
+TEST_F(PictureLoaderTest, TheDecoderReducesAsFarAsThePictureStaysLargeEnough) {
   const auto reductionFor = [this](base::PixelSize drawn) {
     auto& stored = addJpeg("a.jpg", Gradient({800, 600}));
     stored.reductions = {1, 2, 4, 8};
@@ -88,7 +88,7 @@ TEST_F(PictureLoader, TheDecoderReducesAsFarAsThePictureStaysLargeEnough) {
   EXPECT_EQ(reductionFor({1600, 20}), 1);
 }
 
-TEST_F(PictureLoader, AReductionThatFailsIsDoneWithout) {
+TEST_F(PictureLoaderTest, AReductionThatFailsIsDoneWithout) {
   auto& stored = addJpeg("a.jpg", Gradient({80, 60}));
   stored.reductions = {1, 2, 4};
   stored.brokenReductions = {4};
@@ -96,7 +96,7 @@ TEST_F(PictureLoader, AReductionThatFailsIsDoneWithout) {
   EXPECT_EQ(stored.reads, (std::vector<Read>{{4, 0, 15}, {1, 0, 60}}));
 }
 
-TEST_F(PictureLoader, ATurnedPictureIsShrunkBeforeItIsTurned) {
+TEST_F(PictureLoaderTest, ATurnedPictureIsShrunkBeforeItIsTurned) {
   auto& stored = addJpeg("a.jpg", Gradient({400, 300}), 6);
   stored.reductions = {1, 2, 4};
   const auto picture = loader.open("a.jpg");
@@ -112,7 +112,7 @@ TEST_F(PictureLoader, ATurnedPictureIsShrunkBeforeItIsTurned) {
   EXPECT_TRUE(drawn->isOpaque());
 }
 
-TEST_F(PictureLoader, EveryOrientationPutsTheStoredCornerInItsPlace) {
+TEST_F(PictureLoaderTest, EveryOrientationPutsTheStoredCornerInItsPlace) {
   const base::PixelPoint corners[] = {{0, 0}, {3, 0}, {3, 2}, {0, 2}, {0, 0}, {2, 0}, {2, 3}, {0, 3}};
   for (int orientation = 1; orientation <= 8; ++orientation) {
     base::Bitmap stored({4, 3}, 0xFF000000U);
@@ -131,7 +131,7 @@ base::Bitmap PartOf(const base::Bitmap& whole, const base::PixelRect& part) {
   return cut;
 }
 
-TEST_F(PictureLoader, APartIsWhatTheWholePictureShowsThere) {
+TEST_F(PictureLoaderTest, APartIsWhatTheWholePictureShowsThere) {
   for (int orientation = 1; orientation <= 8; ++orientation) {
     addJpeg("a.jpg", Gradient({90, 70}), orientation);
     const auto picture = loader.open("a.jpg");
@@ -146,7 +146,7 @@ TEST_F(PictureLoader, APartIsWhatTheWholePictureShowsThere) {
   }
 }
 
-TEST_F(PictureLoader, ForAPartNoOtherRowsAreDecodedAndNoOtherColumnsHeld) {
+TEST_F(PictureLoaderTest, ForAPartNoOtherRowsAreDecodedAndNoOtherColumnsHeld) {
   auto& stored = addJpeg("a.jpg", Gradient({2000, 100}));
   const auto drawn = loader.open("a.jpg")->drawnPart({1500, 31, 20, 40});
   ASSERT_TRUE(drawn);
@@ -154,7 +154,7 @@ TEST_F(PictureLoader, ForAPartNoOtherRowsAreDecodedAndNoOtherColumnsHeld) {
   EXPECT_EQ(stored.reads, (std::vector<Read>{{1, 31, 32}, {1, 63, 8}}));
 }
 
-TEST_F(PictureLoader, ThePartOfATransparentPictureIsOpaqueWhereAllItsPixelsAre) {
+TEST_F(PictureLoaderTest, ThePartOfATransparentPictureIsOpaqueWhereAllItsPixelsAre) {
   base::Bitmap pixels({4, 2}, 0xFF00FF00U);
   pixels.row(0)[0] = 0x8000FF00U;
   addJpeg("a.jpg", pixels).hasAlpha = true;
@@ -168,7 +168,7 @@ TEST_F(PictureLoader, ThePartOfATransparentPictureIsOpaqueWhereAllItsPixelsAre) 
   EXPECT_TRUE(opaque->isOpaque());
 }
 
-TEST_F(PictureLoader, APartThatCannotBeDecodedIsToldLikeAWholePicture) {
+TEST_F(PictureLoaderTest, APartThatCannotBeDecodedIsToldLikeAWholePicture) {
   addJpeg("a.jpg", Gradient({40, 30})).brokenFromRow = 20;
   int told = 0;
   loader.onFailure = [&told](const std::string&, PictureFailure) { ++told; };
@@ -192,7 +192,7 @@ TEST(PictureInMemory, GivesAPartOfItself) {
   EXPECT_EQ(picture->drawnPart({0, 0, 9, 7}), picture->drawnAt({9, 7})) << "no second copy of the pixels";
 }
 
-TEST_F(PictureLoader, TransparentPixelsAreMultipliedBeforeTheyAreAveraged) {
+TEST_F(PictureLoaderTest, TransparentPixelsAreMultipliedBeforeTheyAreAveraged) {
   base::Bitmap pixels(base::PixelSize{2, 1});
   pixels.row(0)[0] = 0xFFFF0000U;
   pixels.row(0)[1] = 0x0000FF00U;  // a green that nobody can see
@@ -203,20 +203,20 @@ TEST_F(PictureLoader, TransparentPixelsAreMultipliedBeforeTheyAreAveraged) {
   EXPECT_FALSE(drawn->isOpaque());
 }
 
-TEST_F(PictureLoader, APictureThatCouldBeTransparentAndIsNotIsMarkedOpaque) {
+TEST_F(PictureLoaderTest, APictureThatCouldBeTransparentAndIsNotIsMarkedOpaque) {
   auto& stored = addJpeg("a.jpg", Gradient({5, 5}));
   stored.hasAlpha = true;
   EXPECT_TRUE(loader.open("a.jpg")->drawnAt({5, 5})->isOpaque());
 }
 
-TEST_F(PictureLoader, TheAlphaOfAnOpaquePictureMeansNothing) {
+TEST_F(PictureLoaderTest, TheAlphaOfAnOpaquePictureMeansNothing) {
   base::Bitmap pixels(base::PixelSize{1, 1});
   pixels.row(0)[0] = 0x00112233U;
   addJpeg("a.jpg", pixels);
   EXPECT_EQ(loader.open("a.jpg")->drawnAt({1, 1})->at(0, 0), 0xFF112233U);
 }
 
-TEST_F(PictureLoader, APictureBrokenHalfWayDrawsNothing) {
+TEST_F(PictureLoaderTest, APictureBrokenHalfWayDrawsNothing) {
   addJpeg("a.jpg", Gradient({2000, 100})).brokenFromRow = 50;
   const auto picture = loader.open("a.jpg");
   ASSERT_TRUE(picture);
@@ -225,7 +225,7 @@ TEST_F(PictureLoader, APictureBrokenHalfWayDrawsNothing) {
   EXPECT_FALSE(picture->drawnAt({50, 30}));
 }
 
-TEST_F(PictureLoader, NothingIsKeptOpenAfterADrawing) {
+TEST_F(PictureLoaderTest, NothingIsKeptOpenAfterADrawing) {
   addJpeg("a.jpg", Gradient({20, 20}));
   const auto picture = loader.open("a.jpg");
   EXPECT_TRUE(picture->drawnAt({10, 10}));
@@ -236,7 +236,7 @@ TEST_F(PictureLoader, NothingIsKeptOpenAfterADrawing) {
   EXPECT_EQ(decoder.opened.size(), 2U);
 }
 
-TEST_F(PictureLoader, AFileThatHasBecomeAnotherPictureDrawsNothing) {
+TEST_F(PictureLoaderTest, AFileThatHasBecomeAnotherPictureDrawsNothing) {
   addJpeg("a.jpg", Gradient({20, 20}));
   const auto picture = loader.open("a.jpg");
   EXPECT_TRUE(picture->drawnAt({10, 10}));
@@ -246,7 +246,7 @@ TEST_F(PictureLoader, AFileThatHasBecomeAnotherPictureDrawsNothing) {
   EXPECT_FALSE(picture->drawnAt({10, 10}));
 }
 
-TEST_F(PictureLoader, WhatIsNoPictureIsNull) {
+TEST_F(PictureLoaderTest, WhatIsNoPictureIsNull) {
   EXPECT_FALSE(loader.open(""));
   EXPECT_FALSE(loader.open("missing.jpg"));
   heads.content["empty.jpg"] = "";
@@ -261,7 +261,7 @@ std::string TiffHead(int orientation) {
   return tiff + static_cast<char>(orientation) + std::string(6, '\0');
 }
 
-TEST_F(PictureLoader, AFileOfAKindThatOnlyTheDecoderKnowsIsItsBusiness) {
+TEST_F(PictureLoaderTest, AFileOfAKindThatOnlyTheDecoderKnowsIsItsBusiness) {
   heads.content["a.heic"] = "some format of a later day";
   decoder.pictures["a.heic"].pixels = Gradient({40, 30});
   const auto picture = loader.open("a.heic");
@@ -270,7 +270,7 @@ TEST_F(PictureLoader, AFileOfAKindThatOnlyTheDecoderKnowsIsItsBusiness) {
   EXPECT_EQ(decoder.opened, std::vector<std::string>{"a.heic"});
 }
 
-TEST_F(PictureLoader, AnUnknownKindIsBoundedByTheSizeThatTheDecoderFinds) {
+TEST_F(PictureLoaderTest, AnUnknownKindIsBoundedByTheSizeThatTheDecoderFinds) {
   heads.content["long.tif"] = TiffHead(1);
   decoder.pictures["long.tif"].pixels = base::Bitmap({base::AreaAverage::kLongestSide + 1, 1});
   heads.content["most.tif"] = TiffHead(1);
@@ -279,7 +279,7 @@ TEST_F(PictureLoader, AnUnknownKindIsBoundedByTheSizeThatTheDecoderFinds) {
   EXPECT_TRUE(loader.open("most.tif"));
 }
 
-TEST_F(PictureLoader, ATiffFileIsTurnedUprightToo) {
+TEST_F(PictureLoaderTest, ATiffFileIsTurnedUprightToo) {
   heads.content["a.tif"] = TiffHead(6);
   decoder.pictures["a.tif"].pixels = Gradient({40, 30});
   const auto picture = loader.open("a.tif");
@@ -287,7 +287,7 @@ TEST_F(PictureLoader, ATiffFileIsTurnedUprightToo) {
   EXPECT_EQ(picture->size(), (base::PixelSize{30, 40}));
 }
 
-TEST_F(PictureLoader, TellsOfAFileThatItCannotOpen) {
+TEST_F(PictureLoaderTest, TellsOfAFileThatItCannotOpen) {
   std::vector<std::string> told;
   loader.onFailure = [&](const std::string& path, PictureFailure failure) {
     told.push_back(path + (failure == PictureFailure::NotOpened ? ": not opened" : ": not drawn"));
@@ -296,7 +296,7 @@ TEST_F(PictureLoader, TellsOfAFileThatItCannotOpen) {
   EXPECT_EQ(told, std::vector<std::string>{"missing.jpg: not opened"});
 }
 
-TEST_F(PictureLoader, TellsOfAPictureThatItCannotDraw) {
+TEST_F(PictureLoaderTest, TellsOfAPictureThatItCannotDraw) {
   addJpeg("a.jpg", Gradient({4, 3})).brokenFromRow = 1;
   std::vector<std::string> told;
   loader.onFailure = [&](const std::string& path, PictureFailure failure) {
@@ -309,13 +309,13 @@ TEST_F(PictureLoader, TellsOfAPictureThatItCannotDraw) {
   EXPECT_EQ(told, std::vector<std::string>{"a.jpg: not drawn"});
 }
 
-TEST_F(PictureLoader, APictureThatTheDecoderRefusesIsNull) {
+TEST_F(PictureLoaderTest, APictureThatTheDecoderRefusesIsNull) {
   heads.content["a.jpg"] = support::JpegHead("", {4, 3});
   EXPECT_FALSE(loader.open("a.jpg"));
   EXPECT_EQ(decoder.opened.size(), 1U);
 }
 
-TEST_F(PictureLoader, HugeClaimsAreRefusedBeforeTheDecoderSeesThem) {
+TEST_F(PictureLoaderTest, HugeClaimsAreRefusedBeforeTheDecoderSeesThem) {
   const auto png = [](const char* size) {
     return std::string("\x89PNG\r\n\x1A\n\0\0\0\x0DIHDR", 16) + std::string(size, 8);
   };
@@ -332,7 +332,7 @@ TEST_F(PictureLoader, HugeClaimsAreRefusedBeforeTheDecoderSeesThem) {
   EXPECT_TRUE(decoder.opened.empty());
 }
 
-TEST_F(PictureLoader, ADrawingOfMoreThanTheBoundIsRefused) {
+TEST_F(PictureLoaderTest, ADrawingOfMoreThanTheBoundIsRefused) {
   auto& stored = addJpeg("a.jpg", Gradient({4, 3}));
   const auto picture = loader.open("a.jpg");
   EXPECT_FALSE(picture->drawnAt({1 << 14, (1 << 13) + 1}));
@@ -340,14 +340,14 @@ TEST_F(PictureLoader, ADrawingOfMoreThanTheBoundIsRefused) {
   EXPECT_TRUE(stored.reads.empty());
 }
 
-TEST_F(PictureLoader, ADrawingWithoutAreaIsEmpty) {
+TEST_F(PictureLoaderTest, ADrawingWithoutAreaIsEmpty) {
   addJpeg("a.jpg", Gradient({4, 3}));
   const auto drawn = loader.open("a.jpg")->drawnAt({0, 7});
   ASSERT_TRUE(drawn);
   EXPECT_TRUE(drawn->isEmpty());
 }
 
-TEST_F(PictureLoader, ASizeFarInsideTheFileIsFoundByALongerLook) {
+TEST_F(PictureLoaderTest, ASizeFarInsideTheFileIsFoundByALongerLook) {
   std::string profiles;
   for (int i = 0; i < 10; ++i) profiles += support::JpegSegmentBytes(0xE2, std::string(60000, 'p'));
   addJpeg("a.jpg", Gradient({8, 6}));
@@ -356,7 +356,7 @@ TEST_F(PictureLoader, ASizeFarInsideTheFileIsFoundByALongerLook) {
   EXPECT_EQ(heads.limits, (std::vector<std::size_t>{256 << 10, 16 << 20}));
 }
 
-TEST_F(PictureLoader, APictureTellsWhatItsFileSaysAndWhenItWasTaken) {
+TEST_F(PictureLoaderTest, APictureTellsWhatItsFileSaysAndWhenItWasTaken) {
   addJpeg("a.jpg", Gradient({8, 6}));
   heads.content["a.jpg"] =
       support::JpegHead(support::NotesSegment({.first = {{support::kModelTag, "X100"}},
@@ -372,7 +372,7 @@ TEST_F(PictureLoader, APictureTellsWhatItsFileSaysAndWhenItWasTaken) {
   EXPECT_TRUE(heads.dated.empty());
 }
 
-TEST_F(PictureLoader, APictureOfAnUnknownMomentTellsWhenItsFileWasChanged) {
+TEST_F(PictureLoaderTest, APictureOfAnUnknownMomentTellsWhenItsFileWasChanged) {
   addJpeg("a.jpg", Gradient({8, 6}));
   heads.changed["a.jpg"] = {2020, 1, 1, 12, 0, 0, 0};
   const auto picture = loader.open("a.jpg");
@@ -392,7 +392,7 @@ support::GifBuilder SmallGif() {
   return gif;
 }
 
-TEST_F(PictureLoader, TheKindIsDecidedByContentWhateverTheNameSays) {
+TEST_F(PictureLoaderTest, TheKindIsDecidedByContentWhateverTheNameSays) {
   heads.content["photo.jpg"] = SmallGif().file();
   const auto picture = loader.open("photo.jpg");
   ASSERT_TRUE(picture);
@@ -400,7 +400,7 @@ TEST_F(PictureLoader, TheKindIsDecidedByContentWhateverTheNameSays) {
   EXPECT_TRUE(decoder.opened.empty());
 }
 
-TEST_F(PictureLoader, AGifIsComposedOnItsScreen) {
+TEST_F(PictureLoaderTest, AGifIsComposedOnItsScreen) {
   heads.content["a.gif"] = SmallGif().file();
   const auto picture = loader.open("a.gif");
   for (int round = 0; round < 2; ++round) {
@@ -413,7 +413,7 @@ TEST_F(PictureLoader, AGifIsComposedOnItsScreen) {
   }
 }
 
-TEST_F(PictureLoader, AGifLargerThanItsHeadIsReadAsFarAsItsFrameMayNeed) {
+TEST_F(PictureLoaderTest, AGifLargerThanItsHeadIsReadAsFarAsItsFrameMayNeed) {
   support::GifBuilder gif;
   gif.screen = {700, 600};
   gif.frame = {0, 0, 700, 600};
@@ -428,7 +428,7 @@ TEST_F(PictureLoader, AGifLargerThanItsHeadIsReadAsFarAsItsFrameMayNeed) {
   EXPECT_EQ(heads.limits.back(), (256U << 10) + 3U * 700 * 600);
 }
 
-TEST_F(PictureLoader, AGifWithoutOnePixelIsNull) {
+TEST_F(PictureLoaderTest, AGifWithoutOnePixelIsNull) {
   heads.content["a.gif"] = SmallGif().beforeData();
   EXPECT_FALSE(loader.open("a.gif"));
 }

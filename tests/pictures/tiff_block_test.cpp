@@ -5,27 +5,23 @@
 #include <cstdint>
 #include <string>
 
+#include "support/byte_writer.h"
+
 namespace pictures {
 namespace {
 
-std::string Number(std::uint32_t value, int width, bool bigEndian) {
-  std::string out;
-  for (int i = 0; i < width; ++i) {
-    const int shift = 8 * (bigEndian ? width - 1 - i : i);
-    out += static_cast<char>(static_cast<unsigned char>(value >> shift & 0xFF));
-  }
-  return out;
-}
+using support::NumberBytes;
 
 // A block whose directory stands at an offset and announces a count of entries.
 std::string Block(bool bigEndian, std::uint32_t directory, std::uint32_t count, const std::string& entries) {
-  return (bigEndian ? "MM" : "II") + Number(42, 2, bigEndian) + Number(directory, 4, bigEndian) +
-         std::string(directory - 8, '\x7F') + Number(count, 2, bigEndian) + entries;
+  return (bigEndian ? "MM" : "II") + NumberBytes(42, 2, bigEndian) + NumberBytes(directory, 4, bigEndian) +
+         std::string(directory - 8, '\x7F') + NumberBytes(count, 2, bigEndian) + entries;
 }
 
 std::string Entry(bool bigEndian, std::uint32_t tag, std::uint32_t type, std::uint32_t count,
                   const std::string& value) {
-  return Number(tag, 2, bigEndian) + Number(type, 2, bigEndian) + Number(count, 4, bigEndian) + value;
+  return NumberBytes(tag, 2, bigEndian) + NumberBytes(type, 2, bigEndian) + NumberBytes(count, 4, bigEndian) +
+         value;
 }
 
 // The number that the only entry of a block holds, in its four bytes.
@@ -42,7 +38,7 @@ TEST(TiffBlock, EveryEntryOfADirectoryIsReadAndNoneBehindIt) {
     for (const std::uint32_t count : {0U, 1U, 2U, 255U, 256U, 300U, 5461U}) {
       std::string entries;
       for (std::uint32_t i = 0; i <= count; ++i) {  // one more than the directory has
-        entries += Entry(bigEndian, 1000 + i, 3, 1, Number(i, 4, bigEndian));
+        entries += Entry(bigEndian, 1000 + i, 3, 1, NumberBytes(i, 4, bigEndian));
       }
       const std::string bytes = Block(bigEndian, 8, count, entries);
       const auto block = TiffBlock::of(bytes);

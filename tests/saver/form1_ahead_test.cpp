@@ -8,14 +8,15 @@
 #include <vector>
 
 #include "saver/picture_size.h"
+#include "support/colors.h"
 #include "support/show_stage.h"
 
 namespace saver {
 namespace {
 
-constexpr base::PackedColor kRed = base::Rgb(255, 0, 0);
-constexpr base::PackedColor kGreen = base::Rgb(0, 255, 0);
-constexpr base::PackedColor kBlue = base::Rgb(0, 0, 255);
+using support::kBlue;
+using support::kGreen;
+using support::kRed;
 
 class Form1Ahead : public testing::Test {
  protected:

@@ -1,14 +1,15 @@
 // Captions that the show makes by itself.
 #include <gtest/gtest.h>
 
+#include "support/colors.h"
 #include "support/show_stage.h"
 #include "support/started_show.h"
 
 namespace {
 
+using support::kRed;
 using support::ShowStage;
 
-constexpr base::PackedColor kRed = base::Rgb(255, 0, 0);
 constexpr base::PixelSize kSize{100, 80};
 
 class CaptionsByThemselves : public testing::TestWithParam<bool> {

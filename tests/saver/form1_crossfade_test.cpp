@@ -1,6 +1,7 @@
 // Crossfades and direct changes in the real show.
 #include <gtest/gtest.h>
 
+#include "support/colors.h"
 #include "support/look_show.h"
 #include "support/noise.h"
 
@@ -9,14 +10,13 @@ namespace {
 
 using base::Pixel;
 using support::Channel;
+using support::kBlackPixel;
 using support::kFirstPictureMs;
+using support::kGreen;
+using support::kGreenPixel;
+using support::kRed;
+using support::kRedPixel;
 using support::ScreensWhile;
-
-constexpr Pixel kBlack = 0xFF000000;
-constexpr base::PackedColor kRed = 0x0000FF;
-constexpr base::PackedColor kGreen = 0x00FF00;
-constexpr Pixel kRedPixel = 0xFFFF0000;
-constexpr Pixel kGreenPixel = 0xFF00FF00;
 
 class FormCrossfade : public testing::Test, protected support::LookShow {};
 
@@ -67,7 +67,7 @@ TEST_F(FormCrossfade, ACrossfadeBetweenSizesFadesTheRestIntoTheBackground) {
     EXPECT_NEAR(Channel(show.screenAt(160, 30), 1), 180, 20) << "half there";
   });
   at(kFirstPictureMs + 700 + 1000 + 750, [&] {
-    EXPECT_EQ(show.screenAt(70, 120), kBlack);
+    EXPECT_EQ(show.screenAt(70, 120), kBlackPixel);
     EXPECT_EQ(show.screenAt(160, 30), kGreenPixel);
   });
   run();
@@ -106,7 +106,7 @@ TEST_F(FormCrossfade, ABrokenPictureFadesIntoTheBackground) {
   show.set("total/total", "2");
   show.start();
   at(kFirstPictureMs + 700 + 1000 + 350, [&] { EXPECT_NEAR(Channel(show.screenAt(160, 120), 2), 180, 20); });
-  at(kFirstPictureMs + 700 + 1000 + 750, [&] { EXPECT_EQ(show.screenAt(160, 120), kBlack); });
+  at(kFirstPictureMs + 700 + 1000 + 750, [&] { EXPECT_EQ(show.screenAt(160, 120), kBlackPixel); });
   run();
 }
 
@@ -119,13 +119,13 @@ TEST_F(FormCrossfade, ADirectChangeRunsAnEffectOverTheAreaOfBothPictures) {
   show.start();
   at(kFirstPictureMs + 1000 + 1000 + 500, [&] {
     // The area of both is 200 pixels wide; half of it has been wiped.
-    EXPECT_EQ(show.screenAt(70, 120), kBlack) << "the old picture is gone here";
+    EXPECT_EQ(show.screenAt(70, 120), kBlackPixel) << "the old picture is gone here";
     EXPECT_EQ(show.screenAt(250, 120), kRedPixel) << "and still there";
     EXPECT_EQ(show.screenAt(150, 30), kGreenPixel) << "half of the new one has come";
-    EXPECT_EQ(show.screenAt(175, 30), kBlack);
+    EXPECT_EQ(show.screenAt(175, 30), kBlackPixel);
   });
   at(kFirstPictureMs + 1000 + 1000 + 1100, [&] {
-    EXPECT_EQ(show.screenAt(250, 120), kBlack);
+    EXPECT_EQ(show.screenAt(250, 120), kBlackPixel);
     EXPECT_EQ(show.screenAt(175, 30), kGreenPixel);
     EXPECT_EQ(show.form->DisplayingPicture.pixelRect(), (base::PixelRect{140, 20, 40, 200}));
   });
@@ -155,11 +155,11 @@ TEST_F(FormCrossfade, OfACrossfadeForAnotherScreenNothingIsSeenOnTheNewOne) {
   show.start();
   bool looked = false;
   at(kFirstPictureMs + 300, [&] {
-    ASSERT_NE(show.screenAt(100, 100), kBlack);
+    ASSERT_NE(show.screenAt(100, 100), kBlackPixel);
     ASSERT_NE(show.screenAt(100, 100), kRedPixel);
     show.screen.size = {480, 360};
     show.form->ScreenChanged();
-    EXPECT_EQ(show.screenAt(100, 100), kBlack);
+    EXPECT_EQ(show.screenAt(100, 100), kBlackPixel);
     looked = true;
   });
   run();

@@ -1,18 +1,18 @@
 #include <gtest/gtest.h>
 
+#include "support/colors.h"
 #include "support/show_stage.h"
 
 namespace {
 
+using support::kBlackPixel;
+using support::kBlue;
+using support::kBluePixel;
+using support::kGreen;
+using support::kGreenPixel;
+using support::kRed;
+using support::kRedPixel;
 using support::ShowStage;
-
-constexpr base::PackedColor kRed = base::Rgb(255, 0, 0);
-constexpr base::PackedColor kGreen = base::Rgb(0, 255, 0);
-constexpr base::PackedColor kBlue = base::Rgb(0, 0, 255);
-constexpr base::Pixel kRedPixel = base::OpaquePixel(kRed);
-constexpr base::Pixel kGreenPixel = base::OpaquePixel(kGreen);
-constexpr base::Pixel kBluePixel = base::OpaquePixel(kBlue);
-constexpr base::Pixel kBlackPixel = base::OpaquePixel(base::kBlack);
 
 void AddThree(ShowStage& show) {
   show.addPicture({100, 80}, kRed);

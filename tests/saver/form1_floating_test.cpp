@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
+#include "support/colors.h"
 #include "support/show_stage.h"
 
 namespace {
 
+using support::kRed;
 using support::ShowStage;
-
-constexpr base::PackedColor kRed = base::Rgb(255, 0, 0);
 
 TEST(Floating, DriftsOnePixelATickAtItsSpeedAndKeepsItsDirectionAcrossAChange) {
   ShowStage show;

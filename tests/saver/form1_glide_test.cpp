@@ -1,6 +1,7 @@
 // Pictures that glide, in the real show.
 #include <gtest/gtest.h>
 
+#include "support/colors.h"
 #include "support/look_show.h"
 
 namespace saver {
@@ -8,13 +9,12 @@ namespace {
 
 using base::Pixel;
 using support::Difference;
+using support::kBlackPixel;
 using support::kFirstPictureMs;
+using support::kRed;
+using support::kRedPixel;
 using support::ScreensWhile;
 using support::Slope;
-
-constexpr Pixel kBlack = 0xFF000000;
-constexpr base::PackedColor kRed = 0x0000FF;
-constexpr Pixel kRedPixel = 0xFFFF0000;
 
 class FormGlide : public testing::Test, protected support::LookShow {};
 
@@ -141,7 +141,7 @@ TEST_F(FormGlide, APictureThatCannotBeLoadedAfterAGlideShowsNothingOfTheOldOne) 
   show.set("total/total", "2");
   show.start();
   show.runFor(kFirstPictureMs + 2000 + 300 + 500);
-  EXPECT_EQ(show.screenAt(160, 120), kBlack);
+  EXPECT_EQ(show.screenAt(160, 120), kBlackPixel);
 }
 
 }  // namespace

@@ -1,18 +1,18 @@
 // How pictures are fitted and what surrounds them, in the real show.
 #include <gtest/gtest.h>
 
+#include "support/colors.h"
 #include "support/look_show.h"
 
 namespace saver {
 namespace {
 
 using base::Pixel;
+using support::kBlackPixel;
 using support::kFirstPictureMs;
-
-constexpr Pixel kBlack = 0xFF000000;
-constexpr base::PackedColor kRed = 0x0000FF;
-constexpr Pixel kRedPixel = 0xFFFF0000;
-constexpr Pixel kGreenPixel = 0xFF00FF00;
+using support::kGreenPixel;
+using support::kRed;
+using support::kRedPixel;
 
 class FormLook : public testing::Test, protected support::LookShow {};
 
@@ -25,8 +25,8 @@ TEST_F(FormLook, AWholePictureIsEnlargedWithinItsShareOfTheScreen) {
   EXPECT_EQ(show.form->DisplayingPicture.pixelRect(), (base::PixelRect{16, 48, 288, 144}));
   EXPECT_EQ(show.screenAt(16, 48), kRedPixel);
   EXPECT_EQ(show.screenAt(303, 191), kRedPixel);
-  EXPECT_EQ(show.screenAt(15, 48), kBlack);
-  EXPECT_EQ(show.screenAt(16, 47), kBlack);
+  EXPECT_EQ(show.screenAt(15, 48), kBlackPixel);
+  EXPECT_EQ(show.screenAt(16, 47), kBlackPixel);
 }
 
 TEST_F(FormLook, ASmallWholePictureIsShownAtTwiceItsSize) {
@@ -59,7 +59,7 @@ TEST_F(FormLook, FloatingPicturesKeepTheirDocumentedSize) {
   show.start();
   show.runFor(kFirstPictureMs);
   EXPECT_EQ(show.form->DisplayingPicture.pixelRect().size(), (base::PixelSize{100, 50}));
-  EXPECT_EQ(show.screenAt(0, 0), kBlack);
+  EXPECT_EQ(show.screenAt(0, 0), kBlackPixel);
 }
 
 TEST_F(FormLook, ASurroundLeavesNoBar) {
@@ -92,7 +92,7 @@ TEST_F(FormLook, TheEffectsWorkOnTheComposedScreen) {
   show.start();
   at(kFirstPictureMs + 500, [&] {
     EXPECT_EQ(show.screenAt(20, 20), 0xFF7F0000U) << "wiped in already, far from the picture itself";
-    EXPECT_EQ(show.screenAt(300, 20), kBlack);
+    EXPECT_EQ(show.screenAt(300, 20), kBlackPixel);
   });
   run();
 }

@@ -1,15 +1,15 @@
 // The screen becomes another one during the show.
 #include <gtest/gtest.h>
 
+#include "support/colors.h"
 #include "support/show_stage.h"
 
 namespace {
 
+using support::kBlackPixel;
+using support::kRed;
+using support::kRedPixel;
 using support::ShowStage;
-
-constexpr base::PackedColor kRed = base::Rgb(255, 0, 0);
-constexpr base::Pixel kRedPixel = 0xFFFF0000U;
-constexpr base::Pixel kBlackPixel = 0xFF000000U;
 
 void ChangeScreen(ShowStage& show, base::PixelSize size) {
   show.screen.size = size;

@@ -1,13 +1,13 @@
 #include <gtest/gtest.h>
 
 #include "base/errors.h"
+#include "support/colors.h"
 #include "support/show_stage.h"
 
 namespace {
 
+using support::kRed;
 using support::ShowStage;
-
-constexpr base::PackedColor kRed = base::Rgb(255, 0, 0);
 
 base::PixelRect ShownPlace(const ShowStage& show) { return show.form->DisplayingPicture.pixelRect(); }
 

@@ -5,15 +5,16 @@
 #include <algorithm>
 #include <random>
 
+#include "support/colors.h"
 #include "support/fake_stage_window.h"
 #include "support/fake_text_renderer.h"
 
 namespace {
 
-constexpr base::Pixel kRed = 0xFFFF0000U;
-constexpr base::Pixel kGreen = 0xFF00FF00U;
-constexpr base::Pixel kBlue = 0xFF0000FFU;
-constexpr base::Pixel kBlackPixel = 0xFF000000U;
+using support::kBlackPixel;
+using support::kBluePixel;
+using support::kGreenPixel;
+using support::kRedPixel;
 
 base::SharedBitmap PlainPixels(base::PixelSize size, base::Pixel pixel) {
   return std::make_shared<base::Bitmap>(size, pixel);
@@ -60,49 +61,49 @@ TEST_F(StageTest, StartsWithTheFormsBackgroundColour) { EXPECT_EQ(screenAt(20, 1
 TEST_F(StageTest, AChangedBackgroundColourFillsTheScreen) {
   form.setBackColor(base::Rgb(255, 0, 0));
   stage.flush();
-  EXPECT_EQ(screenAt(0, 0), kRed);
-  EXPECT_EQ(screenAt(39, 29), kRed);
+  EXPECT_EQ(screenAt(0, 0), kRedPixel);
+  EXPECT_EQ(screenAt(39, 29), kRedPixel);
 }
 
 TEST_F(StageTest, ThePictureStandsOverTheBackground) {
-  background.setPicture(Plain(40, 30, kBlue));
-  picture.setPicture(Plain(10, 8, kRed));
+  background.setPicture(Plain(40, 30, kBluePixel));
+  picture.setPicture(Plain(10, 8, kRedPixel));
   placePicture(5, 6);
   picture.setVisible(true);
   picture.setPicture(picture.picture());
   stage.flush();
-  EXPECT_EQ(screenAt(4, 6), kBlue);
-  EXPECT_EQ(screenAt(5, 6), kRed);
-  EXPECT_EQ(screenAt(14, 13), kRed);
-  EXPECT_EQ(screenAt(15, 13), kBlue);
+  EXPECT_EQ(screenAt(4, 6), kBluePixel);
+  EXPECT_EQ(screenAt(5, 6), kRedPixel);
+  EXPECT_EQ(screenAt(14, 13), kRedPixel);
+  EXPECT_EQ(screenAt(15, 13), kBluePixel);
 }
 
 TEST_F(StageTest, ABoxThatAppearsShowsWhatIsBehindItUntilSomethingIsDrawn) {
-  background.setPicture(Plain(40, 30, kBlue));
-  picture.setPicture(Plain(10, 8, kRed));
+  background.setPicture(Plain(40, 30, kBluePixel));
+  picture.setPicture(Plain(10, 8, kRedPixel));
   picture.setVisible(true);
   stage.flush();
-  EXPECT_EQ(screenAt(3, 3), kBlue);
-  picture.paintPart(PlainPixels({10, 8}, kGreen), {2, 2, 3, 3});
-  EXPECT_EQ(screenAt(3, 3), kGreen);
-  EXPECT_EQ(screenAt(6, 3), kBlue);
+  EXPECT_EQ(screenAt(3, 3), kBluePixel);
+  picture.paintPart(PlainPixels({10, 8}, kGreenPixel), {2, 2, 3, 3});
+  EXPECT_EQ(screenAt(3, 3), kGreenPixel);
+  EXPECT_EQ(screenAt(6, 3), kBluePixel);
 }
 
 TEST_F(StageTest, DrawingOnThePictureBoxIsOnTheScreenAtOnceAndOnlyThere) {
-  picture.setPicture(Plain(10, 8, kRed));
+  picture.setPicture(Plain(10, 8, kRedPixel));
   picture.setVisible(true);
   picture.setPicture(picture.picture());
   stage.flush();
   window.presented.clear();
-  picture.paintPart(PlainPixels({10, 8}, kGreen), {0, 0, 4, 8});
+  picture.paintPart(PlainPixels({10, 8}, kGreenPixel), {0, 0, 4, 8});
   EXPECT_EQ(window.presented, (std::vector<base::PixelRect>{{0, 0, 4, 8}}));
-  EXPECT_EQ(screenAt(3, 7), kGreen);
-  EXPECT_EQ(screenAt(4, 7), kRed);
+  EXPECT_EQ(screenAt(3, 7), kGreenPixel);
+  EXPECT_EQ(screenAt(4, 7), kRedPixel);
 }
 
 TEST_F(StageTest, ATransparentPictureIsPaintedOverWhatIsBehindIt) {
-  background.setPicture(Plain(40, 30, kBlue));
-  picture.setPicture(Plain(10, 8, kRed));
+  background.setPicture(Plain(40, 30, kBluePixel));
+  picture.setPicture(Plain(10, 8, kRedPixel));
   picture.setVisible(true);
   stage.flush();
   picture.paintPart(PlainPixels({10, 8}, 0x80400000U), {0, 0, 10, 8});
@@ -110,78 +111,78 @@ TEST_F(StageTest, ATransparentPictureIsPaintedOverWhatIsBehindIt) {
 }
 
 TEST_F(StageTest, PaintedPartsBeyondTheirSourceShowWhatIsBehindThem) {
-  background.setPicture(Plain(40, 30, kBlue));
-  picture.setPicture(Plain(10, 8, kRed));
+  background.setPicture(Plain(40, 30, kBluePixel));
+  picture.setPicture(Plain(10, 8, kRedPixel));
   picture.setVisible(true);
   stage.flush();
-  picture.paintPart(PlainPixels({4, 4}, kGreen), {0, 0, 10, 8});
-  EXPECT_EQ(screenAt(3, 3), kGreen);
-  EXPECT_EQ(screenAt(4, 3), kBlue);
+  picture.paintPart(PlainPixels({4, 4}, kGreenPixel), {0, 0, 10, 8});
+  EXPECT_EQ(screenAt(3, 3), kGreenPixel);
+  EXPECT_EQ(screenAt(4, 3), kBluePixel);
 }
 
 TEST_F(StageTest, APictureAssignedAtTheEndOfItsTransitionPresentsOnlyWhatIsNotThereYet) {
-  picture.setPicture(Plain(10, 8, kRed));
+  picture.setPicture(Plain(10, 8, kRedPixel));
   picture.setVisible(true);
   stage.flush();
-  const base::SharedBitmap next = PlainPixels({10, 8}, kGreen);
+  const base::SharedBitmap next = PlainPixels({10, 8}, kGreenPixel);
   picture.paintPart(next, {0, 0, 6, 8});
   picture.paintPart(next, {6, 0, 3, 8});
   window.presented.clear();
   picture.setPicture(pictures::MakePicture(next));
   stage.flush();
   EXPECT_EQ(window.presented, (std::vector<base::PixelRect>{{9, 0, 1, 8}}));
-  EXPECT_EQ(screenAt(9, 7), kGreen);
+  EXPECT_EQ(screenAt(9, 7), kGreenPixel);
 }
 
 TEST_F(StageTest, APaintMessageInTheMiddleOfATransitionShowsWhatIsOnTheScreen) {
-  picture.setPicture(Plain(10, 8, kRed));
+  picture.setPicture(Plain(10, 8, kRedPixel));
   picture.setVisible(true);
   picture.setPicture(picture.picture());
   stage.flush();
-  const base::SharedBitmap next = PlainPixels({10, 8}, kGreen);
+  const base::SharedBitmap next = PlainPixels({10, 8}, kGreenPixel);
   picture.paintPart(next, {0, 0, 3, 8});
   window.paint();
-  EXPECT_EQ(screenAt(2, 0), kGreen);
-  EXPECT_EQ(screenAt(3, 0), kRed);
+  EXPECT_EQ(screenAt(2, 0), kGreenPixel);
+  EXPECT_EQ(screenAt(3, 0), kRedPixel);
   picture.paintPart(next, {3, 0, 3, 8});
-  EXPECT_EQ(screenAt(5, 7), kGreen);
-  EXPECT_EQ(screenAt(6, 7), kRed);
+  EXPECT_EQ(screenAt(5, 7), kGreenPixel);
+  EXPECT_EQ(screenAt(6, 7), kRedPixel);
 }
 
 TEST_F(StageTest, ACaptionThatChangesInTheMiddleOfATransitionShowsNothingOfWhatIsToCome) {
-  picture.setPicture(Plain(10, 8, kRed));
+  picture.setPicture(Plain(10, 8, kRedPixel));
   picture.setVisible(true);
   picture.setPicture(picture.picture());
   label.setAutoSize(true);
   stage.flush();
-  const base::SharedBitmap next = PlainPixels({10, 8}, kGreen);
+  const base::SharedBitmap next = PlainPixels({10, 8}, kGreenPixel);
   picture.paintPart(next, {0, 0, 1, 8});
   label.setLeft(5 * 15);
   label.setCaption("A");
   label.setVisible(true);
   label.setVisible(false);
   stage.flush();
-  EXPECT_EQ(screenAt(6, 1), kRed);
+  EXPECT_EQ(screenAt(6, 1), kRedPixel);
   picture.paintPart(next, {1, 0, 9, 8});
-  EXPECT_EQ(screenAt(6, 1), kGreen);
+  EXPECT_EQ(screenAt(6, 1), kGreenPixel);
 }
 
 TEST_F(StageTest, AnotherPictureThanThePaintedOneIsPresentedWhole) {
-  picture.setPicture(Plain(10, 8, kRed));
+  picture.setPicture(Plain(10, 8, kRedPixel));
   picture.setVisible(true);
   stage.flush();
-  picture.paintPart(PlainPixels({10, 8}, kGreen), {0, 0, 10, 8});
-  picture.setPicture(Plain(10, 8, kBlue));
+  picture.paintPart(PlainPixels({10, 8}, kGreenPixel), {0, 0, 10, 8});
+  picture.setPicture(Plain(10, 8, kBluePixel));
   stage.flush();
-  EXPECT_EQ(screenAt(5, 5), kBlue);
+  EXPECT_EQ(screenAt(5, 5), kBluePixel);
 }
 
 // Whatever was presented in parts is what composing everything anew gives.
 TEST_F(StageTest, TheScreenShowsAFreshCompositionAfterAnySequenceOfChanges) {
   std::mt19937 random(20261121);
   const auto below = [&](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
-  const std::vector<base::Pixel> pixels{kRed, kGreen, 0x80004000U, kBlue};
-  base::SharedBitmap source = PlainPixels({10, 8}, kGreen);
+  const std::vector<base::Pixel> pixels{kRedPixel, kGreenPixel, 0x80004000U, kBluePixel};
+  base::SharedBitmap source = PlainPixels({10, 8}, kGreenPixel);
   label.setAutoSize(true);
   for (int step = 0; step < 20000; ++step) {
     switch (below(14)) {
@@ -207,7 +208,7 @@ TEST_F(StageTest, TheScreenShowsAFreshCompositionAfterAnySequenceOfChanges) {
         label.setVisible(below(2) == 0);
         break;
       case 6:
-        background.setPicture(below(3) == 0 ? nullptr : Plain(40, 1 + below(30), kBlue));
+        background.setPicture(below(3) == 0 ? nullptr : Plain(40, 1 + below(30), kBluePixel));
         break;
       case 7:
         picture.cls();
@@ -235,17 +236,17 @@ TEST_F(StageTest, TheScreenShowsAFreshCompositionAfterAnySequenceOfChanges) {
 }
 
 TEST_F(StageTest, ClearingDropsWhatWasDrawnAndGoesOnShowingTheAssignedPicture) {
-  picture.setPicture(Plain(10, 8, kRed));
+  picture.setPicture(Plain(10, 8, kRedPixel));
   picture.setVisible(true);
   picture.setPicture(picture.picture());
-  picture.paintPart(PlainPixels({10, 8}, kGreen), {0, 0, 4, 8});
+  picture.paintPart(PlainPixels({10, 8}, kGreenPixel), {0, 0, 4, 8});
   picture.cls();
-  EXPECT_EQ(screenAt(2, 2), kRed);
+  EXPECT_EQ(screenAt(2, 2), kRedPixel);
 }
 
 TEST_F(StageTest, AMovedPictureUncoversTheBackgroundAndPresentsOneArea) {
-  background.setPicture(Plain(40, 30, kBlue));
-  picture.setPicture(Plain(10, 8, kRed));
+  background.setPicture(Plain(40, 30, kBluePixel));
+  picture.setPicture(Plain(10, 8, kRedPixel));
   placePicture(5, 6);
   picture.setVisible(true);
   picture.setPicture(picture.picture());
@@ -253,13 +254,13 @@ TEST_F(StageTest, AMovedPictureUncoversTheBackgroundAndPresentsOneArea) {
   window.presented.clear();
   placePicture(6, 7);
   stage.flush();
-  EXPECT_EQ(screenAt(5, 6), kBlue);
-  EXPECT_EQ(screenAt(15, 14), kRed);
+  EXPECT_EQ(screenAt(5, 6), kBluePixel);
+  EXPECT_EQ(screenAt(15, 14), kRedPixel);
   EXPECT_EQ(window.presented, (std::vector<base::PixelRect>{{5, 6, 11, 9}}));
 }
 
 TEST_F(StageTest, ThePaintedTextStandsOverThePictureInItsColour) {
-  picture.setPicture(Plain(40, 30, kRed));
+  picture.setPicture(Plain(40, 30, kRedPixel));
   picture.setVisible(true);
   picture.setPicture(picture.picture());
   label.setAutoSize(true);
@@ -267,8 +268,8 @@ TEST_F(StageTest, ThePaintedTextStandsOverThePictureInItsColour) {
   label.setVisible(true);
   stage.flush();
   EXPECT_EQ(screenAt(0, 0), 0xFFFFFFFFU);
-  EXPECT_EQ(screenAt(5, 0), kRed) << "the gap between letters is transparent";
-  EXPECT_EQ(screenAt(0, 12), kRed) << "below the text";
+  EXPECT_EQ(screenAt(5, 0), kRedPixel) << "the gap between letters is transparent";
+  EXPECT_EQ(screenAt(0, 12), kRedPixel) << "below the text";
 }
 
 TEST_F(StageTest, LettersThatReachBeyondTheirLabelAreShownWholeAndLeaveNothingBehind) {
@@ -322,8 +323,8 @@ TEST_F(StageTest, AnUnchangedTextIsDrawnOnceHoweverOftenItMoves) {
 }
 
 TEST_F(StageTest, TheBackgroundUnderAPictureHasNoPictureAndNoText) {
-  background.setPicture(Plain(40, 30, kBlue));
-  picture.setPicture(Plain(10, 8, kRed));
+  background.setPicture(Plain(40, 30, kBluePixel));
+  picture.setPicture(Plain(10, 8, kRedPixel));
   picture.setVisible(true);
   picture.setPicture(picture.picture());
   label.setCaption("XX");
@@ -331,7 +332,7 @@ TEST_F(StageTest, TheBackgroundUnderAPictureHasNoPictureAndNoText) {
   label.setVisible(true);
   stage.flush();
   const base::Bitmap under = stage.backgroundUnder({0, 0, 10, 8});
-  EXPECT_EQ(under, base::Bitmap({10, 8}, kBlue));
+  EXPECT_EQ(under, base::Bitmap({10, 8}, kBluePixel));
   EXPECT_TRUE(under.isOpaque());
 }
 
@@ -344,19 +345,19 @@ TEST_F(StageTest, TheBackgroundOutsideTheWindowIsTransparent) {
 }
 
 TEST_F(StageTest, TransparentPartsOfAPictureShowTheBackground) {
-  background.setPicture(Plain(40, 30, kBlue));
+  background.setPicture(Plain(40, 30, kBluePixel));
   auto pixels = std::make_shared<base::Bitmap>(base::PixelSize{4, 4});
   pixels->row(1)[1] = 0x80400000U;  // half-transparent dark red
   picture.setPicture(pictures::MakePicture(pixels));
   picture.setVisible(true);
   picture.setPicture(picture.picture());
   stage.flush();
-  EXPECT_EQ(screenAt(0, 0), kBlue);
+  EXPECT_EQ(screenAt(0, 0), kBluePixel);
   EXPECT_EQ(screenAt(1, 1), 0xFF40007FU);
 }
 
 TEST_F(StageTest, ThePointerMeetsTheTopmostVisibleControl) {
-  picture.setPicture(Plain(10, 8, kRed));
+  picture.setPicture(Plain(10, 8, kRedPixel));
   label.setAutoSize(true);
   label.setCaption("A");
   EXPECT_EQ(stage.controlAt({1, 1}), nullptr);

@@ -12,7 +12,7 @@
 namespace saver {
 namespace {
 
-constexpr base::CalendarDay kTarget{2027, 12, 25};
+constexpr base::CalendarDay kCountedTo{2027, 12, 25};
 constexpr os::LocalTime kNow{2026, 6, 5, 9, 3, 4, 0};
 
 int CountLetters(const std::string& text) { return static_cast<int>(text.size()); }
@@ -77,7 +77,7 @@ class WidestCountdown : public testing::Test {
       }
       const base::CalendarDay today = base::DayOfNumber(day);
       const std::optional<Countdown> reading = ReadCountdown(
-          {today.year, today.month, today.day, second / 3600, second / 60 % 60, second % 60, 0}, kTarget);
+          {today.year, today.month, today.day, second / 3600, second / 60 % 60, second % 60, 0}, kCountedTo);
       if (!reading) return widest;
       widest = std::max(widest, widthOf(CountdownText(*reading)));
     }
@@ -96,7 +96,7 @@ TEST_F(WidestCountdown, IsAsWideAsTheWidestTextThatComes) {
     const int seconds = std::uniform_int_distribution<int>(1, i % 4 < 2 ? 7'000 : 30'000)(engine);
     const int start = 86400 - seconds;
     const os::LocalTime now{2027, 12, i == 10 ? 23 : 24, start / 3600, start / 60 % 60, start % 60, 0};
-    const std::optional<Countdown> present = ReadCountdown(now, kTarget);
+    const std::optional<Countdown> present = ReadCountdown(now, kCountedTo);
     EXPECT_EQ(widthOf(WidestCountdownText(*present, widthOf)), widestOfAll(now)) << CountdownText(*present);
   }
 }

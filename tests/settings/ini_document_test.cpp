@@ -10,7 +10,7 @@ using namespace std::string_view_literals;
 
 using settings::IniDocument;
 
-const support::Windows1252 kWestern;
+using support::kWestern;
 
 IniDocument Read(std::string_view bytes) { return {bytes, kWestern}; }
 

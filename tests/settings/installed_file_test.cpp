@@ -15,7 +15,7 @@
 
 namespace {
 
-const support::Windows1252 kWestern;
+using support::kWestern;
 
 std::string InstalledFile() {
   std::ifstream file(LUMORA_SOURCE_DIR "/assets/zbfaone.ini", std::ios::binary);

@@ -19,7 +19,7 @@ constexpr const char* kPath = "C:\\Lumora\\zbfaone.ini";
 constexpr const char* kNumbers =
     "[image]\r\nmouseSensitivity=23\r\npicturePercent=90\r\ntimeDisplay=0\r\n[total]\r\ntotal=0\r\n";
 
-const support::Windows1252 kWestern;
+using support::kWestern;
 
 // A program folder with this settings file.
 struct Folder {

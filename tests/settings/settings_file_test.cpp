@@ -14,7 +14,7 @@ using settings::SettingsRecord;
 using settings::WriteExtras;
 using settings::WriteSettings;
 
-const support::Windows1252 kWestern;
+using support::kWestern;
 
 // A record in which every key holds a text of its own.
 SettingsRecord Numbered() {

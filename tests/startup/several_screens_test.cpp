@@ -4,17 +4,17 @@
 #include <set>
 #include <vector>
 
+#include "support/colors.h"
 #include "support/several_screens.h"
 
 namespace {
 
+using support::kBlackPixel;
 using support::kBlue;
 using support::kGreen;
 using support::kRed;
 using support::kViolet;
 using support::kYellow;
-
-constexpr base::Pixel kBlack = 0xFF000000U;
 
 class SeveralScreens : public testing::Test, protected support::ScreensShow {};
 
@@ -159,7 +159,7 @@ TEST_F(SeveralScreens, EachScrollOrCentreTheirOwnCaptionAndTheClockIsOnThePrimar
   EXPECT_TRUE(show->form().time.visible());
   for (support::FakeStageWindow* cover : covers) {
     const base::Bitmap& shown = cover->screen;
-    const auto isInk = [&](int x, int y) { return shown.at(x, y) != kBlack; };
+    const auto isInk = [&](int x, int y) { return shown.at(x, y) != kBlackPixel; };
     bool captionInk = false;
     bool clockInk = false;
     for (int x = 0; x < shown.size().width; ++x) {
@@ -250,7 +250,7 @@ TEST_F(SeveralScreens, KeepThePictureOnAScreenThatStaysWhenAnotherGoes) {
   EXPECT_EQ(covers[1]->covered, (base::PixelRect{-600, -200, 600, 900}));
   stage.runFor(1400);
   EXPECT_NE(middle(2), kept);
-  EXPECT_NE(middle(2), kBlack);
+  EXPECT_NE(middle(2), kBlackPixel);
 }
 
 TEST_F(SeveralScreens, HaveABackgroundAtOnceAndAPictureAtTheNextChangeWhenTheyCome) {
@@ -368,7 +368,7 @@ TEST_F(SeveralScreens, KeepTheirBackgroundsWhileThePasswordIsAskedAfterAnError) 
   start({.osPlatformId = 1, .usePassword = 1});
   stage.runFor(2000);
   EXPECT_FALSE(hasEnded());
-  EXPECT_EQ(middles(), (std::vector<base::Pixel>{kBlack, kBlack, kBlack}));
+  EXPECT_EQ(middles(), (std::vector<base::Pixel>{kBlackPixel, kBlackPixel, kBlackPixel}));
 }
 
 TEST_F(SeveralScreens, ThatMirrorEachOtherHaveOneShow) {

@@ -6,11 +6,12 @@
 #include <string>
 
 #include "base/errors.h"
+#include "support/colors.h"
 #include "support/started_show.h"
 
 namespace {
 
-constexpr base::PackedColor kRed = base::Rgb(255, 0, 0);
+using support::kRed;
 
 class ShowLog : public testing::Test, protected support::StartedShow {};
 

@@ -3,11 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include "support/colors.h"
 #include "support/started_show.h"
 
 namespace {
 
-constexpr base::PackedColor kRed = base::Rgb(255, 0, 0);
+using support::kRed;
 
 class ShowOnScreens : public testing::Test, protected support::StartedShow {};
 

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "dialog/form2.h"
+#include "dialog/messages.h"
 #include "support/fake_dialogs.h"
 #include "support/fake_files.h"
 #include "support/fake_pictures.h"
@@ -14,6 +15,8 @@
 #include "support/windows_1252.h"
 
 namespace support {
+
+inline const FakeDialogs::Message kSettingsNotLoaded{dialog::kCouldNotLoad, 48};
 
 class DialogMachine {
  public:

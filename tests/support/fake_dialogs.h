@@ -74,4 +74,8 @@ class FakeDialogs : public forms::Dialogs {
   }
 };
 
+// What is said of a picture that cannot be loaded.
+inline const FakeDialogs::Message kCannotLoadImage{
+    "Cannot load image file properly.\r\nYou need to reload a new one.", 48};
+
 }  // namespace support

@@ -1,28 +1,19 @@
 #include "support/jpeg_builder.h"
 
+#include "support/byte_writer.h"
+
 namespace support {
-
-namespace {
-
-std::string Number(std::uint32_t value, int bytes, bool bigEndian) {
-  std::string out;
-  for (int i = 0; i < bytes; ++i) {
-    const int shift = 8 * (bigEndian ? bytes - 1 - i : i);
-    out += static_cast<char>(static_cast<unsigned char>(value >> shift & 0xFF));
-  }
-  return out;
-}
-
-}  // namespace
 
 std::string JpegSegmentBytes(std::uint8_t marker, std::string_view content) {
   std::string out = "\xFF";
   out += static_cast<char>(marker);
-  return out + Number(static_cast<std::uint32_t>(content.size() + 2), 2, true) + std::string(content);
+  return out + BigEndian(static_cast<std::uint32_t>(content.size() + 2), 2) + std::string(content);
 }
 
 std::string ExifSegment(int orientation, bool bigEndian) {
-  const auto number = [bigEndian](std::uint32_t value, int bytes) { return Number(value, bytes, bigEndian); };
+  const auto number = [bigEndian](std::uint32_t value, int bytes) {
+    return NumberBytes(value, bytes, bigEndian);
+  };
   std::string tiff = bigEndian ? "MM" : "II";
   tiff += number(42, 2) + number(10, 4) + std::string(2, '\0');  // the directory need not follow at once
   tiff += number(3, 2);
@@ -35,8 +26,8 @@ std::string ExifSegment(int orientation, bool bigEndian) {
 }
 
 std::string JpegHead(std::string_view segments, base::PixelSize size) {
-  const std::string frame = "\x08" + Number(static_cast<std::uint32_t>(size.height), 2, true) +
-                            Number(static_cast<std::uint32_t>(size.width), 2, true) +
+  const std::string frame = "\x08" + BigEndian(static_cast<std::uint32_t>(size.height), 2) +
+                            BigEndian(static_cast<std::uint32_t>(size.width), 2) +
                             std::string("\x01\x01\x11\x00", 4);
   return "\xFF\xD8" + std::string(segments) + JpegSegmentBytes(0xC0, frame) + "\xFF\xDA";
 }

@@ -1,6 +1,7 @@
 #include "support/photo_builder.h"
 
 #include "base/text.h"
+#include "support/byte_writer.h"
 #include "support/jpeg_builder.h"
 
 namespace support {
@@ -14,14 +15,7 @@ class BlockWriter {
  public:
   explicit BlockWriter(bool bigEndian) : bigEndian_(bigEndian) {}
 
-  std::string number(std::uint32_t value, int bytes) const {
-    std::string out;
-    for (int i = 0; i < bytes; ++i) {
-      const int shift = 8 * (bigEndian_ ? bytes - 1 - i : i);
-      out += static_cast<char>(static_cast<unsigned char>(value >> shift & 0xFF));
-    }
-    return out;
-  }
+  std::string number(std::uint32_t value, int bytes) const { return NumberBytes(value, bytes, bigEndian_); }
 
   std::string entry(std::uint16_t tag, std::uint16_t type, std::uint32_t count, std::string value) const {
     value.resize(4, '\0');

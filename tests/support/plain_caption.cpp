@@ -59,7 +59,7 @@ std::string OnOneLine(const std::string& text) {
 }
 
 struct Piece {
-  enum Kind { Words, Value, Bar } kind;
+  enum Kind { Text, Value, Bar } kind;
   std::string text;
 };
 
@@ -75,7 +75,7 @@ std::vector<Piece> Cut(const std::string& pattern, const saver::CaptionWords& wo
       continue;
     }
     if (pattern.compare(i, 2, "{{") == 0) {
-      pieces.push_back({Piece::Words, "{"});
+      pieces.push_back({Piece::Text, "{"});
       ++i;
       continue;
     }
@@ -83,7 +83,7 @@ std::vector<Piece> Cut(const std::string& pattern, const saver::CaptionWords& wo
     const auto known =
         close == std::string::npos ? values.end() : values.find(pattern.substr(i + 1, close - i - 1));
     if (known == values.end()) {
-      pieces.push_back({Piece::Words, pattern.substr(i, 1)});
+      pieces.push_back({Piece::Text, pattern.substr(i, 1)});
     } else {
       pieces.push_back({Piece::Value, OnOneLine(known->second)});
       i = close;

@@ -4,15 +4,10 @@
 #include <algorithm>
 #include <vector>
 
+#include "support/colors.h"
 #include "support/started_show.h"
 
 namespace support {
-
-constexpr base::PackedColor kRed = base::Rgb(255, 0, 0);
-constexpr base::PackedColor kGreen = base::Rgb(0, 255, 0);
-constexpr base::PackedColor kBlue = base::Rgb(0, 0, 255);
-constexpr base::PackedColor kYellow = base::Rgb(255, 255, 0);
-constexpr base::PackedColor kViolet = base::Rgb(255, 0, 255);
 
 // A primary screen of 1024 x 768, a smaller one at its right, and a portrait one left of and above it.
 class ScreensShow : public StartedShow {

@@ -1,9 +1,12 @@
 #include "support/temporary_folder_win.h"
 
+#include <gtest/gtest.h>
 #include <windows.h>
 
 #include <string_view>
 
+#include "os/handles_win.h"
+#include "os/open_file_win.h"
 #include "os/utf16_win.h"
 
 namespace support {
@@ -31,6 +34,16 @@ void RemoveFolder(const std::wstring& path) {
 
 }  // namespace
 
+void WriteFileAt(const std::string& path, std::string_view bytes) {
+  const os::FileHandle file(
+      CreateFileW(os::WidePath(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+  DWORD written = 0;
+  EXPECT_TRUE(file.isOpen() && WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written,
+                                         nullptr) != FALSE)
+      << path;
+  EXPECT_EQ(written, bytes.size()) << path;
+}
+
 TemporaryFolder::TemporaryFolder() {
   static unsigned count = 0;
   wchar_t temp[MAX_PATH + 1] = {};
@@ -44,5 +57,11 @@ TemporaryFolder::TemporaryFolder() {
 }
 
 TemporaryFolder::~TemporaryFolder() { RemoveFolder(L"\\\\?\\" + os::ToWide(path_)); }
+
+std::string TemporaryFolder::put(std::string_view name, std::string_view bytes) const {
+  std::string path = path_ + '\\' + std::string(name);
+  WriteFileAt(path, bytes);
+  return path;
+}
 
 }  // namespace support

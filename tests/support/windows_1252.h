@@ -13,4 +13,6 @@ class Windows1252 : public os::AnsiCodePage {
   std::optional<std::string> encode(std::string_view utf8) const override;
 };
 
+inline const Windows1252 kWestern;
+
 }  // namespace support

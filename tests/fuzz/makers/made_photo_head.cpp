@@ -4,33 +4,35 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "support/byte_writer.h"
+
 namespace fuzz {
 
 namespace {
+
+using support::NumberBytes;
 
 constexpr int kMostInSegment = 65533;
 
 char Byte(std::uint32_t value) { return static_cast<char>(static_cast<unsigned char>(value & 0xFF)); }
 
-std::string Number(std::uint32_t value, int width, bool bigEndian) {
-  std::string out;
-  for (int i = 0; i < width; ++i) out += Byte(value >> (8 * (bigEndian ? width - 1 - i : i)));
-  return out;
+std::string BigEndian(int value, int width) {
+  return support::BigEndian(static_cast<std::uint32_t>(value), width);
 }
-
-std::string BigEndian(int value, int width) { return Number(static_cast<std::uint32_t>(value), width, true); }
 
 // What the four bytes of an entry hold: mostly an orientation as its type has it, with anything behind it.
 std::string EntryValue(Recipe& recipe, int type, bool bigEndian) {
-  if (recipe.isOneOf(4)) return Number(recipe.longWord(), 4, bigEndian);
+  if (recipe.isOneOf(4)) return NumberBytes(recipe.longWord(), 4, bigEndian);
   const int width = type == 1 ? 1 : type == 3 ? 2 : 4;
-  std::string value = Number(static_cast<std::uint32_t>(recipe.below(10)), width, bigEndian);
+  std::string value = NumberBytes(static_cast<std::uint32_t>(recipe.below(10)), width, bigEndian);
   value.resize(4, Byte(static_cast<std::uint32_t>(recipe.byte())));
   return value;
 }
 
 std::string Entry(Recipe& recipe, bool bigEndian) {
-  const auto number = [bigEndian](std::uint32_t value, int width) { return Number(value, width, bigEndian); };
+  const auto number = [bigEndian](std::uint32_t value, int width) {
+    return NumberBytes(value, width, bigEndian);
+  };
   constexpr std::uint32_t kTags[] = {0x0112, 0x0112, 0x0112, 0x010F, 0x1201, 0x0113, 0x8769, 0x0012};
   constexpr int kTypes[] = {3, 3, 3, 1, 4, 2, 5, 6, 7, 8, 9, 13, 129, 0x0300, 0x0103, 0};
   constexpr std::uint32_t kCounts[] = {1, 1, 1, 0, 2, 4, 5, 0x01000000};
@@ -47,8 +49,8 @@ std::string Entries(Recipe& recipe, bool bigEndian, int& count) {
   constexpr int kMostFillers = 5440;
   const int fillers = recipe.isOneOf(8) ? recipe.word() % kMostFillers : 0;
   const bool fillersFirst = recipe.isOneOf(2);
-  const std::string filler = Number(0x0100, 2, bigEndian) + Number(4, 2, bigEndian) +
-                             Number(1, 4, bigEndian) + Number(640, 4, bigEndian);
+  const std::string filler = NumberBytes(0x0100, 2, bigEndian) + NumberBytes(4, 2, bigEndian) +
+                             NumberBytes(1, 4, bigEndian) + NumberBytes(640, 4, bigEndian);
   std::string many;
   for (int i = 0; i < fillers; ++i) many += filler;
   const int few = recipe.below(10);
@@ -137,7 +139,9 @@ std::string Piece(Recipe& recipe) {
 std::string MadeTiffBlock(Recipe& recipe) {
   constexpr std::size_t kHeader = 8;
   const bool bigEndian = recipe.isOneOf(2);
-  const auto number = [bigEndian](std::uint32_t value, int width) { return Number(value, width, bigEndian); };
+  const auto number = [bigEndian](std::uint32_t value, int width) {
+    return NumberBytes(value, width, bigEndian);
+  };
   constexpr std::uint32_t kMagics[] = {42, 42, 42, 42, 42, 42, 43, 0x2A00, 0x012A, 0};
   std::string block = bigEndian ? "MM" : "II";
   if (recipe.isOneOf(16)) block = std::string(recipe.bytes(2)) + std::string(2, 'I');
@@ -167,9 +171,9 @@ std::string MadeBitmapHead(Recipe& recipe) {
   const auto side = [&recipe] {
     constexpr std::uint32_t kSides[] = {0,          1,          640,        0x7FFFFFFF,
                                         0x80000000, 0x80000001, 0xFFFFFFFF, 0xFFFFFE20};
-    return Number(recipe.isOneOf(2) ? recipe.longWord() : recipe.oneOf(kSides), 4, false);
+    return NumberBytes(recipe.isOneOf(2) ? recipe.longWord() : recipe.oneOf(kSides), 4, false);
   };
-  std::string head = "BM" + std::string(12, '\0') + Number(recipe.oneOf(kInfoSizes), 4, false);
+  std::string head = "BM" + std::string(12, '\0') + NumberBytes(recipe.oneOf(kInfoSizes), 4, false);
   head += side();
   head += side();
   if (recipe.isOneOf(8)) head.resize(static_cast<std::size_t>(recipe.byte()) % head.size());
@@ -180,7 +184,7 @@ std::string MadePngHead(Recipe& recipe) {
   const std::string_view chunks[] = {"IHDR", "IHDR", "IHDR", "IDAT", "iHDR"};
   const auto side = [&recipe] {
     constexpr std::uint32_t kSides[] = {0, 1, 640, 0x7FFFFFFF, 0x80000000};
-    return Number(recipe.isOneOf(2) ? recipe.longWord() : recipe.oneOf(kSides), 4, true);
+    return NumberBytes(recipe.isOneOf(2) ? recipe.longWord() : recipe.oneOf(kSides), 4, true);
   };
   std::string head("\x89PNG\r\n\x1A\n\0\0\0\x0D", 12);
   head += recipe.oneOf(chunks);

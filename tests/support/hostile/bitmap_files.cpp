@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "support/hostile/byte_writer.h"
+#include "support/byte_writer.h"
 
 namespace support {
 

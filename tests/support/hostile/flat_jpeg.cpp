@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "support/hostile/byte_writer.h"
+#include "support/byte_writer.h"
 #include "support/jpeg_builder.h"
 
 namespace support {

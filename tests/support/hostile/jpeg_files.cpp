@@ -1,6 +1,6 @@
 #include "support/hostile/jpeg_files.h"
 
-#include "support/hostile/byte_writer.h"
+#include "support/byte_writer.h"
 #include "support/hostile/flat_jpeg.h"
 #include "support/jpeg_builder.h"
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "support/hostile/byte_writer.h"
+#include "support/byte_writer.h"
 
 namespace support {
 

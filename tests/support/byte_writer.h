@@ -18,4 +18,8 @@ inline std::string BigEndian(std::uint32_t value, int bytes) {
   return {reversed.rbegin(), reversed.rend()};
 }
 
+inline std::string NumberBytes(std::uint32_t value, int bytes, bool bigEndian) {
+  return bigEndian ? BigEndian(value, bytes) : LittleEndian(value, bytes);
+}
+
 }  // namespace support
