@@ -16,18 +16,31 @@ target_link_options(lumora_flags INTERFACE -Wl,--no-insert-timestamp)
 target_compile_options(lumora_flags INTERFACE ${hardening})
 target_link_options(lumora_flags INTERFACE ${hardening})
 
-# What a click or a start runs once is built small; what runs for every pixel, picture and key is built fast.
-if(CMAKE_BUILD_TYPE STREQUAL "Release")
-  file(GLOB small_sources CONFIGURE_DEPENDS src/auxwin/*.cpp src/dialog/*.cpp src/forms/*.cpp src/startup/*.cpp)
-  set_property(SOURCE ${small_sources} APPEND PROPERTY COMPILE_OPTIONS -Os)
-  # Precompiled headers would bring the other sources' optimisation along.
-  set_property(SOURCE ${small_sources} PROPERTY SKIP_PRECOMPILE_HEADERS ON)
-endif()
-
 add_library(lumora_win STATIC ${windows_sources})
 target_link_libraries(lumora_win PUBLIC lumora_core ${system_libraries})
 set(windows_headers <windows.h> <commctrl.h>)
 precompile(lumora_win ${windows_headers})
+
+# What a click or a start runs once is built small; what runs for every pixel, picture and key is built fast. The small
+# sources of a library are a target of their own: precompiled headers bring their optimisation along.
+set(small_rooms "/src/(auxwin|dialog|forms|startup)/")
+function(build_small target)
+  get_target_property(small_sources ${target} SOURCES)
+  set(fast_sources ${small_sources})
+  list(FILTER small_sources INCLUDE REGEX ${small_rooms})
+  list(FILTER fast_sources EXCLUDE REGEX ${small_rooms})
+  set_property(TARGET ${target} PROPERTY SOURCES ${fast_sources})
+  add_library(${target}_small OBJECT ${small_sources})
+  target_link_libraries(${target}_small PRIVATE lumora_flags)
+  target_compile_options(${target}_small PRIVATE -Os)
+  precompile(${target}_small ${ARGN})
+  target_sources(${target} PRIVATE $<TARGET_OBJECTS:${target}_small>)
+  set_target_properties(${target}_small PROPERTIES UNITY_BUILD OFF)
+endfunction()
+if(CMAKE_BUILD_TYPE STREQUAL "Release")
+  build_small(lumora_core)
+  build_small(lumora_win ${windows_headers})
+endif()
 
 add_executable(Lumora WIN32 src/startup/entry_win.cpp ${version_source})
 target_compile_definitions(Lumora PRIVATE "LUMORA_VERSION=\"${product_version}\"")
@@ -54,6 +67,9 @@ set_source_files_properties(src/startup/settings_entry.rc PROPERTIES OBJECT_DEPE
   "${CMAKE_SOURCE_DIR}/src/startup/lumora.manifest")
 target_link_libraries(LumoraSettings PRIVATE lumora_flags user32 kernel32)
 target_link_options(LumoraSettings PRIVATE ${program_link_options})
+
+# Sources are joined for the tests alone.
+set_target_properties(lumora_core lumora_win Lumora LumoraSettings PROPERTIES UNITY_BUILD OFF)
 
 if(LUMORA_TESTS)
   add_library(lumora_win_support STATIC EXCLUDE_FROM_ALL ${windows_support_sources})
@@ -83,8 +99,9 @@ if(LUMORA_TESTS)
   endforeach()
 
   file(GLOB bench_sources CONFIGURE_DEPENDS tests/bench/*.cpp)
-  add_executable(lumora_bench EXCLUDE_FROM_ALL ${bench_sources} tests/e2e/dialog_hands.cpp
-                 tests/e2e/keyboard.cpp tests/e2e/pointer.cpp tests/e2e/program_folder.cpp tests/e2e/running_program.cpp tests/support/win_tests.rc)
+  add_executable(lumora_bench EXCLUDE_FROM_ALL ${bench_sources} tests/e2e/dialog_hands.cpp tests/e2e/keyboard.cpp
+                 tests/e2e/pointer.cpp tests/e2e/program_folder.cpp tests/e2e/running_program.cpp
+                 tests/support/win_tests.rc)
   target_link_libraries(lumora_bench PRIVATE lumora_win_support ntdll)
   target_link_options(lumora_bench PRIVATE -static)
 

@@ -1,5 +1,4 @@
 # What the fuzzing scripts share. Sourced after lib.sh.
-fuzz_packages=(clang libclang-rt-14-dev)
 
 # Every target's name, one a line.
 fuzz_targets() {

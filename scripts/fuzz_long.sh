@@ -7,7 +7,7 @@ seconds=${1:-900}
 targets=("${@:2}")
 [ ${#targets[@]} != 0 ] || mapfile -t targets < <(fuzz_targets)
 
-need_packages "fuzzing" "${build_packages[@]}" "${fuzz_packages[@]}"
+need_packages "fuzzing" "${build_packages[@]}" "${sanitizer_packages[@]}"
 build_preset fuzz
 renice -n 19 $$ >/dev/null
 for target in "${targets[@]}"; do

@@ -23,6 +23,7 @@ need_packages() {
 }
 
 build_packages=(cmake ninja-build g++ googletest libgtest-dev zlib1g-dev)
+sanitizer_packages=(clang libclang-rt-14-dev)  # what the portable tests and the fuzzers are built with
 windows_packages=(g++-mingw-w64-x86-64-posix)
 windows_x86_packages=(g++-mingw-w64-i686-posix)
 packing_packages=(nsis zip unzip)
@@ -38,13 +39,22 @@ export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file
 # More options for setting up a build.
 configure_options=()
 
+# $1: preset. A build folder of another compiler's is made anew, for which CMake forgets the preset's other variables: they
+# are set once more.
+configure() {
+  local said
+  said=$(cmake --preset "$1" "${configure_options[@]}" 2>&1) || { printf '%s\n' "$said" && return 1; }
+  printf '%s\n' "$said"
+  [[ $said != *'require your cache to be deleted'* ]] || cmake --preset "$1" "${configure_options[@]}"
+}
+
 # $1: preset; the rest: targets (none = all).
 build_preset() {
   local preset=$1
   shift
   local log="$root/out/build-$preset.log"
   mkdir -p "$root/out"
-  if ! { cmake --preset "$preset" "${configure_options[@]}" && cmake --build --preset "$preset" ${1:+--target "$@"}; } >"$log" 2>&1; then
+  if ! { configure "$preset" && cmake --build --preset "$preset" ${1:+--target "$@"}; } >"$log" 2>&1; then
     tail -n 60 "$log" >&2
     say "the build of '$preset' failed; all of its output: $log"
     return 1
