@@ -7,21 +7,14 @@
 #include <vector>
 
 #include "base/resample.h"
+#include "support/channels.h"
+#include "support/noise.h"
 
 namespace base {
 namespace {
 
-// Numbers without a pattern, the same ones in every run.
-class Noise {
- public:
-  std::uint32_t next() {
-    state_ = state_ * 6364136223846793005U + 1442695040888963407U;
-    return static_cast<std::uint32_t>(state_ >> 33);
-  }
-
- private:
-  std::uint64_t state_ = 88172645463325252U;
-};
+using support::Channel;
+using support::Noise;
 
 Bitmap NoisePicture(PixelSize size, bool opaque) {
   Noise noise;
@@ -38,8 +31,6 @@ Bitmap NoisePicture(PixelSize size, bool opaque) {
   return picture;
 }
 
-double Level(Pixel pixel, int channel) { return (pixel >> (8 * channel)) & 0xFF; }
-
 // The average over an area in floating point, each pixel weighed by how much of it lies inside.
 double ExactAverage(const Bitmap& source, PixelSize target, int x, int y, int channel) {
   const double columns = static_cast<double>(source.size().width) / target.width;
@@ -52,7 +43,7 @@ double ExactAverage(const Bitmap& source, PixelSize target, int x, int y, int ch
        ++sy) {
     for (int sx = static_cast<int>(x * columns);
          sx < std::min<double>((x + 1) * columns, source.size().width); ++sx) {
-      sum += Level(source.at(sx, sy), channel) * inside(sx, x * columns, (x + 1) * columns) *
+      sum += Channel(source.at(sx, sy), channel) * inside(sx, x * columns, (x + 1) * columns) *
              inside(sy, y * rows, (y + 1) * rows);
     }
   }
@@ -74,7 +65,7 @@ double LargestError(const Bitmap& source, const Bitmap& result) {
     for (int x = 0; x < result.size().width; ++x) {
       for (int channel = 0; channel < 4; ++channel) {
         const double exact = ExactAverage(source, result.size(), x, y, channel);
-        largest = std::max(largest, std::abs(exact - Level(result.at(x, y), channel)));
+        largest = std::max(largest, std::abs(exact - Channel(result.at(x, y), channel)));
       }
     }
   }
@@ -136,7 +127,7 @@ TEST(AreaAverage, AColourNeverComesOutAboveItsAlpha) {
   for (int y = 0; y < 51; ++y) {
     for (int x = 0; x < 77; ++x) {
       const Pixel pixel = result.at(x, y);
-      for (int channel = 0; channel < 3; ++channel) ASSERT_LE(Level(pixel, channel), Level(pixel, 3));
+      for (int channel = 0; channel < 3; ++channel) ASSERT_LE(Channel(pixel, channel), Channel(pixel, 3));
     }
   }
 }
@@ -186,12 +177,12 @@ TEST(Resample, EnlargingStaysWithinOneOfTheExactMix) {
       const int right = std::min(left + 1, 4);
       const int bottom = std::min(top + 1, 3);
       for (int c = 0; c < 4; ++c) {
-        const double above = Level(source.at(left, top), c) * (1 - (px - left)) +
-                             Level(source.at(right, top), c) * (px - left);
-        const double below = Level(source.at(left, bottom), c) * (1 - (px - left)) +
-                             Level(source.at(right, bottom), c) * (px - left);
+        const double above = Channel(source.at(left, top), c) * (1 - (px - left)) +
+                             Channel(source.at(right, top), c) * (px - left);
+        const double below = Channel(source.at(left, bottom), c) * (1 - (px - left)) +
+                             Channel(source.at(right, bottom), c) * (px - left);
         const double exact = above * (1 - (py - top)) + below * (py - top);
-        ASSERT_NEAR(Level(result.at(x, y), c), exact, 1.6) << x << "," << y;
+        ASSERT_NEAR(Channel(result.at(x, y), c), exact, 1.6) << x << "," << y;
       }
     }
   }

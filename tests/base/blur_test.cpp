@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "support/channels.h"
 #include "support/noise.h"
 
 namespace base {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "support/channels.h"
 #include "support/noise.h"
 
 namespace base {

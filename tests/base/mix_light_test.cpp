@@ -6,6 +6,7 @@
 #include <cmath>
 #include <vector>
 
+#include "support/channels.h"
 #include "support/noise.h"
 
 namespace base {

@@ -25,7 +25,7 @@ constexpr double kReadingErrorMs = 2 * kProcessorStepMs;  // of two programs
 // Processor time of a program while it idles behind its window.
 double IdleMs(const std::wstring& program, const std::wstring& arguments, base::Pixel sign) {
   e2e::RunningProgram process(program, arguments);
-  e2e::WaitFor([&] { return e2e::MiddlePixel() == sign; });
+  e2e::MiddleComesToBe(sign);
   // Out of the way of what the program has begun.
   const ULONGLONG settled = GetTickCount64() + 1000;
   e2e::WaitFor([&] { return GetTickCount64() >= settled; });

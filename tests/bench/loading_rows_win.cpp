@@ -19,7 +19,7 @@
 #include "os/system_library_win.h"
 #include "os/utf16_win.h"
 #include "support/bmp_builder.h"
-#include "support/channel_distance.h"
+#include "support/channels.h"
 #include "support/real_show_win.h"
 #include "support/wic_encoder_win.h"
 

@@ -14,6 +14,7 @@
 namespace {
 
 using support::kWhitePixel;
+
 constexpr int kTopRows = 80;  // rows at the top of the screen, in which the words stand
 constexpr os::LocalTime kTaken{2019, 7, 14, 18, 5, 9, 0};
 

@@ -9,10 +9,6 @@ namespace {
 
 constexpr base::Pixel kColors[] = {0xFFFF0000U, 0xFF0000FFU};
 
-bool ComesToBe(base::Pixel pixel) {
-  return e2e::WaitFor([&] { return e2e::MiddlePixel() == pixel; });
-}
-
 // Tells a window of another process, as the system would: what the message points to lies in that process.
 void TellDisplay(const e2e::RunningProgram& program, HWND window, DWORD state) {
   const support::DisplayPowerMessage message(state);
@@ -42,14 +38,14 @@ TEST(DisplayPower, TheShowStandsStillWhileTheDisplayIsOffAndGoesOnAfterwards) {
   e2e::RunningProgram show(folder.program(), L"/S");
   const HWND window = show.waitForShow();
   ASSERT_NE(window, nullptr);
-  ASSERT_TRUE(ComesToBe(kColors[0]));
+  ASSERT_TRUE(e2e::MiddleComesToBe(kColors[0]));
   TellDisplay(show, window, 0);
   EXPECT_TRUE(StandsStill());
   TellDisplay(show, window, 1);
-  EXPECT_TRUE(ComesToBe(kColors[1]));
-  EXPECT_TRUE(ComesToBe(kColors[0]));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kColors[1]));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kColors[0]));
   TellDisplay(show, window, 2);  // dimmed
-  EXPECT_TRUE(ComesToBe(kColors[1]));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kColors[1]));
   TellDisplay(show, window, 0);
   EXPECT_TRUE(show.endsByKey());
   EXPECT_EQ(show.exitCode(), 0U);

@@ -122,7 +122,7 @@ TEST(Hardening, LibrariesPlantedBesideTheProgramAreNotLoadedByTheShow) {
   Plant(folder);
   e2e::RunningProgram show(folder.program(), L"/S", folder.path());
   ASSERT_NE(show.waitForShow(), nullptr);
-  EXPECT_TRUE(e2e::WaitFor([&] { return e2e::MiddlePixel() == kGreenPixel; }));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kGreenPixel));
   EXPECT_TRUE(show.endsByKey());
   EXPECT_EQ(Loaded(folder), "");
 }

@@ -23,9 +23,7 @@ constexpr std::size_t kHalves = 2;
 constexpr int kLimitMs = 240000;  // for one of them
 
 // The good picture stands in the middle of the screen. Its turns are short, so the screen is looked at often.
-bool ComesToShow(base::PackedColor color) {
-  return e2e::WaitFor([&] { return e2e::MiddlePixel() == base::OpaquePixel(color); }, kLimitMs);
-}
+bool ComesToShow(base::PackedColor color) { return e2e::MiddleComesToBe(base::OpaquePixel(color), kLimitMs); }
 
 SIZE_T PeakMemory(const e2e::RunningProgram& program) {
   PROCESS_MEMORY_COUNTERS counters{};

@@ -48,9 +48,7 @@ class KeysTest : public testing::Test {
     ASSERT_TRUE(e2e::WaitForKeyboard(show->waitForShow()));
     e2e::PressKey(key);
   }
-  bool comes(base::Pixel pixel) {
-    return e2e::WaitFor([pixel] { return e2e::MiddlePixel() == pixel; });
-  }
+  bool comes(base::Pixel pixel) { return e2e::MiddleComesToBe(pixel); }
   bool showsNotes() {
     return ScreenComesToShow(
         [](const base::Bitmap& screen) { return !e2e::BoundsOf(screen, kBand).isEmpty(); });

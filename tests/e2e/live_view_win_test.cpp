@@ -184,7 +184,7 @@ TEST_F(LiveViewTest, ACrashLeavesWhatWasTried) {
   e2e::ClickOn(e2e::WaitForChild(dialog, L"Button", L"Move image down"));
   e2e::ClickOn(e2e::WaitForChild(dialog, L"Button", L"&Try It"));
   ASSERT_TRUE(e2e::WaitFor([&] { return program->findWindow(e2e::kShowClass) != nullptr; }));
-  ASSERT_TRUE(e2e::WaitFor([&] { return e2e::MiddlePixel() == base::OpaquePixel(kSecondPicture); }));
+  ASSERT_TRUE(e2e::MiddleComesToBe(base::OpaquePixel(kSecondPicture)));
   // A thread that begins at an address where nothing is.
   const os::OwnedHandle thread(CreateRemoteThread(
       program->process(), nullptr, 0, reinterpret_cast<LPTHREAD_START_ROUTINE>(8), nullptr, 0, nullptr));

@@ -15,9 +15,7 @@ namespace {
 using support::kBluePixel;
 using support::kRedPixel;
 
-bool MiddleComesToBe(base::Pixel pixel) {
-  return e2e::WaitFor([&] { return e2e::MiddlePixel() == pixel; }, 30000);
-}
+bool Comes(base::Pixel pixel) { return e2e::MiddleComesToBe(pixel, 30000); }
 
 // Empty when the test run could not make one.
 std::string SilentFile() {
@@ -33,9 +31,9 @@ TEST(LoadAhead, PicturesAppearInTheirOrderAndAKeyEndsTheShow) {
   folder.writeSettings();
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  EXPECT_TRUE(MiddleComesToBe(kRedPixel));
-  EXPECT_TRUE(MiddleComesToBe(kBluePixel));
-  EXPECT_TRUE(MiddleComesToBe(kRedPixel));
+  EXPECT_TRUE(Comes(kRedPixel));
+  EXPECT_TRUE(Comes(kBluePixel));
+  EXPECT_TRUE(Comes(kRedPixel));
   EXPECT_TRUE(show.endsByKey());
   EXPECT_EQ(show.exitCode(), 0U);
 }
@@ -51,8 +49,8 @@ TEST(LoadAhead, AFileThatDoesNotAnswerIsPassedOverAndAKeyEndsTheShow) {
   folder.writeSettings();
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  EXPECT_TRUE(MiddleComesToBe(kRedPixel));
-  EXPECT_TRUE(MiddleComesToBe(kBluePixel));
+  EXPECT_TRUE(Comes(kRedPixel));
+  EXPECT_TRUE(Comes(kBluePixel));
   EXPECT_TRUE(show.endsByKey());
   EXPECT_EQ(show.exitCode(), 0U);
 }

@@ -18,7 +18,7 @@ void RunShow(e2e::ProgramFolder& folder) {
   DeleteFileW((folder.path() + L"\\picture0.bmp").c_str());
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  ASSERT_TRUE(e2e::WaitFor([&] { return e2e::MiddlePixel() == kGreenPixel; }));
+  ASSERT_TRUE(e2e::MiddleComesToBe(kGreenPixel));
   EXPECT_TRUE(show.endsByKey());
 }
 

@@ -19,9 +19,7 @@ using support::kRedPixel;
 constexpr base::PixelSize kSize{200, 100};
 
 // What the middle of the screen shows.
-bool Comes(base::Pixel pixel) {
-  return e2e::WaitFor([&] { return e2e::MiddlePixel() == pixel; }, 30000);
-}
+bool Comes(base::Pixel pixel) { return e2e::MiddleComesToBe(pixel, 30000); }
 
 // The first picture that comes.
 base::Pixel FirstColour() {

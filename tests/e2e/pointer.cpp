@@ -18,6 +18,14 @@ INPUT PointerAt(int x, int y) {
   return input;
 }
 
+// The left button goes down and up, in an event as this one each.
+void Click(const INPUT& event) {
+  INPUT input[] = {event, event};
+  input[0].mi.dwFlags |= MOUSEEVENTF_LEFTDOWN;
+  input[1].mi.dwFlags |= MOUSEEVENTF_LEFTUP;
+  SendInput(2, input, sizeof(INPUT));
+}
+
 bool has_strayed = false;
 
 LRESULT CALLBACK OnPointerEvent(int code, WPARAM message, LPARAM details) {
@@ -29,21 +37,15 @@ LRESULT CALLBACK OnPointerEvent(int code, WPARAM message, LPARAM details) {
 }  // namespace
 
 void ClickMouse() {
-  INPUT input[2]{};
-  input[0].type = INPUT_MOUSE;
-  input[0].mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-  input[1] = input[0];
-  input[1].mi.dwFlags = MOUSEEVENTF_LEFTUP;
-  SendInput(2, input, sizeof(INPUT));
+  INPUT event{};
+  event.type = INPUT_MOUSE;
+  Click(event);
 }
 
 void ClickAt(int x, int y) {
   MoveMouseTo(x, y);
   // The place goes with each event: a move that the display reports late cannot lead the click elsewhere.
-  INPUT input[] = {PointerAt(x, y), PointerAt(x, y)};
-  input[0].mi.dwFlags |= MOUSEEVENTF_LEFTDOWN;
-  input[1].mi.dwFlags |= MOUSEEVENTF_LEFTUP;
-  SendInput(2, input, sizeof(INPUT));
+  Click(PointerAt(x, y));
 }
 
 void MoveMouseTo(int x, int y) {

@@ -8,6 +8,7 @@
 
 #include "os/utf16_win.h"
 #include "support/plain_show.h"
+#include "support/temporary_folder_win.h"
 
 namespace e2e {
 
@@ -85,12 +86,8 @@ std::string ProgramFolder::writeBitmap(const std::string& name, base::PixelSize 
 }
 
 std::string ProgramFolder::writeFile(const std::string& name, const std::string& bytes) const {
-  const std::string path = os::FromWide(path_) + "\\" + name;
-  const HANDLE file =
-      CreateFileW(os::ToWide(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-  DWORD written = 0;
-  WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-  CloseHandle(file);
+  std::string path = os::FromWide(path_) + "\\" + name;
+  support::WriteFileAt(path, bytes);
   return path;
 }
 
@@ -101,12 +98,7 @@ void ProgramFolder::writeSettings() const {
     settings["images/" + std::to_string(i)] = pictures_[i].first;
     settings["caption/" + std::to_string(i)] = pictures_[i].second;
   }
-  const std::string text = support::IniText(settings);
-  const HANDLE file =
-      CreateFileW(settingsFile().c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-  DWORD written = 0;
-  WriteFile(file, text.data(), static_cast<DWORD>(text.size()), &written, nullptr);
-  CloseHandle(file);
+  support::WriteFileAt(os::FromWide(settingsFile()), support::IniText(settings));
 }
 
 std::string ProgramFolder::readSettingsFile() const {

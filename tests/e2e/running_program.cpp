@@ -126,6 +126,10 @@ base::Pixel MiddlePixel() {
   return ScreenPixel(screen.width / 2, screen.height / 2);
 }
 
+bool MiddleComesToBe(base::Pixel pixel, int limitMs) {
+  return WaitFor([pixel] { return MiddlePixel() == pixel; }, limitMs);
+}
+
 base::PixelRect BoundsOf(const base::Bitmap& picture, base::Pixel pixel) {
   base::PixelRect bounds;
   for (int y = 0; y < picture.size().height; ++y) {

@@ -66,6 +66,7 @@ base::Bitmap ReadScreen();
 base::Bitmap ReadScreen(const base::PixelRect& part);
 base::Pixel ScreenPixel(int x, int y);
 base::Pixel MiddlePixel();  // of the primary screen
+bool MiddleComesToBe(base::Pixel pixel, int limitMs = 15000);
 base::PixelSize ScreenSize();
 
 // The smallest rectangle around all pixels of one colour; empty when there is none.

@@ -12,7 +12,7 @@
 #include "os/open_file_win.h"
 #include "os/picture_decoder_win.h"
 #include "pictures/picture_loader.h"
-#include "support/channel_distance.h"
+#include "support/channels.h"
 #include "support/hostile/bitmap_files.h"
 #include "support/temporary_folder_win.h"
 #include "support/wic_encoder_win.h"

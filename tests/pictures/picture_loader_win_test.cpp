@@ -9,7 +9,7 @@
 #include "os/open_file_win.h"
 #include "os/picture_decoder_win.h"
 #include "support/bmp_builder.h"
-#include "support/channel_distance.h"
+#include "support/channels.h"
 #include "support/colors.h"
 #include "support/gif_builder.h"
 #include "support/jpeg_builder.h"

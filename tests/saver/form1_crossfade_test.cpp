@@ -1,9 +1,9 @@
 // Crossfades and direct changes in the real show.
 #include <gtest/gtest.h>
 
+#include "support/channels.h"
 #include "support/colors.h"
 #include "support/look_show.h"
-#include "support/noise.h"
 
 namespace saver {
 namespace {

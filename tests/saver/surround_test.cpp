@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "support/noise.h"
+#include "support/channels.h"
 
 namespace saver {
 namespace {

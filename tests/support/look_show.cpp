@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "support/noise.h"
+#include "support/channels.h"
 
 namespace support {
 

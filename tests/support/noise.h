@@ -34,6 +34,4 @@ inline base::Bitmap OpaqueNoise(base::PixelSize size, std::uint64_t seed = 1) {
   return picture;
 }
 
-inline int Channel(base::Pixel pixel, int number) { return static_cast<int>((pixel >> (8 * number)) & 0xFF); }
-
 }  // namespace support
