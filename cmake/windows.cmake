@@ -35,7 +35,6 @@ function(build_small target)
   target_compile_options(${target}_small PRIVATE -Os)
   precompile(${target}_small ${ARGN})
   target_sources(${target} PRIVATE $<TARGET_OBJECTS:${target}_small>)
-  set_target_properties(${target}_small PROPERTIES UNITY_BUILD OFF)
 endfunction()
 if(CMAKE_BUILD_TYPE STREQUAL "Release")
   build_small(lumora_core)
@@ -59,7 +58,6 @@ else()
   list(APPEND program_link_options -Wl,--large-address-aware)
 endif()
 target_link_options(Lumora PRIVATE ${program_link_options})
-target_compile_options(lumora_flags INTERFACE -ffunction-sections -fdata-sections)
 
 # What the Start menu's entry of an installed Lumora runs.
 add_executable(LumoraSettings WIN32 src/startup/settings_entry_win.cpp src/startup/settings_entry.rc)
@@ -68,13 +66,17 @@ set_source_files_properties(src/startup/settings_entry.rc PROPERTIES OBJECT_DEPE
 target_link_libraries(LumoraSettings PRIVATE lumora_flags user32 kernel32)
 target_link_options(LumoraSettings PRIVATE ${program_link_options})
 
-# Sources are joined for the tests alone.
-set_target_properties(lumora_core lumora_win Lumora LumoraSettings PROPERTIES UNITY_BUILD OFF)
+# What the program does not use is left out of it, function by function. The tests are linked faster without.
+foreach(target lumora_core lumora_core_small lumora_win lumora_win_small Lumora LumoraSettings)
+  if(TARGET ${target})
+    target_compile_options(${target} PRIVATE
+      $<$<COMPILE_LANGUAGE:CXX>:-ffunction-sections> $<$<COMPILE_LANGUAGE:CXX>:-fdata-sections>)
+  endif()
+endforeach()
 
 if(LUMORA_TESTS)
   add_library(lumora_win_support STATIC EXCLUDE_FROM_ALL ${windows_support_sources})
   target_link_libraries(lumora_win_support PUBLIC lumora_support lumora_win)
-  precompile(lumora_win_support ${windows_headers} ${test_headers})
 
   # The tests' windows are those of the program: with its manifest, in the system's visual style.
   add_executable(lumora_win_tests ${windows_test_sources} tests/support/win_tests.rc)

@@ -5,6 +5,7 @@
 
 #include "base/number_text.h"
 #include "dialog/caption_templates.h"
+#include "dialog/control_table.h"
 #include "dialog/look_table.h"
 #include "dialog/more_table.h"
 #include "settings/extra_values.h"
@@ -13,9 +14,6 @@
 namespace dialog {
 
 namespace {
-
-constexpr int kClientWidth = 644;
-constexpr int kClientHeight = 530;
 
 std::string TimeInWords(const std::string& text) {
   const std::optional<int> ms = settings::ParseTransitionTime(text);
@@ -44,7 +42,7 @@ MoreOptions::MoreOptions(const DialogServices& services, MoreChoices given)
 
 void MoreOptions::layOut() {
   setCaption("More Options");
-  setClientSize(Twips(kClientWidth), Twips(kClientHeight));
+  setClientSize(Twips(kClientWidth), Twips(kClientHeight));  // as large as the settings dialog
   LayOut(*this, MoreControlTable(), MoreRangeTable());
   for (int i = 0; i < tabs.tabCount(); ++i) {
     // One row of tabs; the host measures its real height.

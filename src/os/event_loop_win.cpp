@@ -12,7 +12,7 @@ namespace os {
 
 namespace {
 
-constexpr const wchar_t* kClassName = L"LumoraEventLoop";
+constexpr const wchar_t* kLoopClass = L"LumoraEventLoop";
 constexpr std::int64_t kLongestSleepMs = 60 * 60 * 1000;
 constexpr LONG kLongestPassMs = 100;
 
@@ -44,8 +44,8 @@ bool EndsPass(const MSG& message, DWORD start) {
 }  // namespace
 
 EventLoopWin::EventLoopWin(const Clock& clock) : clock_(clock), alarm_(CreateAlarm()) {
-  RegisterWindowClass(kClassName, Procedure);
-  window_.reset(CreateWindowExW(0, kClassName, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
+  RegisterWindowClass(kLoopClass, Procedure);
+  window_.reset(CreateWindowExW(0, kLoopClass, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
                                 GetModuleHandleW(nullptr), this));
   if (!window_) ThrowLastError("the event loop's window");
 }

@@ -10,7 +10,7 @@ namespace os {
 
 namespace {
 
-constexpr const wchar_t* kClassName = L"LumoraPreviewFollower";
+constexpr const wchar_t* kFollowerClass = L"LumoraPreviewFollower";
 
 HWND HandleOf(std::intptr_t window) { return reinterpret_cast<HWND>(window); }
 
@@ -75,10 +75,10 @@ bool ForeignWindowWin::holdsAnother(std::intptr_t window) {
 }
 
 void ForeignWindowWin::follow(std::intptr_t window, std::function<void()> closed) {
-  RegisterWindowClass(kClassName, Procedure);
+  RegisterWindowClass(kFollowerClass, Procedure);
   closed_ = std::move(closed);
-  follower_ = CreateWindowExW(WS_EX_NOPARENTNOTIFY, kClassName, L"", WS_CHILD, 0, 0, 0, 0, HandleOf(window),
-                              nullptr, GetModuleHandleW(nullptr), this);
+  follower_ = CreateWindowExW(WS_EX_NOPARENTNOTIFY, kFollowerClass, L"", WS_CHILD, 0, 0, 0, 0,
+                              HandleOf(window), nullptr, GetModuleHandleW(nullptr), this);
 }
 
 LRESULT CALLBACK ForeignWindowWin::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -9,14 +9,14 @@ namespace os {
 
 namespace {
 
-constexpr const wchar_t* kClassName = L"LumoraMailbox";
+constexpr const wchar_t* kMailboxClass = L"LumoraMailbox";
 constexpr UINT kPosted = WM_APP;  // the next event is to be run
 
 }  // namespace
 
 MailboxWin::MailboxWin(EventLoop& loop) : loop_(loop) {
-  RegisterWindowClass(kClassName, Procedure);
-  window_.reset(CreateWindowExW(0, kClassName, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
+  RegisterWindowClass(kMailboxClass, Procedure);
+  window_.reset(CreateWindowExW(0, kMailboxClass, L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
                                 GetModuleHandleW(nullptr), this));
   if (!window_) {
     throw std::system_error(static_cast<int>(GetLastError()), std::system_category(), "the mailbox's window");

@@ -15,7 +15,7 @@ import sys
 
 import yaml
 
-URL = r"(?=.{1,2048}$)https?://[^\s$]+"
+URL = r"(?=.{1,2048}$)https?://[a-zA-Z0-9.-]+(:[0-9]+)?(/([a-zA-Z0-9._~:/?@!&'()*+,;=-]|%[a-fA-F0-9]{2})*)?"
 VERSION = r"[^\\/:*?\"<>|\x01-\x1f]{1,128}"
 IDENTIFIER = r"(?=.{1,128}$)[^.\s\\/:*?\"<>|\x01-\x1f]{1,32}(\.[^.\s\\/:*?\"<>|\x01-\x1f]{1,32}){1,7}"
 LOCALE = r"(?=.{1,20}$)([a-zA-Z]{2,3}|[iI]-[a-zA-Z]+|[xX]-[a-zA-Z]{1,8})(-[a-zA-Z]{1,8})*"
@@ -39,7 +39,8 @@ class Items:
 
 def is_date(value):
     try:
-        return isinstance(value, str) and len(value) == 10 and bool(datetime.date.fromisoformat(value))
+        return (isinstance(value, str) and re.fullmatch(r"[0-9]{4}-[0-9]{2}-[0-9]{2}", value) is not None
+                and bool(datetime.date.fromisoformat(value)))
     except ValueError:
         return False
 
@@ -56,17 +57,17 @@ WINGET_INSTALLER = {
     **WINGET_HEAD,
     "ManifestType!": "installer",
     "Platform": Items(one_of("Windows.Desktop", "Windows.Universal"), 2),
-    "InstallerType": one_of("msix", "msi", "appx", "exe", "zip", "inno", "nullsoft", "wix", "burn", "pwa", "portable"),
+    "InstallerType!": one_of("msix", "msi", "appx", "exe", "zip", "inno", "nullsoft", "wix", "burn", "pwa", "portable"),
     "Scope": one_of("user", "machine"),
     "InstallModes": Items(one_of("interactive", "silent", "silentWithProgress"), 3),
     "UpgradeBehavior": one_of("install", "uninstallPrevious"),
     "ExpectedReturnCodes": Items({
-        "InstallerReturnCode": is_return_code,
-        "ReturnResponse": one_of("packageInUse", "packageInUseByApplication", "installInProgress", "fileInUse",
-                                 "missingDependency", "diskFull", "insufficientMemory", "invalidParameter",
-                                 "noNetwork", "contactSupport", "rebootRequiredToFinish",
-                                 "rebootRequiredForInstall", "rebootInitiated", "cancelledByUser",
-                                 "alreadyInstalled", "downgrade", "blockedByPolicy", "systemNotSupported", "custom"),
+        "InstallerReturnCode!": is_return_code,
+        "ReturnResponse!": one_of("packageInUse", "packageInUseByApplication", "installInProgress", "fileInUse",
+                                  "missingDependency", "diskFull", "insufficientMemory", "invalidParameter",
+                                  "noNetwork", "contactSupport", "rebootRequiredToFinish",
+                                  "rebootRequiredForInstall", "rebootInitiated", "cancelledByUser",
+                                  "alreadyInstalled", "downgrade", "blockedByPolicy", "systemNotSupported", "custom"),
     }, 128, is_set=False),
     "ReleaseDate": is_date,
     "AppsAndFeaturesEntries": Items({
@@ -88,7 +89,7 @@ WINGET_LOCALE = {
 SCOOP_ARCHITECTURE = {"url!": URL, "hash!": SHA256}
 SCOOP_LINES = Items(text(1, 1000), 1000, fewest=1, is_set=False)
 SCOOP = {
-    "version!": r"[\w\-.+_]+", "description": text(1, 1000), "homepage": URL, "license": text(1, 100),
+    "version!": r"[\w\-.+_]+", "description": text(1, 1000), "homepage!": URL, "license!": text(1, 100),
     "notes": SCOOP_LINES, "extract_dir": text(1, 100), "pre_install": text(1, 1000),
     "architecture": {"64bit": SCOOP_ARCHITECTURE, "32bit": SCOOP_ARCHITECTURE},
     # The target in the folder, the name, and where they are wanted the arguments and the icon.
