@@ -101,7 +101,7 @@ if(LUMORA_TESTS)
   endforeach()
 
   file(GLOB bench_sources CONFIGURE_DEPENDS tests/bench/*.cpp)
-  add_executable(lumora_bench EXCLUDE_FROM_ALL ${bench_sources} tests/e2e/dialog_hands.cpp tests/e2e/keyboard.cpp
+  add_executable(lumora_bench ${bench_sources} tests/e2e/dialog_hands.cpp tests/e2e/keyboard.cpp
                  tests/e2e/pointer.cpp tests/e2e/program_folder.cpp tests/e2e/running_program.cpp
                  tests/support/win_tests.rc)
   target_link_libraries(lumora_bench PRIVATE lumora_win_support ntdll)

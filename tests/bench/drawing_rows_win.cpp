@@ -8,6 +8,7 @@
 #include "bench/bench_stage_win.h"
 #include "bench/bench_table.h"
 #include "bench/rows.h"
+#include "bench/screen.h"
 #include "bench/whole_copy_win.h"
 #include "pictures/picture.h"
 #include "saver/transitions/effects.h"
@@ -19,7 +20,6 @@ namespace bench {
 
 namespace {
 
-constexpr base::PixelSize kScreen{1920, 1080};
 constexpr int kEffectMs = 1000;
 
 // A window that counts the pixels that are put on the screen.

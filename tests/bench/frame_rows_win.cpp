@@ -9,6 +9,7 @@
 #include "bench/frames_in_time.h"
 #include "bench/passing_loop.h"
 #include "bench/rows.h"
+#include "bench/screen.h"
 #include "os/clock_win.h"
 #include "os/event_loop_win.h"
 #include "pictures/picture.h"
@@ -19,7 +20,6 @@ namespace bench {
 
 namespace {
 
-constexpr base::PixelSize kScreen{1920, 1080};
 constexpr int kEffectMs = 2000;
 constexpr int kFrames = kEffectMs * 60 / 1000;
 constexpr double kFrameMs = 1000.0 / 60;

@@ -12,6 +12,7 @@
 #include "bench/bench_table.h"
 #include "bench/passing_loop.h"
 #include "bench/rows.h"
+#include "bench/screen.h"
 #include "e2e/program_folder.h"
 #include "e2e/running_program.h"
 #include "os/clock_win.h"
@@ -27,7 +28,6 @@ namespace bench {
 
 namespace {
 
-constexpr base::PixelSize kScreen{1920, 1080};
 constexpr base::PixelSize kShown{1440, 1080};  // of a picture of 4 to 3
 constexpr base::Pixel kSign = 0xFF00C000U;     // in the middle of every picture
 

@@ -9,6 +9,7 @@
 #include "bench/bench_table.h"
 #include "bench/processor_time_win.h"
 #include "bench/rows.h"
+#include "bench/screen.h"
 #include "os/dib_win.h"
 #include "saver/crossfade.h"
 #include "saver/gliding_picture.h"
@@ -17,7 +18,6 @@ namespace bench {
 
 namespace {
 
-constexpr base::PixelSize kScreen{1920, 1080};
 constexpr base::PixelSize kLargeScreen{3840, 2160};
 constexpr int kGlideMs = 10'000;
 constexpr int kPercent = 8;
@@ -70,10 +70,10 @@ class Frames {
 
 // Of a second of one core, what so many frames take of all cores; of many more, since readings are coarse.
 double ShareOfACore(const std::function<void()>& frame, int framesPerSecond) {
-  constexpr int kFrames = 300;
+  constexpr int kManyFrames = 300;
   const double before = ProcessorMs(GetCurrentProcess());
-  for (int i = 0; i < kFrames; ++i) frame();
-  return (ProcessorMs(GetCurrentProcess()) - before) / kFrames * framesPerSecond / 1000;
+  for (int i = 0; i < kManyFrames; ++i) frame();
+  return (ProcessorMs(GetCurrentProcess()) - before) / kManyFrames * framesPerSecond / 1000;
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "bench/bench_table.h"
 #include "bench/heap_count_win.h"
 #include "bench/rows.h"
+#include "bench/screen.h"
 #include "os/files_win.h"
 #include "os/picture_decoder_win.h"
 #include "os/utf16_win.h"
@@ -25,8 +26,6 @@ namespace bench {
 namespace {
 
 using Microsoft::WRL::ComPtr;
-
-constexpr base::PixelSize kScreen{1920, 1080};
 
 void Check(HRESULT result) {
   if (FAILED(result)) throw std::runtime_error("the decoder refused a picture of the benchmark");

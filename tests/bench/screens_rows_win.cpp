@@ -21,7 +21,7 @@ namespace bench {
 namespace {
 
 // Beside each other on one screen of 1920 x 1080, which all of this does as well as three.
-constexpr base::PixelSize kScreen{960, 540};
+constexpr base::PixelSize kEachScreen{960, 540};
 constexpr base::PixelRect kPlaces[] = {{0, 0, 960, 540}, {960, 0, 960, 540}, {0, 540, 960, 540}};
 
 constexpr int kRightWipe = 2;
@@ -57,7 +57,7 @@ class Wipe {
   explicit Wipe(int screens) {
     for (int i = 0; i < screens; ++i) stages_.push_back(std::make_unique<BenchStage>(kPlaces[i]));
     for (const auto& stage : stages_) {
-      stage->placePicture(base::PixelRect::ofSize(kScreen));
+      stage->placePicture(base::PixelRect::ofSize(kEachScreen));
       stage->picture.setVisible(true);
     }
     prepare();
@@ -86,8 +86,9 @@ class Wipe {
 
  private:
   std::vector<std::unique_ptr<BenchStage>> stages_;
-  pictures::SharedPicture first_ = pictures::MakePicture(std::make_shared<base::Bitmap>(PhotoLike(kScreen)));
-  base::SharedBitmap second_ = std::make_shared<base::Bitmap>(kScreen, 0xFF336699);
+  pictures::SharedPicture first_ =
+      pictures::MakePicture(std::make_shared<base::Bitmap>(PhotoLike(kEachScreen)));
+  base::SharedBitmap second_ = std::make_shared<base::Bitmap>(kEachScreen, 0xFF336699);
   support::FakeClock clock_;
   FrameTimes loop_{clock_};
 };
@@ -96,7 +97,7 @@ void BenchWipe() {
   Wipe wipe(3);
   std::vector<WholeCopy> copies;
   copies.reserve(std::size(kPlaces));
-  for (int screen = 0; screen < 3; ++screen) copies.emplace_back(PhotoLike(kScreen), wipe.window(screen));
+  for (int screen = 0; screen < 3; ++screen) copies.emplace_back(PhotoLike(kEachScreen), wipe.window(screen));
   const auto copyEach = [&] {
     for (const WholeCopy& copy : copies) copy.run();
   };
@@ -132,9 +133,10 @@ void BenchWipe() {
 double MostBytes(const std::vector<base::PixelRect>& further) {
   const os::ClockWin clock;
   os::EventLoopWin loop(clock);
-  support::RealShow show(clock, loop, kScreen);
+  support::RealShow show(clock, loop, kEachScreen);
   for (const char* name : {"a.bmp", "b.bmp", "c.bmp", "d.bmp", "e.bmp", "f.bmp"}) {
-    show.addPicture(name, support::TrueColorBmp(PhotoLike(kScreen), support::RowOrder::bottomUp), "Caption");
+    show.addPicture(name, support::TrueColorBmp(PhotoLike(kEachScreen), support::RowOrder::bottomUp),
+                    "Caption");
   }
   show.addFurtherScreens(further);
   show.set("extras/otherScreens", "different");
@@ -165,7 +167,7 @@ void BenchMemory() {
   const double one = MostBytes({});
   const double three = MostBytes({kPlaces[1], kPlaces[2]});
   const double pixelBytes =
-      static_cast<double>(base::PixelRect::ofSize(kScreen).area()) * sizeof(base::Pixel);
+      static_cast<double>(base::PixelRect::ofSize(kEachScreen).area()) * sizeof(base::Pixel);
   PrintRow("memory at the most for each further screen of a show", "the pixels of that screen",
            (three - one) / 2 / pixelBytes, "<= 6 times");
   PrintRow("memory at the most of a show on one screen", "the pixels of that screen", one / pixelBytes,
