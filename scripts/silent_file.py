@@ -40,7 +40,8 @@ def answer(opcode, node, body):
     if opcode == GETATTR:
         return struct.pack("<QII", A_DAY, 0, 0) + attributes(node)
     if opcode == OPEN:
-        # Without a cache: its pages are locked while a read waits, and the next one who opens the file would wait for them.
+        # Without a cache: its pages are locked while a read waits, and the next one who opens the file would wait for
+        # them.
         return struct.pack("<QII", 0, DIRECT_IO | KEEP_CACHE, 0)
     if opcode == OPENDIR:
         return struct.pack("<QII", 0, 0, 0)

@@ -41,14 +41,13 @@ class KeysTest : public testing::Test {
     folder.writeSettings();
     show = std::make_unique<e2e::RunningProgram>(folder.program(), L"/S");
     ASSERT_NE(show->waitForShow(), nullptr);
-    ASSERT_TRUE(comes(kRedPixel));
+    ASSERT_TRUE(e2e::MiddleComesToBe(kRedPixel));
   }
   // A key that comes before the window has the keyboard is somebody else's.
   void press(WORD key) {
     ASSERT_TRUE(e2e::WaitForKeyboard(show->waitForShow()));
     e2e::PressKey(key);
   }
-  bool comes(base::Pixel pixel) { return e2e::MiddleComesToBe(pixel); }
   bool showsNotes() {
     return ScreenComesToShow(
         [](const base::Bitmap& screen) { return !e2e::BoundsOf(screen, kBand).isEmpty(); });
@@ -65,13 +64,13 @@ class KeysTest : public testing::Test {
 TEST_F(KeysTest, StepThroughTheShowAndEscapeEndsIt) {
   start();
   press(VK_RIGHT);
-  EXPECT_TRUE(comes(kGreenPixel));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kGreenPixel));
   press('N');
-  EXPECT_TRUE(comes(kBluePixel));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kBluePixel));
   press(VK_PRIOR);
-  EXPECT_TRUE(comes(kGreenPixel));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kGreenPixel));
   press('B');
-  EXPECT_TRUE(comes(kRedPixel));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kRedPixel));
   press(VK_ESCAPE);
   EXPECT_TRUE(show->waitForEnd());
   EXPECT_EQ(show->exitCode(), 0U);
@@ -82,10 +81,10 @@ TEST_F(KeysTest, StepWhereThePicturesAreLoadedAheadToo) {
   start();
   for (const base::Pixel pixel : {kGreenPixel, kBluePixel, kRedPixel}) {
     press(VK_RIGHT);
-    EXPECT_TRUE(comes(pixel));
+    EXPECT_TRUE(e2e::MiddleComesToBe(pixel));
   }
   press(VK_LEFT);
-  EXPECT_TRUE(comes(kBluePixel));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kBluePixel));
 }
 
 TEST_F(KeysTest, HoldThePictureUntilTheShowIsToGoOn) {
@@ -111,7 +110,7 @@ TEST_F(KeysTest, TellAboutThePictureAndShowTheKeys) {
   EXPECT_TRUE(e2e::WaitFor([] { return e2e::MiddlePixel() != kRedPixel; })) << "in the middle";
   EXPECT_TRUE(showsNotes());
   press('H');
-  EXPECT_TRUE(comes(kRedPixel));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kRedPixel));
   EXPECT_TRUE(show->isRunning());
 }
 
@@ -121,16 +120,16 @@ TEST_F(KeysTest, APictureThatIsPutAwayComesInNoShowAgainAndItsFileStays) {
   EXPECT_TRUE(showsNotes());
   EXPECT_EQ(e2e::MiddlePixel(), kRedPixel);
   press(VK_DELETE);
-  EXPECT_TRUE(comes(kGreenPixel));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kGreenPixel));
   press(VK_RIGHT);
-  EXPECT_TRUE(comes(kBluePixel));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kBluePixel));
   press(VK_RIGHT);
-  EXPECT_TRUE(comes(kGreenPixel));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kGreenPixel));
   press(VK_ESCAPE);
   EXPECT_TRUE(show->waitForEnd());
   e2e::RunningProgram again(folder.program(), L"/S");
   ASSERT_NE(again.waitForShow(), nullptr);
-  EXPECT_TRUE(comes(kGreenPixel)) << "the next show begins with the second";
+  EXPECT_TRUE(e2e::MiddleComesToBe(kGreenPixel)) << "the next show begins with the second";
   EXPECT_NE(GetFileAttributesW((folder.path() + L"\\picture0.bmp").c_str()), INVALID_FILE_ATTRIBUTES);
 }
 
@@ -193,7 +192,7 @@ std::wstring CommandLineOf(HANDLE process) {
 TEST_F(KeysTest, EndTheShowAndOpenTheFolderOfThePicture) {
   start();
   press(VK_RIGHT);
-  EXPECT_TRUE(comes(kGreenPixel));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kGreenPixel));
   StartedProcesses started(show->process());
   press('O');
   const os::OwnedHandle shell = started.next(show->processId());

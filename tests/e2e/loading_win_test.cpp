@@ -15,8 +15,6 @@ namespace {
 using support::kBluePixel;
 using support::kRedPixel;
 
-bool Comes(base::Pixel pixel) { return e2e::MiddleComesToBe(pixel, 30000); }
-
 // Empty when the test run could not make one.
 std::string SilentFile() {
   wchar_t path[MAX_PATH];
@@ -31,9 +29,9 @@ TEST(LoadAhead, PicturesAppearInTheirOrderAndAKeyEndsTheShow) {
   folder.writeSettings();
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  EXPECT_TRUE(Comes(kRedPixel));
-  EXPECT_TRUE(Comes(kBluePixel));
-  EXPECT_TRUE(Comes(kRedPixel));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kRedPixel, e2e::kLongShowMs));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kBluePixel, e2e::kLongShowMs));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kRedPixel, e2e::kLongShowMs));
   EXPECT_TRUE(show.endsByKey());
   EXPECT_EQ(show.exitCode(), 0U);
 }
@@ -49,8 +47,8 @@ TEST(LoadAhead, AFileThatDoesNotAnswerIsPassedOverAndAKeyEndsTheShow) {
   folder.writeSettings();
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  EXPECT_TRUE(Comes(kRedPixel));
-  EXPECT_TRUE(Comes(kBluePixel));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kRedPixel, e2e::kLongShowMs));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kBluePixel, e2e::kLongShowMs));
   EXPECT_TRUE(show.endsByKey());
   EXPECT_EQ(show.exitCode(), 0U);
 }

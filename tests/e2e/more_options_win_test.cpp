@@ -149,7 +149,7 @@ class MoreOptionsTest : public testing::Test {
   void expectTheShowToShowIt() {
     e2e::RunningProgram show(folder.program(), L"/S");
     ASSERT_NE(show.waitForShow(), nullptr);
-    ASSERT_TRUE(e2e::MiddleComesToBe(base::OpaquePixel(kAlbumRed), 30000));
+    ASSERT_TRUE(e2e::MiddleComesToBe(base::OpaquePixel(kAlbumRed), e2e::kLongShowMs));
     EXPECT_TRUE(e2e::WaitFor([] { return seesCaption(); }));
     bool mixed = false;
     EXPECT_TRUE(e2e::WaitFor([&] {

@@ -18,9 +18,6 @@ using support::kGreenPixel;
 using support::kRedPixel;
 constexpr base::PixelSize kSize{200, 100};
 
-// What the middle of the screen shows.
-bool Comes(base::Pixel pixel) { return e2e::MiddleComesToBe(pixel, 30000); }
-
 // The first picture that comes.
 base::Pixel FirstColour() {
   base::Pixel seen = 0;
@@ -29,7 +26,7 @@ base::Pixel FirstColour() {
         seen = e2e::MiddlePixel();
         return seen == kRedPixel || seen == kGreenPixel || seen == kBluePixel;
       },
-      30000);
+      e2e::kLongShowMs);
   return seen;
 }
 
@@ -76,7 +73,7 @@ bool LeavesTheIndex(const e2e::ProgramFolder& folder, const std::string& name) {
         const std::string content = Content(path);
         return !content.empty() && content.find(name) == std::string::npos;
       },
-      30000);
+      e2e::kLongShowMs);
 }
 
 TEST(FollowedFolders, FilesThatComeGoAndAreRenamedDuringTheShowJoinAndLeaveIt) {
@@ -90,12 +87,14 @@ TEST(FollowedFolders, FilesThatComeGoAndAreRenamedDuringTheShowJoinAndLeaveIt) {
   folder.writeSettings();
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  EXPECT_TRUE(Comes(kRedPixel)) << "the list is empty but for the folder's picture";
+  EXPECT_TRUE(e2e::MiddleComesToBe(kRedPixel, e2e::kLongShowMs))
+      << "the list is empty but for the folder's picture";
   folder.writeBitmap("pictures\\green.bmp", kSize, base::Rgb(0, 255, 0));
-  EXPECT_TRUE(Comes(kGreenPixel)) << "a new file joins";
+  EXPECT_TRUE(e2e::MiddleComesToBe(kGreenPixel, e2e::kLongShowMs)) << "a new file joins";
   folder.writeBitmap("pictures\\deep\\blue.tmp", kSize, base::Rgb(0, 0, 255));
   MoveFileW((pictures + L"\\deep\\blue.tmp").c_str(), (pictures + L"\\deep\\blue.bmp").c_str());
-  EXPECT_TRUE(Comes(kBluePixel)) << "a file that is a picture by its new name joins";
+  EXPECT_TRUE(e2e::MiddleComesToBe(kBluePixel, e2e::kLongShowMs))
+      << "a file that is a picture by its new name joins";
   // While the show reads it, it cannot be deleted.
   EXPECT_TRUE(
       e2e::WaitFor([&] { return DeleteFileW((pictures + L"\\deep\\red.bmp").c_str()) != FALSE; }, 10000));
@@ -117,7 +116,7 @@ TEST(FollowedFolders, AFolderThatIsNotThereHoldsNothingUp) {
   folder.writeSettings();
   e2e::RunningProgram show(folder.program(), L"/S");
   ASSERT_NE(show.waitForShow(), nullptr);
-  EXPECT_TRUE(Comes(kRedPixel));
+  EXPECT_TRUE(e2e::MiddleComesToBe(kRedPixel, e2e::kLongShowMs));
   EXPECT_TRUE(show.endsByKey());
   EXPECT_EQ(show.exitCode(), 0U);
 }
@@ -144,7 +143,7 @@ TEST_F(ResumedShow, BeginsWithThePictureAfterTheLastOne) {
     e2e::RunningProgram show(folder.program(), L"/S");
     ASSERT_NE(show.waitForShow(), nullptr);
     EXPECT_EQ(FirstColour(), kRedPixel);
-    ASSERT_TRUE(Comes(kGreenPixel));
+    ASSERT_TRUE(e2e::MiddleComesToBe(kGreenPixel, e2e::kLongShowMs));
     EXPECT_TRUE(show.endsByKey());
   }
   e2e::RunningProgram show(folder.program(), L"/S");
@@ -160,7 +159,7 @@ struct EndedShow : ResumedShow {
     {
       e2e::RunningProgram show(folder.program(), L"/S");
       ASSERT_NE(show.waitForShow(), nullptr);
-      ASSERT_TRUE(Comes(kGreenPixel));
+      ASSERT_TRUE(e2e::MiddleComesToBe(kGreenPixel, e2e::kLongShowMs));
       way(show);
       ASSERT_TRUE(show.waitForEnd());
     }
@@ -199,7 +198,7 @@ TEST_F(ResumedShow, AShowThatIsKilledLeavesWhatWasRememberedBefore) {
   {
     e2e::RunningProgram show(folder.program(), L"/S");
     ASSERT_NE(show.waitForShow(), nullptr);
-    ASSERT_TRUE(Comes(kGreenPixel));
+    ASSERT_TRUE(e2e::MiddleComesToBe(kGreenPixel, e2e::kLongShowMs));
     EXPECT_TRUE(show.endsByKey());
   }
   const std::string state = Content(folder.path() + L"\\lumora.state");

@@ -67,6 +67,7 @@ base::Bitmap ReadScreen(const base::PixelRect& part);
 base::Pixel ScreenPixel(int x, int y);
 base::Pixel MiddlePixel();  // of the primary screen
 bool MiddleComesToBe(base::Pixel pixel, int limitMs = 15000);
+inline constexpr int kLongShowMs = 30000;  // a limit for what comes after several other pictures or a listing
 base::PixelSize ScreenSize();
 
 // The smallest rectangle around all pixels of one colour; empty when there is none.
